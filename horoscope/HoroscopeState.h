@@ -1,0 +1,78 @@
+#pragma once
+
+#include "runtime/Moment.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace kelvaro {
+
+/// The horoscope in force: preferences, birth details as entered, and the results of the last run.
+///
+/// A plain record. Longitudes are degrees of the sidereal zodiac (tropical when the ayanamsa is "Sayana"); rasi
+/// numbers run from 1 (Aries, Mesha) to 12 (Pisces, Meena). Birth details are texts where they are copied
+/// straight from the entry fields. Results are overwritten by each run and never cleared.
+struct HoroscopeState {
+    // Preferences in force.
+    double DaysInYear = 365.25; ///< year length of the dasa arithmetic, days
+    std::string ChartStyle = "South";
+    std::string Language = "English";
+    double PrefYear = 0;     ///< zero year of the custom ayanamsa
+    double PrefProgress = 0; ///< yearly progress of the custom ayanamsa, seconds of arc
+    std::string AyanamsaName = "Lahiri";
+    std::string BhavaSystem = "Equal";
+
+    // The copies that the astronomy receives.
+    std::string AyanamsaInForce = "Lahiri";
+    double YearInForce = 0;
+    double ProgressInForce = 0;
+
+    // Birth details. At first they are those of the sample chart.
+    std::string ChartName = "Velnesh";
+    std::string BirthDay = "14";
+    std::string BirthMonth = "Jul"; ///< name or number
+    std::string BirthYear = "1965";
+    std::string BirthHour = "14"; ///< on a 24-hour clock
+    std::string BirthMinute = "15";
+    std::string BirthTimeZoneName;
+    Moment BirthMoment;
+    std::string BirthGender = "Male";
+    std::string BirthCity = "Hyderabad (A.P)";
+    std::string BirthCountry = "India";
+    double LatDeg = 17;
+    double LatMin = 20;
+    std::string LatNS = "N";
+    double LonDeg = 78;
+    double LonMin = 30;
+    std::string LonEW = "E";
+    double TimeDiff = 5.5; ///< hours from Greenwich, its direction in TimeDiffEW
+    std::string TimeDiffEW = "E";
+
+    // Results of a position pass.
+    Moment BirthMomentDate;
+    double Ayanamsa = 0; ///< degrees added to tropical longitudes, normally negative
+    double MidHeaven = 0;
+    double LagnaLon = 0, SunLon = 0, MoonLon = 0, MarsLon = 0, MercuryLon = 0, JupiterLon = 0, VenusLon = 0,
+           SaturnLon = 0, RahuLon = 0, KetuLon = 0, GulikaLon = 0, MaandiLon = 0;
+    /// Rasi or Navamsa numbers, by the division size of the pass that ran last.
+    std::int16_t LagnaRasi = 0, SunRasi = 0, MoonRasi = 0, MarsRasi = 0, MercuryRasi = 0, JupiterRasi = 0,
+                 VenusRasi = 0, SaturnRasi = 0, RahuRasi = 0, KetuRasi = 0, GulikaRasi = 0, MaandiRasi = 0;
+    /// Of the civil date of birth and of the date after it.
+    Moment SunriseOfBirthDay, SunsetOfBirthDay, SunriseNextDay;
+    /// Of the astrological day, sunrise to sunrise, that holds the birth.
+    Moment DayCurrentDate, DaySunrise, DaySunset, DayNextSunrise;
+    std::string DayOrNight;
+    Moment GulikaDay, GulikaNight, MandiDay, MandiNight;
+    Moment GulikaMoment, MandiMoment;
+
+    // Name tables of the language in force. The two planet tables differ in order: address them by Body only.
+    std::array<std::string, 12> ShortNames; ///< Lagna to Ketu, Jupiter before Venus, then Gulika, Maandi
+    std::array<std::string, 10> LongNames;  ///< Lagna to Ketu, Venus before Jupiter
+    std::array<std::string, 12> RasiNames;  ///< rasi 1 at index 0
+    std::array<std::string, 12> RasiShortNames;
+    std::string GulikaLongName = "Gulika";
+    std::string MaandiLongName = "Maandi";
+};
+
+} // namespace kelvaro

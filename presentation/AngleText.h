@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace kelvaro {
+
+/// Degrees within the sign: takes 30 off while the value is at least 30. Values below 30 stay as they are.
+double FoldToSign(double position);
+
+/// The sign, or the part of another width in degrees, that holds a longitude: 1 to 12, counted on
+/// through the circle.
+std::int16_t SignOfLongitude(double position, double width);
+
+/// "12.5" for 12 degrees 5 minutes. Not a decimal fraction; a minute value of 60 can appear, since degrees are never
+/// carried.
+std::string DegreeMinuteText(double value);
+
+/// "12.5.9" for 12 degrees 5 minutes 9 seconds, under the same rules.
+std::string DegreeMinuteSecondText(double value);
+
+} // namespace kelvaro

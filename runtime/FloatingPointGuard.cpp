@@ -1,0 +1,30 @@
+#include "runtime/FloatingPointGuard.h"
+
+#include "runtime/RuntimeError.h"
+
+#include <cfenv>
+#include <string>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr int faults = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
+
+} // namespace
+
+FloatingPointGuard::FloatingPointGuard() noexcept { std::feclearexcept(faults); }
+
+void FloatingPointGuard::Check(const char *step) const {
+    const int raised = std::fetestexcept(faults);
+    if (raised == 0) {
+        return;
+    }
+    std::feclearexcept(faults);
+    const char *fault = (raised & FE_DIVBYZERO) != 0  ? "Division by zero in "
+                        : (raised & FE_OVERFLOW) != 0 ? "Overflow in "
+                                                      : "Invalid floating-point operation in ";
+    throw ArithmeticError(std::string(fault) + step);
+}
+
+} // namespace kelvaro

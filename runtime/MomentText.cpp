@@ -1,0 +1,207 @@
+#include "runtime/MomentText.h"
+
+#include "runtime/RuntimeError.h"
+
+#include <array>
+#include <charconv>
+#include <cstdio>
+#include <optional>
+#include <system_error>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr std::array<std::string_view, 12> monthNames{"January",   "February", "March",    "April",
+                                                      "May",       "June",     "July",     "August",
+                                                      "September", "October",  "November", "December"};
+
+constexpr std::array<std::string_view, 7> weekdayNames{"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                       "Thursday", "Friday", "Saturday"};
+
+constexpr char Lower(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
+bool SameIgnoringCase(std::string_view a, std::string_view b) {
+    if (a.size() != b.size()) {
+        return false;
+    }
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (Lower(a[i]) != Lower(b[i])) {
+            return false;
+        }
+    }
+    return true;
+}
+
+[[noreturn]] void FailToRead(std::string_view text, const char *wanted) {
+    throw ConversionError("Type mismatch: \"" + std::string(text) + "\" is not " + wanted);
+}
+
+std::optional<int> WholeNumber(std::string_view digits) {
+    int value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (digits.empty() || digits.front() == '-' || error != std::errc{} || end != digits.data() + digits.size()) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+/// Walks a text from left to right, passing over blanks before each part.
+class Reader {
+public:
+    explicit Reader(std::string_view text) : rest_(text) {}
+
+    std::string_view Word() {
+        SkipBlanks();
+        const auto end = rest_.find_first_of(" \t/:-");
+        const std::string_view word = rest_.substr(0, end);
+        rest_.remove_prefix(word.size());
+        return word;
+    }
+
+    bool Take(char mark) {
+        SkipBlanks();
+        if (rest_.empty() || rest_.front() != mark) {
+            return false;
+        }
+        rest_.remove_prefix(1);
+        return true;
+    }
+
+    bool AtEnd() {
+        SkipBlanks();
+        return rest_.empty();
+    }
+
+private:
+    void SkipBlanks() {
+        const auto first = rest_.find_first_not_of(" \t");
+        rest_.remove_prefix(first == std::string_view::npos ? rest_.size() : first);
+    }
+
+    std::string_view rest_;
+};
+
+std::optional<CivilDate> ReadDate(Reader &reader) {
+    const auto day = WholeNumber(reader.Word());
+    const bool slashed = reader.Take('/');
+    if (!day || (!slashed && !reader.Take('-'))) {
+        return std::nullopt;
+    }
+    const std::string_view month = reader.Word();
+    if (month.empty() || !reader.Take(slashed ? '/' : '-')) {
+        return std::nullopt;
+    }
+    const auto year = WholeNumber(reader.Word());
+    if (!year) {
+        return std::nullopt;
+    }
+    return CivilDate{*year, ReadMonth(month), *day};
+}
+
+/// Turns the hour of a 12-hour clock into one of a 24-hour clock; an hour of 13 to 23 already is one.
+bool ApplyMarker(std::string_view marker, int &hour) {
+    const bool isPm = SameIgnoringCase(marker, "PM");
+    if ((!isPm && !SameIgnoringCase(marker, "AM")) || hour == 0) {
+        return false;
+    }
+    if (hour <= 12) {
+        hour = hour % 12 + (isPm ? 12 : 0);
+    }
+    return true;
+}
+
+std::optional<CivilClock> ReadClock(Reader &reader) {
+    const auto hour = WholeNumber(reader.Word());
+    if (!hour || !reader.Take(':')) {
+        return std::nullopt;
+    }
+    const auto minute = WholeNumber(reader.Word());
+    auto second = std::optional<int>(0);
+    if (reader.Take(':')) {
+        second = WholeNumber(reader.Word());
+    }
+    if (!minute || !second) {
+        return std::nullopt;
+    }
+    CivilClock clock{*hour, *minute, *second};
+    if (!reader.AtEnd() && !ApplyMarker(reader.Word(), clock.hour)) {
+        return std::nullopt;
+    }
+    return clock;
+}
+
+template <typename... Values> std::string Formatted(const char *format, Values... values) {
+    std::array<char, 64> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), format, values...);
+    return buffer.data();
+}
+
+} // namespace
+
+Moment ReadMoment(std::string_view text) {
+    Reader reader(text);
+    const auto date = ReadDate(reader);
+    if (!date) {
+        FailToRead(text, "a date");
+    }
+    if (reader.AtEnd()) {
+        return MomentOf(*date);
+    }
+    const auto clock = ReadClock(reader);
+    if (!clock || !reader.AtEnd()) {
+        FailToRead(text, "a date with a clock time");
+    }
+    return MomentOf(*date, *clock);
+}
+
+int ReadMonth(std::string_view text) {
+    if (const auto number = WholeNumber(text); number && *number >= 1 && *number <= 12) {
+        return *number;
+    }
+    for (std::size_t i = 0; i < monthNames.size(); ++i) {
+        if (SameIgnoringCase(text, monthNames[i]) || SameIgnoringCase(text, monthNames[i].substr(0, 3))) {
+            return static_cast<int>(i) + 1;
+        }
+    }
+    FailToRead(text, "a month");
+}
+
+std::string DateText(Moment moment) {
+    const CivilDate date = Split(moment).date;
+    return Formatted("%02d/%02d/%04d", date.day, date.month, date.year);
+}
+
+std::string MonthNameDateText(Moment moment) {
+    const CivilDate date = Split(moment).date;
+    const std::string_view month = monthNames.at(static_cast<std::size_t>(date.month - 1));
+    return Formatted("%02d/%.3s/%04d", date.day, month.data(), date.year);
+}
+
+std::string ClockText(Moment moment) {
+    const CivilClock clock = Split(moment).clock;
+    const int hour = clock.hour % 12 == 0 ? 12 : clock.hour % 12;
+    return Formatted("%02d:%02d %s", hour, clock.minute, clock.hour < 12 ? "AM" : "PM");
+}
+
+std::string MomentText(Moment moment) { return DateText(moment) + " " + ClockText(moment); }
+
+std::string MonthNameMomentText(Moment moment) { return MonthNameDateText(moment) + " " + ClockText(moment); }
+
+std::string TimingText(Moment moment) {
+    const CivilClock clock = Split(moment).clock;
+    return Formatted("%02d:%02d:%02d", clock.hour, clock.minute, clock.second);
+}
+
+bool IsBeforeNoon(Moment moment) { return Split(moment).clock.hour < 12; }
+
+std::string_view WeekdayName(int weekday) {
+    if (weekday < 1 || weekday > 7) {
+        throw ConversionError("There is no weekday number " + std::to_string(weekday));
+    }
+    return weekdayNames.at(static_cast<std::size_t>(weekday - 1));
+}
+
+} // namespace kelvaro
