@@ -12,7 +12,8 @@
 
 namespace kelvaro {
 
-/// The calculation objects that live as long as the program. Some of them keep a result from one use to the next.
+/// The calculation objects that live as long as the program. Some of them keep a result from one use to the
+/// next.
 struct Calculators {
     ClsFindPlanetPosition position;
     clsFindSunrise sunrise;

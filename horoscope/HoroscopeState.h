@@ -10,9 +10,9 @@ namespace kelvaro {
 
 /// The horoscope in force: preferences, birth details as entered, and the results of the last run.
 ///
-/// A plain record. Longitudes are degrees of the sidereal zodiac (tropical when the ayanamsa is "Sayana"); rasi
-/// numbers run from 1 (Aries, Mesha) to 12 (Pisces, Meena). Birth details are texts where they are copied
-/// straight from the entry fields. Results are overwritten by each run and never cleared.
+/// A plain record. Longitudes are degrees of the sidereal zodiac (tropical when the ayanamsa is "Sayana");
+/// rasi numbers run from 1 (Aries, Mesha) to 12 (Pisces, Meena). Birth details are texts where they are
+/// copied straight from the entry fields. Results are overwritten by each run and never cleared.
 struct HoroscopeState {
     // Preferences in force.
     double DaysInYear = 365.25; ///< year length of the dasa arithmetic, days

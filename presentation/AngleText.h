@@ -9,11 +9,11 @@ namespace kelvaro {
 double FoldToSign(double position);
 
 /// The sign, or the part of another width in degrees, that holds a longitude: 1 to 12, counted on
-/// through the circle.
+/// through the circle. Raises OverflowError for a count beyond 16 bits, which a width of 0 gives.
 std::int16_t SignOfLongitude(double position, double width);
 
-/// "12.5" for 12 degrees 5 minutes. Not a decimal fraction; a minute value of 60 can appear, since degrees are never
-/// carried.
+/// "12.5" for 12 degrees 5 minutes. Not a decimal fraction; a minute value of 60 can appear, since degrees
+/// are never carried. Raises OverflowError for infinities and NaN.
 std::string DegreeMinuteText(double value);
 
 /// "12.5.9" for 12 degrees 5 minutes 9 seconds, under the same rules.

@@ -13,7 +13,9 @@ constexpr int faults = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
 
 } // namespace
 
-FloatingPointGuard::FloatingPointGuard() noexcept { std::feclearexcept(faults); }
+FloatingPointGuard::FloatingPointGuard() noexcept {
+    std::feclearexcept(faults);
+}
 
 void FloatingPointGuard::Check(const char *step) const {
     const int raised = std::fetestexcept(faults);

@@ -53,14 +53,22 @@ DayAndSecond DayAndSecondOf(Moment moment) {
     return {day, seconds - day * secondsInDay};
 }
 
-/// A serial number from a whole day and the fraction of its clock.
-Moment MomentOfDay(double day, double clock) { return Moment(day < 0 ? day - clock : day + clock); }
+/// A serial number from a whole day and the fraction of its clock, 0 to 1.
+Moment MomentOfDay(double day, double clock) {
+    if (day >= 0) {
+        return Moment(day + clock);
+    }
+    // A clock a hair before midnight can round away to a whole number. Before the origin that number is the
+    // date before, while the moment is nearest to midnight of the date after.
+    const double serial = day - clock;
+    return Moment(serial == day - 1 ? day + 1 : serial);
+}
 
 Moment MomentOfSeconds(std::int64_t seconds) {
     const std::int64_t day = FloorDivide(seconds, secondsInDay);
     RequireDateRange(static_cast<double>(day));
-    return MomentOfDay(static_cast<double>(day), static_cast<double>(seconds - day * secondsInDay) /
-                                                     static_cast<double>(secondsInDay));
+    return MomentOfDay(static_cast<double>(day),
+                       static_cast<double>(seconds - day * secondsInDay) / static_cast<double>(secondsInDay));
 }
 
 year_month_day CalendarDay(std::int64_t day) {
@@ -73,8 +81,8 @@ year_month_day CalendarDay(std::int64_t day) {
 Moment AddMonths(std::int64_t months, Moment moment) {
     const DayAndSecond start = DayAndSecondOf(moment);
     const year_month_day date = CalendarDay(start.day);
-    const std::int64_t total = std::int64_t{static_cast<int>(date.year())} * 12 +
-                               static_cast<unsigned>(date.month()) - 1 + months;
+    const std::int64_t total =
+        std::int64_t{static_cast<int>(date.year())} * 12 + static_cast<unsigned>(date.month()) - 1 + months;
     const std::int64_t year = FloorDivide(total, 12);
     if (year < 100 || year > 9999) {
         throw OverflowError("Overflow: a date outside the years 100 to 9999");
@@ -108,10 +116,13 @@ CivilMoment Split(Moment moment) {
 }
 
 Moment MomentOf(const CivilDate &date, const CivilClock &clock) {
+    // The calendar types keep a month and a day in one byte, so their ranges are looked at before.
+    const bool inRange = date.year >= 100 && date.year <= 9999 && date.month >= 1 && date.month <= 12 &&
+                         date.day >= 1 && date.day <= 31;
     const year_month_day day{std::chrono::year{date.year},
                              std::chrono::month{static_cast<unsigned>(date.month)},
                              std::chrono::day{static_cast<unsigned>(date.day)}};
-    if (date.year < 100 || date.year > 9999 || !day.ok()) {
+    if (!inRange || !day.ok()) {
         throw ConversionError("Type mismatch: there is no date " + std::to_string(date.day) + "/" +
                               std::to_string(date.month) + "/" + std::to_string(date.year));
     }
@@ -124,13 +135,17 @@ Moment MomentOf(const CivilDate &date, const CivilClock &clock) {
     return MomentOfSeconds((sys_days{day} - origin).count() * secondsInDay + seconds);
 }
 
-Moment DateOf(Moment moment) { return Moment(static_cast<double>(DayAndSecondOf(moment).day)); }
+Moment DateOf(Moment moment) {
+    return Moment(static_cast<double>(DayAndSecondOf(moment).day));
+}
 
 Moment Join(Moment date, Moment clock) {
     return MomentOfSeconds(DayAndSecondOf(date).day * secondsInDay + DayAndSecondOf(clock).second);
 }
 
-int YearOf(Moment moment) { return Split(moment).date.year; }
+int YearOf(Moment moment) {
+    return Split(moment).date.year;
+}
 
 int WeekdayOf(Moment moment) {
     const std::chrono::weekday weekday{origin + days{DayAndSecondOf(moment).day}};
@@ -174,7 +189,8 @@ std::int32_t DateDiff(Interval interval, Moment from, Moment to) {
     const CivilDate first = Split(from).date;
     const CivilDate last = Split(to).date;
     const auto boundaries = [&](std::int64_t seconds) {
-        const std::int64_t crossed = FloorDivide(SecondsOf(to), seconds) - FloorDivide(SecondsOf(from), seconds);
+        const std::int64_t crossed =
+            FloorDivide(SecondsOf(to), seconds) - FloorDivide(SecondsOf(from), seconds);
         return ToInt32(static_cast<double>(crossed));
     };
     switch (interval) {

@@ -42,7 +42,8 @@ bool SameIgnoringCase(std::string_view a, std::string_view b) {
 std::optional<int> WholeNumber(std::string_view digits) {
     int value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (digits.empty() || digits.front() == '-' || error != std::errc{} || end != digits.data() + digits.size()) {
+    if (digits.empty() || digits.front() == '-' || error != std::errc{} ||
+        end != digits.data() + digits.size()) {
         return std::nullopt;
     }
     return value;
@@ -186,16 +187,22 @@ std::string ClockText(Moment moment) {
     return Formatted("%02d:%02d %s", hour, clock.minute, clock.hour < 12 ? "AM" : "PM");
 }
 
-std::string MomentText(Moment moment) { return DateText(moment) + " " + ClockText(moment); }
+std::string MomentText(Moment moment) {
+    return DateText(moment) + " " + ClockText(moment);
+}
 
-std::string MonthNameMomentText(Moment moment) { return MonthNameDateText(moment) + " " + ClockText(moment); }
+std::string MonthNameMomentText(Moment moment) {
+    return MonthNameDateText(moment) + " " + ClockText(moment);
+}
 
 std::string TimingText(Moment moment) {
     const CivilClock clock = Split(moment).clock;
     return Formatted("%02d:%02d:%02d", clock.hour, clock.minute, clock.second);
 }
 
-bool IsBeforeNoon(Moment moment) { return Split(moment).clock.hour < 12; }
+bool IsBeforeNoon(Moment moment) {
+    return Split(moment).clock.hour < 12;
+}
 
 std::string_view WeekdayName(int weekday) {
     if (weekday < 1 || weekday > 7) {

@@ -9,15 +9,15 @@ namespace kelvaro {
 
 // The date and clock texts of the program. They are English and fixed; the machine's locale plays no part.
 
-/// Reads a date, or a date and a clock time: "14/07/1965", "14/Jul/1965", "14/July/1965 14:15", "14/7/1965 14:15: 00",
-/// "14/Jul/1965 02:15:30 PM". The day comes first, months are numbers or English names in any case, blanks between
-/// the parts do not count. An hour with a marker runs from 1 to 12, one without from 0 to 23; a marker
-/// beside a 24-hour clock time of 13 to 23 is passed over.
-/// Raises ConversionError, which quotes the text, where it is no date or the date does not exist.
+/// Reads a date, or a date and a clock time: "14/07/1965", "14/Jul/1965", "14/July/1965 14:15", "14/7/1965
+/// 14:15: 00", "14/Jul/1965 02:15:30 PM". The day comes first, months are numbers or English names in any
+/// case, blanks between the parts do not count. An hour with a marker runs from 1 to 12, one without from 0
+/// to 23; a marker beside a 24-hour clock time of 13 to 23 is passed over. Raises ConversionError, which
+/// quotes the text, where it is no date or the date does not exist.
 Moment ReadMoment(std::string_view text);
 
-/// The number 1 to 12 of a month from its number or its English name, whole or cut to three letters, in any case.
-/// Raises ConversionError for any other text.
+/// The number 1 to 12 of a month from its number or its English name, whole or cut to three letters, in any
+/// case. Raises ConversionError for any other text.
 int ReadMonth(std::string_view text);
 
 /// "14/07/1965"

@@ -45,9 +45,13 @@ double RoundHalfToEven(double value) {
     return std::fmod(below, 2) == 0 ? below : below + 1;
 }
 
-std::int16_t ToInt16(double value) { return ToInteger<std::int16_t>(value, "a 16-bit integer"); }
+std::int16_t ToInt16(double value) {
+    return ToInteger<std::int16_t>(value, "a 16-bit integer");
+}
 
-std::int32_t ToInt32(double value) { return ToInteger<std::int32_t>(value, "a 32-bit integer"); }
+std::int32_t ToInt32(double value) {
+    return ToInteger<std::int32_t>(value, "a 32-bit integer");
+}
 
 double NumberFromText(std::string_view text) {
     std::string_view digits = TrimmedBlanks(text);

@@ -19,7 +19,8 @@ std::int32_t ToInt32(double value);
 /// Raises ConversionError, which quotes the text, for anything else, infinities and NaN included.
 double NumberFromText(std::string_view text);
 
-/// A number in its default text form: up to fifteen significant digits, no trailing zeros ("5.5", "78", "-0.25").
+/// A number in its default text form: up to fifteen significant digits, no trailing zeros ("5.5", "78",
+/// "-0.25").
 std::string NumberText(double value);
 
 /// A number rounded to whole, half away from zero, with at least two digits ("07", "60").

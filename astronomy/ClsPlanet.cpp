@@ -1,0 +1,148 @@
+#include "astronomy/ClsPlanet.h"
+
+#include "astronomy/AngleReduction.h"
+#include "astronomy/Ascendant.h"
+#include "astronomy/AyanamsaFormulas.h"
+#include "astronomy/DayNumber.h"
+#include "astronomy/PlanetPlace.h"
+#include "runtime/FloatingPointGuard.h"
+
+#include <cmath>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr double epochJulianDay = 2415020.0;
+constexpr double daysInCentury = 36525;
+
+/// The node brought to 0 to 360.
+double OnCircle(double degrees) {
+    if (std::abs(degrees) > 360) {
+        degrees -= std::floor(degrees / 360) * 360;
+    } else if (degrees < 0) {
+        degrees += 360;
+    }
+    return FnNormalize360(degrees);
+}
+
+/// A place in degrees and minutes, the sign resting on the degrees alone.
+double SignedDegrees(double degrees, double minutes) {
+    return degrees < 0 ? degrees - minutes / 60 : degrees + minutes / 60;
+}
+
+std::int32_t DaysFromNewYear(int year, Moment moment) {
+    return DateDiff(Interval::Day, MomentOf({year, 1, 1}), moment);
+}
+
+} // namespace
+
+void ClsPlanet::FnCalculate() {
+    const FloatingPointGuard guard;
+    SplitBirthMoment();
+    FnFindSiderealTime();
+    guard.Check("the day number");
+    FindSunAndMoon();
+    guard.Check("the places of Sun and Moon");
+    FindPlanets();
+    guard.Check("the places of the planets");
+    FindNodes();
+    FindAyanamsa();
+    guard.Check("the ayanamsa");
+    FindLagnaAndMidHeaven();
+    FnApplyAyanamsa();
+    guard.Check("the sidereal longitudes");
+}
+
+void ClsPlanet::SplitBirthMoment() {
+    civil_ = Split(BirthDateTime);
+    Message.clear();
+}
+
+double ClsPlanet::ClockHours() const {
+    return civil_.clock.hour + civil_.clock.minute / 60.0 - TZone;
+}
+
+void ClsPlanet::FnFindSiderealTime() {
+    UniversalHours = civil_.clock.minute / 60.0 + civil_.clock.hour - TZone - DSAVE;
+    FnFindDayNumber();
+    SiderealHours = GreenwichSiderealHours(DayNumber, civil_.date.year, UniversalHours);
+    Centuries = DayNumber / daysInCentury + UniversalHours / 876600;
+}
+
+void ClsPlanet::FnFindDayNumber() {
+    const auto days = DayNumberOf(civil_.date.year, civil_.date.month, civil_.date.day);
+    if (!days) {
+        Message = "No Year Zero";
+        return;
+    }
+    DayNumber = *days;
+    JulianDay = DayNumber + epochJulianDay;
+    JulianDayNumber = JulianDay + 0.5;
+}
+
+/// The time of the ayanamsa and the Lagna, which knows no daylight saving.
+double ClsPlanet::ClockCenturies() const {
+    return ((ClockHours() / 24 + (JulianDayNumber - epochJulianDay)) - 0.5) / daysInCentury;
+}
+
+void ClsPlanet::FindSunAndMoon() {
+    sun_ = FnFindSun(Centuries);
+    moon_ = FnFindMoon({Centuries, Centuries * Centuries, CenturiesCubed});
+    tropical_.sun = sun_.apparentLongitude;
+    tropical_.moon = moon_.longitude;
+}
+
+void ClsPlanet::FindPlanets() {
+    const PlanetElements elements(Centuries);
+    const auto place = [&](Planet planet) { return FnFindPlanet(planet, Centuries, elements, sun_); };
+    tropical_.mercury = place(Planet::Mercury);
+    tropical_.venus = place(Planet::Venus);
+    tropical_.mars = place(Planet::Mars);
+    tropical_.jupiter = place(Planet::Jupiter);
+    tropical_.saturn = place(Planet::Saturn);
+}
+
+void ClsPlanet::FindNodes() {
+    tropical_.rahu = OnCircle(moon_.meanNode);
+    tropical_.kethu = OnCircle(tropical_.rahu + 180);
+}
+
+void ClsPlanet::FindAyanamsa() {
+    const int year = civil_.date.year;
+    if (AyType == "Lahiri") {
+        Ayanamsa = FnFindLahiri(ClockCenturies());
+    } else if (AyType == "Raman") {
+        Ayanamsa = -FnFindRaman(year, DaysFromNewYear(year, BirthDateTime));
+    } else if (AyType == "KP") {
+        Ayanamsa = -FnFindKP(DaysFromNewYear(1900, BirthDateTime));
+    } else if (AyType == "Sayana") {
+        Ayanamsa = 0;
+    } else if (AyType == "Custom") {
+        Ayanamsa = -FnFindCustom(strZeroYearVal, strProgressVal, year, DaysFromNewYear(year, BirthDateTime));
+    }
+}
+
+void ClsPlanet::FindLagnaAndMidHeaven() {
+    const FloatingPointGuard guard;
+    const Ascendant points =
+        FnFindLagna(ClockCenturies(), ClockHours(), SignedDegrees(CL_LatitudeDeg, CL_LatitideMin),
+                    SignedDegrees(CL_LongitudeDeg, CL_LongitudeMin));
+    guard.Check("the Lagna");
+    LagnaValue = FnNormalize360(points.lagna + Ayanamsa);
+    MidHeaven = FnNormalize360(points.midHeaven + Ayanamsa);
+}
+
+void ClsPlanet::FnApplyAyanamsa() {
+    SuryaValue = FnNormalize360(tropical_.sun + Ayanamsa);
+    ChandraValue = FnNormalize360(tropical_.moon + Ayanamsa);
+    KujaValue = FnNormalize360(tropical_.mars + Ayanamsa);
+    BudhaValue = FnNormalize360(tropical_.mercury + Ayanamsa);
+    GuruValue = FnNormalize360(tropical_.jupiter + Ayanamsa);
+    SukraValue = FnNormalize360(tropical_.venus + Ayanamsa);
+    SaniValue = FnNormalize360(tropical_.saturn + Ayanamsa);
+    RahuValue = FnNormalize360(tropical_.rahu + Ayanamsa);
+    KethuValue = FnNormalize360(tropical_.kethu + Ayanamsa);
+}
+
+} // namespace kelvaro

@@ -1,0 +1,23 @@
+#include "astronomy/KeplerEquation.h"
+
+#include "astronomy/AngleReduction.h"
+
+#include <cmath>
+
+namespace kelvaro {
+
+OrbitAnomalies FnSolveKepler(double meanAnomaly, double eccentricity) {
+    const double reduced = FnReduceRadians(meanAnomaly);
+    double e = reduced;
+    double rest = e - eccentricity * std::sin(e) - reduced;
+    // An invalid number fails this test too and so leaves the loop.
+    while (std::abs(rest) >= 1e-06) {
+        rest /= 1 - eccentricity * std::cos(e);
+        e -= rest;
+        rest = e - eccentricity * std::sin(e) - reduced;
+    }
+    const double factor = std::sqrt((1 + eccentricity) / (1 - eccentricity));
+    return {2 * std::atan(factor * std::tan(e / 2)), e};
+}
+
+} // namespace kelvaro

@@ -1,0 +1,173 @@
+#include "astronomy/clsSunrise.h"
+
+#include "runtime/FloatingPointGuard.h"
+#include "runtime/RuntimeError.h"
+
+#include <array>
+#include <cmath>
+
+namespace kelvaro {
+
+namespace {
+
+// The literal values of this theory; they differ from those of the planets on purpose.
+constexpr double degree = 0.0174532925;
+constexpr double circle = 6.283185307;
+constexpr double epochJ2000 = 51544.5; ///< Modified Julian Date
+constexpr double daysInCentury = 36525;
+
+/// Altitudes of the Sun's centre in radians: upper limb with refraction, civil, nautical, astronomical
+/// twilight.
+constexpr std::array<double, 4> altitudes{-0.014538592652499998, -0.104719755, -0.20943951,
+                                          -0.31415926499999997};
+constexpr std::size_t upperLimb = 0;
+
+/// No place is without a sunrise for longer; beyond it the numbers are no place on the Earth.
+constexpr double longestSearchHours = 24.0 * 366 * 10;
+
+double FnFindMJD(double day, double month, double year, double hour) {
+    if (month <= 2) {
+        month += 12;
+        year -= 1;
+    }
+    const double calendarDate = 10000 * year + 100 * month + day;
+    // The Julian branch multiplies where a sum is usual; dates before the reform rest on it.
+    const double leapDays = calendarDate <= 15821004.1
+                                ? -2 * std::trunc((year + 4716) / 4) - 1179
+                                : std::trunc(year / 400) - std::trunc(year / 100) + std::trunc(year / 4);
+    return 365 * year - 679004 + leapDays + std::trunc(30.6001 * (month + 1)) + day + hour / 24;
+}
+
+double Fraction(double x) {
+    const double fraction = x - std::floor(x);
+    return fraction < 0 ? fraction + 1 : fraction;
+}
+
+struct Equatorial {
+    double declination;    ///< degrees
+    double rightAscension; ///< hours, 0 to 24
+};
+
+Equatorial FnFindMiniSun(double T) {
+    const double M = circle * Fraction(0.993133 + 99.997361 * T);
+    const double DL = 6893 * std::sin(M) + 72 * std::sin(2 * M);
+    const double longitude = circle * Fraction(0.7859453 + M / circle + (6191.2 * T + DL) / 1296000);
+    const double SL = std::sin(longitude);
+    const double X = std::cos(longitude);
+    const double Y = 0.91748 * SL;
+    const double Z = 0.39778 * SL;
+    const double rho = std::sqrt(1 - Z * Z);
+    Equatorial sun{(360 / circle) * std::atan(Z / rho), (48 / circle) * std::atan(Y / (X + rho))};
+    if (sun.rightAscension < 0) {
+        sun.rightAscension += 24;
+    }
+    return sun;
+}
+
+/// Mean sidereal hours of a place; `longitude` in degrees, East positive.
+double FnFindLocalSiderealHours(double modifiedJulianDate, double longitude) {
+    const double x = modifiedJulianDate - epochJ2000;
+    const double T = x / daysInCentury;
+    double g = 280.46061837 + 360.98564736629 * x + 0.000387933 * T * T - T * T * T / 38710000;
+    g = (g / 360 - std::floor(g / 360)) * 360;
+    if (g < 0) {
+        g += 360;
+    }
+    return longitude / 15 + g / 15;
+}
+
+/// Three altitudes two hours apart in all, and where the parabola through them meets the horizon.
+struct Parabola {
+    int roots = 0;         ///< within the two hours
+    double x1 = 0, x2 = 0; ///< hours from the middle
+    double ye = 0;         ///< height of the extreme
+};
+
+/// Roots that are not found keep the values that they had.
+void FnFindQuadraticRoots(double before, double middle, double after, Parabola &parabola) {
+    const double a = 0.5 * (before + after) - middle;
+    const double b = 0.5 * (after - before);
+    const double c = middle;
+    const double xe = -b / (2 * a);
+    parabola.ye = (a * xe + b) * xe + c;
+    parabola.roots = 0;
+    const double discriminant = b * b - 4 * a * c;
+    if (discriminant > 0) {
+        const double dx = 0.5 * std::sqrt(discriminant) / std::abs(a);
+        parabola.x1 = xe - dx;
+        parabola.x2 = xe + dx;
+        parabola.roots = (std::abs(parabola.x1) <= 1 ? 1 : 0) + (std::abs(parabola.x2) <= 1 ? 1 : 0);
+        if (parabola.x1 < -1) {
+            parabola.x1 = parabola.x2;
+        }
+    }
+}
+
+double SignedDegrees(double degrees, double minutes) {
+    return degrees < 0 ? degrees - minutes / 60 : degrees + minutes / 60;
+}
+
+} // namespace
+
+void clsSunrise::FnCalculate() {
+    latitude_ = SignedDegrees(CL_LatitudeDeg, CL_LatitideMin);
+    longitude_ = SignedDegrees(CL_LongitudeDeg, CL_LongitudeMin);
+    const CivilDate date = Split(BirthDateTime).date;
+    FnFindRiseAndSet(FnFindMJD(date.day, date.month, date.year, 0));
+}
+
+void clsSunrise::FnFindRiseAndSet(double modifiedJulianDate) {
+    const FloatingPointGuard guard;
+    sinLatitude_ = std::sin(latitude_ * degree);
+    cosLatitude_ = std::cos(latitude_ * degree);
+    const double horizon = std::sin(altitudes[upperLimb]);
+    const double date = modifiedJulianDate - STZ / 24;
+    const auto height = [&](double hour) { return FnFindSinAltitude(date, hour) - horizon; };
+
+    bool rise = false;
+    bool set = false;
+    double riseTime = 0;
+    double setTime = 0;
+    Parabola parabola;
+    double before = height(0);
+    // Without a rise the search goes on through the following days.
+    for (double hour = 1; !((hour >= 25 || set) && rise); hour += 2) {
+        if (hour > longestSearchHours) {
+            throw ArithmeticError("The Sun never rises at this place");
+        }
+        const double middle = height(hour);
+        const double after = height(hour + 1);
+        FnFindQuadraticRoots(before, middle, after, parabola);
+        guard.Check("the altitude of the Sun");
+        if (parabola.roots == 1) {
+            (before < 0 ? rise : set) = true;
+            (before < 0 ? riseTime : setTime) = hour + parabola.x1;
+        } else if (parabola.roots == 2) {
+            // Neither flag is raised here: the search goes on, and a later crossing may replace these times.
+            riseTime = hour + (parabola.ye < 0 ? parabola.x2 : parabola.x1);
+            setTime = hour + (parabola.ye < 0 ? parabola.x1 : parabola.x2);
+        }
+        before = after;
+    }
+    m_dateSunrise = FnHoursToDate(riseTime);
+    if (set) {
+        m_dateSunset = FnHoursToDate(setTime);
+    }
+}
+
+double clsSunrise::FnFindSinAltitude(double date, double hour) const {
+    const double t = date + hour / 24;
+    const Equatorial sun = FnFindMiniSun((t - epochJ2000) / daysInCentury);
+    const double hourAngle = (FnFindLocalSiderealHours(t, longitude_) - sun.rightAscension) * 15;
+    return sinLatitude_ * std::sin(sun.declination * degree) +
+           cosLatitude_ * std::cos(sun.declination * degree) * std::cos(hourAngle * degree);
+}
+
+/// To the whole minute and on the date asked for, whatever the count of hours.
+Moment clsSunrise::FnHoursToDate(double hours) const {
+    const double minutes = std::trunc(hours * 60 + 0.5);
+    const int minuteOfDay = static_cast<int>(std::fmod(minutes, 24 * 60));
+    return MomentOf(Split(BirthDateTime).date, {minuteOfDay / 60, minuteOfDay % 60, 0});
+}
+
+} // namespace kelvaro

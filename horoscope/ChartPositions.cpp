@@ -1,0 +1,166 @@
+#include "horoscope/ChartPositions.h"
+
+#include "horoscope/Bodies.h"
+#include "horoscope/Horoscope.h"
+#include "runtime/MomentText.h"
+#include "runtime/Numbers.h"
+
+#include <cmath>
+#include <span>
+#include <string>
+
+namespace kelvaro {
+
+namespace {
+
+/// The ten bodies whose longitudes the facade gives; Gulika and Maandi are rising degrees.
+constexpr std::span<const BodyFields> bodiesOfTheFacade{bodyFields.data(), 10};
+
+struct DayLimits {
+    Moment sunrise, sunset, nextSunrise;
+};
+
+void FindFixValuesFor(Horoscope &horoscope, Moment moment, const std::string &ayanamsa) {
+    const HoroscopeState &state = horoscope.state;
+    horoscope.calculators.position.FindFixValues(moment, state.LatNS, state.LatDeg, state.LatMin, state.LonEW,
+                                                 state.LonDeg, state.LonMin, state.TimeDiff, state.TimeDiffEW,
+                                                 0, ayanamsa, state.YearInForce, state.ProgressInForce);
+}
+
+Moment SunriseOn(Horoscope &horoscope, Moment date) {
+    const HoroscopeState &state = horoscope.state;
+    return horoscope.calculators.sunrise.FnFindSunrise(date, state.LatNS, state.LatDeg, state.LatMin,
+                                                       state.LonEW, state.LonDeg, state.LonMin, 0,
+                                                       state.TimeDiff, state.TimeDiffEW);
+}
+
+Moment SunsetOn(Horoscope &horoscope, Moment date) {
+    const HoroscopeState &state = horoscope.state;
+    return horoscope.calculators.sunset.FnFindSunset(date, state.LatNS, state.LatDeg, state.LatMin,
+                                                     state.LonEW, state.LonDeg, state.LonMin, 0,
+                                                     state.TimeDiff, state.TimeDiffEW);
+}
+
+DayLimits LimitsOf(Horoscope &horoscope, Moment date) {
+    DayLimits limits;
+    limits.sunrise = SunriseOn(horoscope, date);
+    limits.sunset = SunsetOn(horoscope, date);
+    limits.nextSunrise = SunriseOn(horoscope, DateAdd(Interval::Day, 1, date));
+    return limits;
+}
+
+Moment BirthMomentOf(const HoroscopeState &state) {
+    return ReadMoment(state.BirthDay + "/" + state.BirthMonth + "/" + state.BirthYear + " " +
+                      state.BirthHour + ":" + state.BirthMinute + ": 00");
+}
+
+void ReadLongitudes(Horoscope &horoscope) {
+    HoroscopeState &state = horoscope.state;
+    ClsFindPlanetPosition &position = horoscope.calculators.position;
+    state.LagnaLon = position.FnFindLagnaPosition();
+    state.SunLon = position.FnFindSunPosition();
+    state.MoonLon = position.FnFindMoonPosition();
+    state.MarsLon = position.FnFindMarsPosition();
+    state.MercuryLon = position.FnFindMercuryPosition();
+    state.JupiterLon = position.FnFindJupiterPosition();
+    state.VenusLon = position.FnFindVenusPosition();
+    state.SaturnLon = position.FnFindSaturnPosition();
+    state.RahuLon = position.FnFindRahuPosition();
+    state.KetuLon = position.FnFindKethuPosition();
+    state.MidHeaven = position.FnFindMidHeaven();
+    state.Ayanamsa = position.FnFindAyanamsa();
+}
+
+/// The astrological day that holds the birth runs from sunrise to sunrise.
+void FindDayOfBirth(Horoscope &horoscope) {
+    HoroscopeState &state = horoscope.state;
+    const Moment birth = state.BirthMomentDate;
+    DayLimits limits = LimitsOf(horoscope, birth);
+    state.SunriseOfBirthDay = limits.sunrise;
+    state.SunsetOfBirthDay = limits.sunset;
+    state.SunriseNextDay = limits.nextSunrise;
+    state.DayCurrentDate = birth;
+    const bool isDay = birth > limits.sunrise && birth < limits.sunset;
+    state.DayOrNight = isDay ? "Day" : "Night";
+    if (!isDay) {
+        if (IsBeforeNoon(birth)) {
+            state.DayCurrentDate = DateAdd(Interval::Day, -1, birth);
+        }
+        limits = LimitsOf(horoscope, state.DayCurrentDate);
+    }
+    state.DaySunrise = limits.sunrise;
+    state.DaySunset = limits.sunset;
+    state.DayNextSunrise = limits.nextSunrise;
+}
+
+void FindRiseTimes(Horoscope &horoscope) {
+    HoroscopeState &state = horoscope.state;
+    clsTimes &times = horoscope.calculators.times;
+    times.currentdate = state.DayCurrentDate;
+    times.Sunrisetime = state.DaySunrise;
+    times.Sunsettime = state.DaySunset;
+    times.SunRiseNexttime = state.DayNextSunrise;
+    times.findtimes();
+    state.GulikaDay = times.GulikaRise_Day;
+    state.GulikaNight = times.GulikaRise_Night;
+    state.MandiDay = times.MandiRise_Day;
+    state.MandiNight = times.MandiRise_Night;
+}
+
+/// A clock time to the minute, as its text carries it.
+Moment ToTheMinute(Moment moment) {
+    const CivilMoment parts = Split(moment);
+    return MomentOf(parts.date, {parts.clock.hour, parts.clock.minute, 0});
+}
+
+/// A night rise that reads "AM" belongs to the date after that of the sunrise. The date found becomes the
+/// current one.
+Moment NightMoment(HoroscopeState &state, Moment rise) {
+    state.DayCurrentDate =
+        IsBeforeNoon(rise) ? DateAdd(Interval::Day, 1, state.DaySunrise) : state.DaySunrise;
+    return Join(state.DayCurrentDate, ToTheMinute(rise));
+}
+
+void JoinRiseMoments(HoroscopeState &state) {
+    if (state.DayOrNight == "Day") {
+        state.GulikaMoment = Join(state.DaySunrise, ToTheMinute(state.GulikaDay));
+        state.MandiMoment = Join(state.DaySunrise, ToTheMinute(state.MandiDay));
+    } else {
+        state.GulikaMoment = NightMoment(state, state.GulikaNight);
+        state.MandiMoment = NightMoment(state, state.MandiNight);
+    }
+}
+
+double LagnaAt(Horoscope &horoscope, Moment moment) {
+    FindFixValuesFor(horoscope, moment, horoscope.state.AyanamsaInForce);
+    return horoscope.calculators.position.FnFindLagnaPosition();
+}
+
+} // namespace
+
+std::int16_t RasiOfLongitude(double longitude, double division) {
+    int rasi = ToInt16(std::floor(longitude / division)) + 1;
+    while (rasi > 12) {
+        rasi -= 12;
+    }
+    return static_cast<std::int16_t>(rasi);
+}
+
+void ComputeChartPositions(Horoscope &horoscope, double division) {
+    HoroscopeState &state = horoscope.state;
+    state.BirthMomentDate = BirthMomentOf(state);
+    FindFixValuesFor(horoscope, state.BirthMomentDate, state.AyanamsaName);
+    ReadLongitudes(horoscope);
+    for (const BodyFields &body : bodiesOfTheFacade) {
+        state.*body.rasi = RasiOfLongitude(state.*body.longitude, division);
+    }
+    FindDayOfBirth(horoscope);
+    FindRiseTimes(horoscope);
+    JoinRiseMoments(state);
+    state.GulikaLon = LagnaAt(horoscope, state.GulikaMoment);
+    state.GulikaRasi = RasiOfLongitude(state.GulikaLon, division);
+    state.MaandiLon = LagnaAt(horoscope, state.MandiMoment);
+    state.MaandiRasi = RasiOfLongitude(state.MaandiLon, division);
+}
+
+} // namespace kelvaro

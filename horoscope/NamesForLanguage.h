@@ -1,0 +1,11 @@
+#pragma once
+
+#include "horoscope/HoroscopeState.h"
+
+namespace kelvaro {
+
+/// Fills the name tables of the record from its `Language`, "English" or "Sanskrit". Any other language
+/// leaves them.
+void LoadNamesForLanguage(HoroscopeState &state);
+
+} // namespace kelvaro

@@ -1,0 +1,52 @@
+#include "presentation/AngleText.h"
+
+#include "runtime/Numbers.h"
+
+#include <cmath>
+
+namespace kelvaro {
+
+namespace {
+
+struct AngleParts {
+    std::string degrees;
+    std::int32_t minutes;
+    std::int32_t seconds;
+};
+
+AngleParts Divide(double value) {
+    const double whole = std::trunc(value);
+    const double fraction = std::abs(value) - std::abs(whole);
+    std::int32_t minutes = ToInt32(std::floor(fraction * 60));
+    std::int32_t seconds = ToInt32(std::round(fraction * 3600 - minutes * 60));
+    if (seconds >= 60) {
+        // Minutes may reach 60 here and stay so: the degrees are not touched.
+        minutes += 1;
+        seconds -= 60;
+    }
+    // Adding zero rids a small negative value of the sign before its zero degrees.
+    return {NumberText(whole + 0.0), minutes, seconds};
+}
+
+} // namespace
+
+double FoldToSign(double position) {
+    return position < 30 ? position : std::fmod(position, 30);
+}
+
+std::int16_t SignOfLongitude(double position, double width) {
+    const std::int16_t part = ToInt16(std::trunc(position / width) + 1);
+    return part < 13 ? part : static_cast<std::int16_t>((part - 1) % 12 + 1);
+}
+
+std::string DegreeMinuteText(double value) {
+    const AngleParts parts = Divide(value);
+    return parts.degrees + "." + std::to_string(parts.minutes);
+}
+
+std::string DegreeMinuteSecondText(double value) {
+    const AngleParts parts = Divide(value);
+    return parts.degrees + "." + std::to_string(parts.minutes) + "." + std::to_string(parts.seconds);
+}
+
+} // namespace kelvaro

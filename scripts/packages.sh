@@ -1,0 +1,15 @@
+# The Debian packages that the program and its tests need; read by run.sh and test.sh.
+build_packages=(
+    g++ cmake ninja-build
+    qt6-base-dev libgl-dev
+    libgtest-dev libbenchmark-dev nlohmann-json3-dev
+)
+display_packages=(
+    libqt6gui6 qt6-qpa-plugins fonts-dejavu-core fonts-liberation
+)
+virtual_display_packages=(
+    xvfb xauth xdotool imagemagick
+)
+check_packages=(
+    git clang-format clang-tidy
+)

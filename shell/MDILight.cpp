@@ -1,0 +1,162 @@
+#include "shell/MDILight.h"
+
+#include "horoscope/CalculateHoroscope.h"
+#include "shell/ChartColours.h"
+#include "shell/MainHoroscope.h"
+#include "shell/StatusPanel.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSplitter>
+#include <QStatusBar>
+
+#include <algorithm>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr int treeWidth = 190;
+
+/// A window of the area without a frame. It takes up the whole area and stays, whatever key is pressed.
+class FramelessSubWindow : public QMdiSubWindow {
+public:
+    explicit FramelessSubWindow(QWidget *view) : QMdiSubWindow(nullptr, Qt::FramelessWindowHint) {
+        setWidget(view);
+        setAttribute(Qt::WA_DeleteOnClose, false);
+    }
+
+protected:
+    void closeEvent(QCloseEvent *event) override { event->ignore(); }
+};
+
+/// The place of a view among the views; the first for an empty or unknown name.
+std::size_t ViewNamed(std::string_view name) {
+    const auto row = std::ranges::find(horoscopeViews, name, &HoroscopeViewRow::viewName);
+    return row == horoscopeViews.end() ? 0 : static_cast<std::size_t>(row - horoscopeViews.begin());
+}
+
+QString TextOf(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace
+
+MDILight::MDILight() : horoscope_(*this), area_(new QMdiArea), tree_(new MainHoroscope) {
+    setObjectName(QStringLiteral("MDILight"));
+    setWindowTitle(QStringLiteral("Kelvaro - Kelvaro Basic (Version 2.4)"));
+    area_->setBackground(parchmentColour);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    auto *splitter = new QSplitter;
+    splitter->addWidget(tree_);
+    splitter->addWidget(area_);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({treeWidth, width()});
+    splitter->setChildrenCollapsible(false);
+    setCentralWidget(splitter);
+    panel_ = new StatusPanel(this);
+
+    BuildMenu();
+    BuildViews();
+    statusBar()->show();
+    connect(tree_, &MainHoroscope::ViewChosen, this, &MDILight::ChooseView);
+}
+
+void MDILight::FNInitialize() {
+    RunCalculation();
+}
+
+void MDILight::RunCalculation() {
+    CalculateHoroscope(horoscope_);
+    if (isCloseWanted_ && !horoscope_.isCalculating) {
+        close();
+    }
+}
+
+void MDILight::BuildMenu() {
+    QMenu *help = menuBar()->addMenu(tr("Help"));
+    help->menuAction()->setObjectName(QStringLiteral("mdiHelpmnu"));
+    QAction *about = help->addAction(tr("&About Us"), this, &MDILight::ShowAbout);
+    about->setObjectName(QStringLiteral("mnuAboutus"));
+    QAction *exit = help->addAction(tr("E&xit"), this, &QWidget::close);
+    exit->setObjectName(QStringLiteral("mnuExit"));
+}
+
+void MDILight::BuildViews() {
+    for (std::size_t index = 0; index < horoscopeViews.size(); ++index) {
+        HoroscopeView *view = horoscopeViews.at(index).make();
+        view->setObjectName(QString::fromLatin1(horoscopeViews.at(index).form));
+        auto *window = new FramelessSubWindow(view);
+        area_->addSubWindow(window, window->windowFlags());
+        window->hide();
+        views_.at(index) = {view, window};
+    }
+}
+
+void MDILight::ChooseView(std::size_t view) {
+    horoscope_.CurrentView = horoscopeViews.at(view).viewName;
+    // A run shows the view that was chosen last when it comes to its end.
+    if (!horoscope_.isCalculating) {
+        ShowCurrentView(horoscope_.CurrentView);
+    }
+}
+
+void MDILight::ShowAbout() {
+    QMessageBox::about(this, tr("About Us"),
+                       tr("<h3>Kelvaro Basic</h3><p>Version 2.4</p>"
+                          "<p>Vedic astrology on the desktop: the whole horoscope of a birth, "
+                          "computed by the program itself.</p>"));
+}
+
+void MDILight::OpenStatus() {
+    statusBar()->clearMessage();
+    panel_->Open();
+}
+
+void MDILight::AdvanceStatusBar() {
+    panel_->Advance();
+}
+
+void MDILight::CloseStatus() {
+    panel_->Close();
+}
+
+void MDILight::HideHoroscopeForms() {
+    for (const ViewWindow &each : views_) {
+        each.window->hide();
+    }
+}
+
+void MDILight::ShowCurrentView(std::string_view currentView) {
+    const std::size_t shown = ViewNamed(currentView);
+    for (std::size_t index = 0; index < views_.size(); ++index) {
+        views_.at(index).view->Refresh(horoscope_);
+        views_.at(index).window->setVisible(index == shown);
+    }
+    views_.at(shown).window->showMaximized();
+    area_->setActiveSubWindow(views_.at(shown).window);
+    tree_->MarkView(shown);
+}
+
+void MDILight::RunFailed(std::string_view step, std::string_view cause) {
+    statusBar()->showMessage(QStringLiteral("%1: %2").arg(TextOf(step), TextOf(cause)));
+}
+
+void MDILight::closeEvent(QCloseEvent *event) {
+    // A run must come to its end before what it works on goes away.
+    isCloseWanted_ = horoscope_.isCalculating;
+    event->setAccepted(!isCloseWanted_);
+}
+
+void MDILight::resizeEvent(QResizeEvent *event) {
+    QMainWindow::resizeEvent(event);
+    if (panel_->isVisible()) {
+        panel_->Span();
+    }
+}
+
+} // namespace kelvaro

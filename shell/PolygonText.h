@@ -1,0 +1,106 @@
+#pragma once
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPointF>
+#include <QPolygonF>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace kelvaro {
+
+/// How a piece of a chart's text looks.
+enum class Tone { Name, Figure, Lagna };
+
+/// The font of a chart at any size. Hinting is off, so that text is exactly proportional to its size and
+/// what fits at one size fits at all.
+class ChartFont {
+public:
+    /// Takes the family of the font, not its size.
+    explicit ChartFont(const QFont &font);
+
+    QFont AtSize(double pixels, double dotsPerInch, bool bold) const;
+
+    // In units of the font's size.
+    double Width(const QString &text, Tone tone) const;
+    double Ascent() const { return ascent_; } ///< of letters, above the baseline
+    double Descent() const { return descent_; }
+    double LinePitch() const;
+
+private:
+    QFont regular_;
+    QFont bold_;
+    QFontMetricsF regularMetrics_;
+    QFontMetricsF boldMetrics_;
+    double ascent_ = 0;
+    double descent_ = 0;
+};
+
+/// One body of a cell: its name and, where the chart shows degrees, its figure.
+struct CellEntry {
+    QString name;
+    QString figure;
+    Tone tone = Tone::Name;
+};
+
+/// What a cell says, in reading order.
+struct CellText {
+    std::vector<CellEntry> entries;
+    bool isListed = false; ///< each entry has a line of its own; otherwise entries flow, several to a line
+};
+
+enum class CellFlow {
+    Lines, ///< a line is an entry, a name and a figure
+    Words, ///< a blank divides entries, and a line break keeps every entry on its own line
+};
+
+CellText ReadCellText(const QString &text, CellFlow flow, const QStringList &lagnaNames);
+
+/// A straight border of a convex cell. A point is inside where the product of its place with the outward unit
+/// normal is not above the offset.
+struct CellEdge {
+    QPointF normal;
+    double offset = 0;
+};
+
+/// The borders of a convex polygon, its corners given in either direction.
+std::vector<CellEdge> EdgesOf(const QPolygonF &polygon);
+
+/// A piece of text with the left end of its baseline, in the units of the cell.
+struct PlacedRun {
+    QString text;
+    Tone tone = Tone::Name;
+    QPointF baseline;
+};
+
+/// The text of one cell, ready to draw.
+struct PlacedText {
+    double size = 0; ///< of the font, in the units of the cell
+    std::vector<PlacedRun> runs;
+};
+
+/// Fits the text of a cell into the polygon of the cell.
+///
+/// Every way of breaking the entries into lines is tried. The lines of a block are centred on one axis,
+/// entries with figures stand in two columns.
+class CellFitter {
+public:
+    CellFitter(CellText text, std::vector<CellEdge> edges, const ChartFont &font);
+
+    bool IsEmpty() const { return text_.entries.empty(); }
+
+    /// The largest font size at which the text keeps a margin to every border.
+    double LargestSize(double margin) const;
+
+    /// The text at a size, broken and placed so that it has the most room around it.
+    PlacedText Place(double size) const;
+
+private:
+    CellText text_;
+    std::vector<CellEdge> edges_;
+    const ChartFont &font_;
+};
+
+} // namespace kelvaro

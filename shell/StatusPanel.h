@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QFrame>
+#include <QWidget>
+
+namespace kelvaro {
+
+/// The panel `PicMask` that lies over the main window during a run: a label and a track with a creeping fill.
+///
+/// Every movement gives the message loop a turn, in which all but the input of the user is handled.
+class StatusPanel : public QFrame {
+public:
+    explicit StatusPanel(QWidget *parent);
+
+    /// Spans the panel over the width of its parent, with an empty fill.
+    void Open();
+
+    /// Lets the fill creep on by a fourteenth of the track, one pixel at a time.
+    void Advance();
+
+    void Close();
+
+    /// Keeps the panel over the whole width of its parent.
+    void Span();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    QWidget *Frame1_;
+    QWidget *PicOut_;
+    QWidget *PicIn_;
+};
+
+} // namespace kelvaro

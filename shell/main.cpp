@@ -1,0 +1,17 @@
+#include "shell/MDILight.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QTimer>
+
+int main(int argc, char **argv) {
+    const QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
+    QApplication::setApplicationName(QStringLiteral("Kelvaro Basic"));
+    kelvaro::MDILight window;
+    window.resize(window.screen()->availableSize() * 0.9);
+    window.showMaximized();
+    // From within the event loop, where a window closed in the middle of the run ends the program.
+    QTimer::singleShot(0, &window, &kelvaro::MDILight::FNInitialize);
+    return QApplication::exec();
+}

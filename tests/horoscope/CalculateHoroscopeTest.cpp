@@ -1,0 +1,198 @@
+#include "horoscope/CalculateHoroscope.h"
+
+#include "horoscope/Bodies.h"
+#include "horoscope/ChartPositions.h"
+#include "horoscope/Horoscope.h"
+#include "runtime/MomentText.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace kelvaro {
+namespace {
+
+/// Notes what the driver asks of the screen.
+class RecordingDisplay : public StatusDisplay {
+public:
+    void OpenStatus() override { events.emplace_back("open"); }
+    void AdvanceStatusBar() override {
+        events.emplace_back("advance");
+        if (atEachAdvance) {
+            atEachAdvance();
+        }
+    }
+    void CloseStatus() override { events.emplace_back("close"); }
+    void HideHoroscopeForms() override { events.emplace_back("hide"); }
+    void ShowCurrentView(std::string_view view) override { events.emplace_back("show " + std::string(view)); }
+    void RunFailed(std::string_view step, std::string_view cause) override {
+        failedStep = step;
+        failure = cause;
+    }
+
+    std::size_t Count(const std::string &event) const {
+        return static_cast<std::size_t>(std::count(events.begin(), events.end(), event));
+    }
+
+    std::vector<std::string> events;
+    std::string failedStep;
+    std::string failure;
+    std::function<void()> atEachAdvance;
+};
+
+class CalculateHoroscopeTest : public testing::Test {
+protected:
+    void SetBirth(Moment moment) {
+        const CivilMoment parts = Split(moment);
+        horoscope.state.BirthDay = std::to_string(parts.date.day);
+        horoscope.state.BirthMonth = std::to_string(parts.date.month);
+        horoscope.state.BirthYear = std::to_string(parts.date.year);
+        horoscope.state.BirthHour = std::to_string(parts.clock.hour);
+        horoscope.state.BirthMinute = std::to_string(parts.clock.minute);
+    }
+
+    RecordingDisplay display;
+    Horoscope horoscope{display};
+};
+
+TEST_F(CalculateHoroscopeTest, SampleBirthFillsBothCharts) {
+    horoscope.CurrentView = "Navamsa";
+    CalculateHoroscope(horoscope);
+
+    EXPECT_EQ(display.failure, "");
+    ASSERT_GE(display.events.size(), 4U);
+    EXPECT_EQ(display.events.front(), "open");
+    EXPECT_EQ(display.events.at(1), "hide");
+    EXPECT_EQ(display.events.back(), "close");
+    EXPECT_EQ(display.Count("show Navamsa"), 1U);
+    EXPECT_EQ(MomentText(horoscope.state.BirthMomentDate), "14/07/1965 02:15 PM");
+    EXPECT_EQ(horoscope.state.DayOrNight, "Day");
+    EXPECT_EQ(horoscope.forms.frm_rasi.VisibleFrame, ChartStyle::South);
+    EXPECT_EQ(horoscope.forms.frm_Navamsa.VisibleFrame, ChartStyle::South);
+    // After the run the numbers are those of the Rasi chart, whatever pass the Navamsa chart needed.
+    for (const BodyFields &body : bodyFields) {
+        const double longitude = horoscope.state.*body.longitude;
+        EXPECT_EQ(horoscope.state.*body.rasi, static_cast<int>(longitude / 30) + 1);
+        const std::string &name = ShortNameOf(horoscope.state, body.body);
+        const int navamsa = static_cast<int>(longitude / (10.0 / 3)) % 12;
+        EXPECT_NE(horoscope.forms.frm_Navamsa.South.at(static_cast<std::size_t>(navamsa)).find(name),
+                  std::string::npos)
+            << name;
+    }
+}
+
+TEST_F(CalculateHoroscopeTest, FailedStepEndsTheRunAndLeavesEmptyViews) {
+    CalculateHoroscope(horoscope);
+    ASSERT_FALSE(horoscope.forms.frm_rasi.South.at(0).empty() &&
+                 horoscope.forms.frm_rasi.South.at(1).empty());
+    display.events.clear();
+
+    horoscope.state.BirthDay = "31";
+    horoscope.state.BirthMonth = "Jun";
+    horoscope.CurrentView = "Rasi";
+    CalculateHoroscope(horoscope);
+
+    EXPECT_EQ(display.failedStep, "Rasi positions");
+    EXPECT_NE(display.failure.find("31/6/1965"), std::string::npos) << display.failure;
+    EXPECT_EQ(display.Count("show Rasi"), 1U);
+    EXPECT_EQ(display.Count("advance"), 1U);
+    EXPECT_EQ(display.events.back(), "close");
+    for (const std::string &cell : horoscope.forms.frm_rasi.South) {
+        EXPECT_EQ(cell, "");
+    }
+
+    horoscope.state.BirthDay = "30";
+    display.failedStep.clear();
+    CalculateHoroscope(horoscope);
+    EXPECT_EQ(display.failedStep, "");
+}
+
+TEST_F(CalculateHoroscopeTest, NoSecondRunStartsInsideOne) {
+    display.atEachAdvance = [this] { CalculateHoroscope(horoscope); };
+    CalculateHoroscope(horoscope);
+    EXPECT_EQ(display.Count("open"), 1U);
+    EXPECT_EQ(display.Count("close"), 1U);
+}
+
+TEST_F(CalculateHoroscopeTest, LimitsOfTheDayLieInTheNight) {
+    CalculateHoroscope(horoscope);
+    const Moment sunrise = horoscope.state.SunriseOfBirthDay;
+    const Moment sunset = horoscope.state.SunsetOfBirthDay;
+
+    struct Case {
+        Moment birth;
+        const char *dayOrNight;
+        int dateOfDaySunrise; ///< day of July
+    };
+    const std::vector<Case> cases{
+        {sunrise, "Night", 13},
+        {DateAdd(Interval::Minute, 1, sunrise), "Day", 14},
+        {DateAdd(Interval::Minute, -1, sunset), "Day", 14},
+        {sunset, "Night", 14},
+        {MomentOf({1965, 7, 14}, {23, 59, 0}), "Night", 14},
+        {MomentOf({1965, 7, 15}, {0, 0, 0}), "Night", 14},
+    };
+    for (const Case &test : cases) {
+        SCOPED_TRACE(MomentText(test.birth));
+        SetBirth(test.birth);
+        CalculateHoroscope(horoscope);
+        const HoroscopeState &state = horoscope.state;
+        EXPECT_EQ(state.DayOrNight, test.dayOrNight);
+        EXPECT_EQ(Split(state.DaySunrise).date, (CivilDate{1965, 7, test.dateOfDaySunrise}));
+        const bool isDay = state.DayOrNight == "Day";
+        for (const Moment rise : {state.GulikaMoment, state.MandiMoment}) {
+            EXPECT_GE(rise, isDay ? state.DaySunrise : state.DaySunset);
+            EXPECT_LE(rise, isDay ? state.DaySunset : state.DayNextSunrise);
+        }
+    }
+}
+
+TEST_F(CalculateHoroscopeTest, DayOfBirthHoldsAlsoBeforeTheOriginOfMoments) {
+    for (const int hour : {1, 5, 12, 20, 23}) {
+        SetBirth(MomentOf({1850, 3, 9}, {hour, 30, 0}));
+        CalculateHoroscope(horoscope);
+        const HoroscopeState &state = horoscope.state;
+        EXPECT_EQ(display.failure, "");
+        EXPECT_GT(state.BirthMomentDate, state.DaySunrise) << hour;
+        EXPECT_LT(state.BirthMomentDate, state.DayNextSunrise) << hour;
+        EXPECT_EQ(state.DayOrNight, hour == 12 ? "Day" : "Night");
+    }
+}
+
+TEST_F(CalculateHoroscopeTest, NamesFollowTheLanguageAndOutliveAnUnknownOne) {
+    horoscope.state.Language = "Sanskrit";
+    CalculateHoroscope(horoscope);
+    EXPECT_EQ(ShortNameOf(horoscope.state, Body::Venus), "Suk");
+    EXPECT_EQ(LongNameOf(horoscope.state, Body::Venus), "Sukra");
+    EXPECT_EQ(LongNameOf(horoscope.state, Body::Jupiter), "Guru");
+    EXPECT_EQ(horoscope.state.LongNames.at(5), "Sukra");
+    EXPECT_EQ(horoscope.state.ShortNames.at(5), "Gur");
+    horoscope.state.Language = "Latin";
+    CalculateHoroscope(horoscope);
+    EXPECT_EQ(horoscope.state.RasiNames.at(1), "Rishaba");
+}
+
+TEST(RasiOfLongitudeTest, CountsPartsThroughTheCircle) {
+    struct Case {
+        double longitude, division;
+        int rasi;
+    };
+    for (const Case &test : std::vector<Case>{{0, rasiSize, 1},
+                                              {29.999999, rasiSize, 1},
+                                              {30, rasiSize, 2},
+                                              {359.9, rasiSize, 12},
+                                              {360, rasiSize, 1},
+                                              {40, navamsaSize, 1},
+                                              {39.99, navamsaSize, 12},
+                                              {359.9, navamsaSize, 12}}) {
+        EXPECT_EQ(RasiOfLongitude(test.longitude, test.division), test.rasi) << test.longitude;
+    }
+    // The Navamsa size is a hair below the third of ten, so that a limit belongs to the part that it opens.
+    EXPECT_EQ(RasiOfLongitude(10.0 / 3, navamsaSize), 2);
+}
+
+} // namespace
+} // namespace kelvaro

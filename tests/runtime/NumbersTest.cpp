@@ -1,0 +1,74 @@
+#include "runtime/Numbers.h"
+
+#include "runtime/RuntimeError.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace kelvaro {
+namespace {
+
+constexpr double infinity = std::numeric_limits<double>::infinity();
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+
+TEST(Numbers, RoundHalvesToTheEvenNeighbour) {
+    const struct {
+        double value, rounded;
+    } cases[] = {
+        {0.5, 0},       {1.5, 2},           {2.5, 2},
+        {3.5, 4},       {-0.5, 0},          {-1.5, -2},
+        {-2.5, -2},     {2.4, 2},           {2.6, 3},
+        {-2.6, -3},     {2.5000000001, 3},  {0.49999999999999994, 0},
+        {-1e-20, 0},    {1e15 + 0.5, 1e15}, {4503599627370495.5, 4503599627370496},
+        {1e300, 1e300},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(RoundHalfToEven(c.value), c.rounded) << c.value;
+    }
+}
+
+TEST(Numbers, KeepToTheEdgesOfIntegers) {
+    EXPECT_EQ(ToInt16(32767.4999), 32767);
+    EXPECT_EQ(ToInt16(-32768.5), -32768);
+    EXPECT_EQ(ToInt16(2.5), 2);
+    EXPECT_EQ(ToInt32(2147483647.25), 2147483647);
+    EXPECT_EQ(ToInt32(-2147483648.5), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(ToInt32(1999999999.5), 2000000000);
+    for (const double value : {32767.5, -32768.51, 1e300, -infinity, infinity, notANumber}) {
+        EXPECT_THROW(ToInt16(value), OverflowError) << value;
+    }
+    for (const double value : {2147483647.5, -2147483648.75, 1e300, -infinity, infinity, notANumber}) {
+        EXPECT_THROW(ToInt32(value), OverflowError) << value;
+    }
+}
+
+TEST(Numbers, AreReadFromText) {
+    const struct {
+        const char *text;
+        double value;
+    } cases[] = {{"78", 78},  {" 5.5\t", 5.5}, {"+5", 5},       {"-0.25", -0.25},
+                 {".5", 0.5}, {"5.", 5},       {"1.5e3", 1500}, {"007", 7}};
+    for (const auto &c : cases) {
+        EXPECT_EQ(NumberFromText(c.text), c.value) << c.text;
+    }
+    for (const char *text :
+         {"", " ", "+", "-", "+-5", "--5", "5 5", "5,5", "1e400", "inf", "nan", "0x10", "five", "5E"}) {
+        EXPECT_THROW(NumberFromText(text), ConversionError) << text;
+    }
+}
+
+TEST(Numbers, AreWritten) {
+    EXPECT_EQ(NumberText(78), "78");
+    EXPECT_EQ(NumberText(5.5), "5.5");
+    EXPECT_EQ(NumberText(-0.25), "-0.25");
+    EXPECT_EQ(NumberText(0.1 + 0.2), "0.3");
+    EXPECT_EQ(NumberText(23937.59375), "23937.59375");
+    EXPECT_EQ(TwoDigitText(7), "07");
+    EXPECT_EQ(TwoDigitText(0.5), "01");
+    EXPECT_EQ(TwoDigitText(59.5), "60");
+    EXPECT_EQ(TwoDigitText(360), "360");
+}
+
+} // namespace
+} // namespace kelvaro

@@ -1,0 +1,251 @@
+// Runs the tool HOROSCOPE_JSON on streams of births.
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+using nlohmann::json;
+using namespace std::string_literals;
+
+constexpr std::array bodies{"Lagna", "Sun",    "Moon", "Mars", "Mercury", "Jupiter",
+                            "Venus", "Saturn", "Rahu", "Ketu", "Gulika",  "Maandi"};
+
+json Sample() {
+    return json::parse(
+        R"birth({"ChartName": "Velnesh", "BirthGender": "Male", "BirthDay": "14", "BirthMonth": "Jul",
+        "BirthYear": "1965", "BirthHour": "14", "BirthMinute": "15", "BirthCity": "Hyderabad (A.P)",
+        "BirthCountry": "India", "LatDeg": 17, "LatMin": 20, "LatNS": "N", "LonDeg": 78, "LonMin": 30, "LonEW": "E",
+        "TimeDiff": 5.5, "TimeDiffEW": "E"})birth");
+}
+
+json SampleWith(const json &changes) {
+    json birth = Sample();
+    birth.update(changes);
+    return birth;
+}
+
+std::string SampleWithout(const char *key) {
+    json birth = Sample();
+    birth.erase(key);
+    return birth.dump();
+}
+
+/// The answers, line by line, to a stream given byte for byte.
+std::vector<std::string> AnswerLines(const std::string &births) {
+    const auto folder = std::filesystem::temp_directory_path();
+    const std::string in = folder / ("births-" + std::to_string(getpid()));
+    const std::string out = folder / ("answers-" + std::to_string(getpid()));
+    std::ofstream(in, std::ios::binary) << births;
+    const int status = std::system(("'" HOROSCOPE_JSON "' < '" + in + "' > '" + out + "'").c_str());
+    std::ifstream answers(out, std::ios::binary);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(answers, line);) {
+        lines.push_back(line);
+    }
+    std::filesystem::remove(in);
+    std::filesystem::remove(out);
+    if (status != 0) {
+        throw std::runtime_error("the tool ended with status " + std::to_string(status));
+    }
+    return lines;
+}
+
+std::vector<json> Answers(const std::vector<json> &births) {
+    std::string stream;
+    for (const json &birth : births) {
+        stream += birth.dump() + '\n';
+    }
+    std::vector<json> answers;
+    for (const std::string &line : AnswerLines(stream)) {
+        answers.push_back(json::parse(line));
+    }
+    return answers;
+}
+
+TEST(HoroscopeJson, GivesTheChartOfEachStyle) {
+    const std::vector<std::string> styles{"South", "East", "North"};
+    const auto answers = Answers({SampleWith({{"ChartStyle", "South"}}), SampleWith({{"ChartStyle", "East"}}),
+                                  SampleWith({{"ChartStyle", "North"}})});
+    ASSERT_EQ(answers.size(), styles.size());
+    for (std::size_t i = 0; i < styles.size(); ++i) {
+        SCOPED_TRACE(styles[i]);
+        const json &state = answers[i].at("HoroscopeState");
+        const json &chart = answers[i].at("frm_rasi");
+        EXPECT_EQ(state.at("BirthMomentDate"), 23937.59375);
+        EXPECT_EQ(state.at("DayOrNight"), "Day");
+        EXPECT_EQ(answers[i].at("frm_Navamsa").at("cells").size(), 12U);
+        ASSERT_EQ(chart.at("cells").size(), 12U);
+        const bool isNorth = styles[i] == "North";
+        const int lagna = state.at("LagnaRasi");
+        EXPECT_EQ(chart.at("Lab_NHouseNo").at(0), isNorth ? std::to_string(lagna) : "");
+        for (std::size_t body = 0; body < bodies.size(); ++body) {
+            const double longitude = state.at(bodies[body] + "Lon"s);
+            const int rasi = state.at(bodies[body] + "Rasi"s);
+            EXPECT_TRUE(longitude >= 0 && longitude <= 360) << bodies[body] << ' ' << longitude;
+            EXPECT_EQ(rasi, std::floor(longitude / 30) + 1) << bodies[body];
+            const std::string cell =
+                chart.at("cells").at(static_cast<std::size_t>(isNorth ? (rasi - lagna + 12) % 12 : rasi - 1));
+            EXPECT_NE(cell.find(state.at("ShortNames").at(body).get<std::string>()), std::string::npos)
+                << bodies[body] << " in " << cell;
+        }
+    }
+}
+
+TEST(HoroscopeJson, RefusesBadLinesAndGoesOn) {
+    struct BadLine {
+        std::string line;
+        const char *cause;
+    };
+    const auto with = [](const char *key, const json &value) { return SampleWith({{key, value}}).dump(); };
+    const std::vector<BadLine> badLines{
+        {"", "empty"},
+        {"  ", "empty"},
+        {"born on a Monday", "no JSON"},
+        {Sample().dump() + "}", "no JSON"},
+        {Sample().dump() + "\0"s, "no JSON"},
+        {Sample().dump().substr(0, 60), "no JSON"},
+        {"{\"ChartName\": \"\xff\xfe\"}", "no JSON"},
+        {std::string(100000, '['), "no JSON"},
+        {R"({"LatDeg": 1e999})", "no JSON"},
+        {R"(["BirthDay", 14])", "no JSON object"},
+        {SampleWithout("BirthDay"), "BirthDay is missing"},
+        {SampleWithout("BirthMonth"), "BirthMonth is missing"},
+        {SampleWithout("BirthMinute"), "BirthMinute is missing"},
+        {SampleWithout("LatNS"), "LatNS is missing"},
+        {SampleWithout("LonMin"), "LonMin is missing"},
+        {SampleWithout("TimeDiff"), "TimeDiff is missing"},
+        {with("ChartName", 5), "ChartName must be a text"},
+        {with("Ayanamsa", nullptr), "Ayanamsa must be a text"},
+        {with("BirthDay", 0), "BirthDay must be a whole number from 1 to 31"},
+        {with("BirthDay", 14.5), "BirthDay must be"},
+        {with("BirthDay", "14.0"), "BirthDay must be"},
+        {with("BirthDay", "14/7"), "BirthDay must be"},
+        {with("BirthDay", "99999999999"), "BirthDay must be"},
+        {with("BirthDay", json::array({14})), "BirthDay must be"},
+        {with("BirthMonth", 13), "BirthMonth must be"},
+        {with("BirthMonth", "Thermidor"), "BirthMonth must be"},
+        {with("BirthYear", 99), "BirthYear must be a whole number from 100 to 9999"},
+        {with("BirthYear", 10000), "BirthYear must be"},
+        {SampleWith({{"BirthDay", 29}, {"BirthMonth", "Feb"}, {"BirthYear", 1900}}).dump(),
+         "no date: 29/Feb/1900"},
+        {with("BirthHour", 24), "BirthHour must be"},
+        {with("BirthHour", -1), "BirthHour must be"},
+        {with("BirthMinute", "60"), "BirthMinute must be"},
+        {with("LatDeg", 90.5), "LatDeg must be a number from 0 to 90"},
+        {with("LatDeg", "-17"), "LatDeg must be"},
+        {with("LatDeg", "nan"), "LatDeg must be"},
+        {with("LatMin", 60), "LatMin must be a number from 0 to below 60"},
+        {with("LatDeg", 90), "LatDeg and LatMin together"},
+        {with("LatNS", "n"), "LatNS must be \"N\" or \"S\""},
+        {with("LonDeg", 181), "LonDeg must be"},
+        {with("LonDeg", 180), "LonDeg and LonMin together"},
+        {with("LonMin", true), "LonMin must be"},
+        {with("LonEW", 5), "LonEW must be"},
+        {with("TimeDiff", 24.1), "TimeDiff must be a number from 0 to 24"},
+        {with("TimeDiff", "inf"), "TimeDiff must be"},
+        {with("TimeDiffEW", "N"), "TimeDiffEW must be"},
+        {with("DayInYear", "long"), "DayInYear must be a number"},
+        {with("CustomProgress", ""), "CustomProgress must be a number"},
+        // A valid birth, but the run takes its next sunrise from a date beyond the calendar.
+        {SampleWith({{"BirthDay", 31}, {"BirthMonth", 12}, {"BirthYear", 9999}}).dump(), "Rasi positions: "},
+    };
+    std::string stream = Sample().dump();
+    for (const BadLine &bad : badLines) {
+        stream += '\n' + bad.line + '\n' + Sample().dump();
+    }
+    const auto answers = AnswerLines(stream);
+    ASSERT_EQ(answers.size(), 2 * badLines.size() + 1);
+    EXPECT_TRUE(json::parse(answers[0]).contains("HoroscopeState"));
+    for (std::size_t i = 0; i < badLines.size(); ++i) {
+        const json answer = json::parse(answers[2 * i + 1]);
+        ASSERT_TRUE(answer.contains("error")) << badLines[i].line.substr(0, 500);
+        EXPECT_NE(answer.at("error").get<std::string>().find(badLines[i].cause), std::string::npos)
+            << answer.at("error") << " for " << badLines[i].line.substr(0, 500);
+        EXPECT_EQ(answers[2 * i + 2], answers[0]);
+    }
+}
+
+TEST(HoroscopeJson, ReadsOneBirthInManyForms) {
+    const std::vector<json> sameBirths{
+        Sample(),
+        SampleWith({{"BirthDay", 14},
+                    {"BirthMonth", 7},
+                    {"BirthYear", 1965.0},
+                    {"BirthHour", 14},
+                    {"BirthMinute", 15}}),
+        SampleWith(
+            {{"BirthDay", "014"}, {"BirthMonth", "july"}, {"BirthYear", " 1965 "}, {"BirthMonth", "07"}}),
+        SampleWith({{"LatDeg", "17"},
+                    {"LatMin", "20.0"},
+                    {"LonDeg", "7.8e1"},
+                    {"LonMin", "30"},
+                    {"TimeDiff", "5.5"}}),
+        SampleWith(
+            {{"ChartName", ""}, {"Religion", {1, 2}}, {"Ayanamsa", "Lahiri"}, {"DayInYear", "365.25"}}),
+    };
+    const auto answers = Answers(sameBirths);
+    ASSERT_EQ(answers.size(), sameBirths.size());
+    for (std::size_t i = 1; i < answers.size(); ++i) {
+        EXPECT_EQ(answers[i], answers[0]) << sameBirths[i];
+    }
+}
+
+TEST(HoroscopeJson, TakesMissingPreferencesFromTheDefaults) {
+    const json preferences{{"Ayanamsa", "Custom"},
+                           {"CustomYear", 400},
+                           {"CustomProgress", 50},
+                           {"PreferLanguage", "Sanskrit"},
+                           {"ChartStyle", "North"}};
+    const auto answers = Answers({Sample(), SampleWith(preferences), Sample()});
+    ASSERT_EQ(answers.size(), 3U);
+    EXPECT_NE(answers[1].at("HoroscopeState").at("Ayanamsa"), answers[0].at("HoroscopeState").at("Ayanamsa"));
+    EXPECT_EQ(answers[1].at("HoroscopeState").at("RasiNames").at(0), "Mesha");
+    EXPECT_EQ(answers[2], answers[0]);
+}
+
+TEST(HoroscopeJson, RunsUnknownPreferenceWordsOnTheStateAsItStands) {
+    const auto answers =
+        Answers({SampleWith({{"Ayanamsa", "Raman"}, {"PreferLanguage", "Sanskrit"}}),
+                 SampleWith({{"Ayanamsa", "Fagan"}, {"PreferLanguage", "Telugu"}, {"ChartStyle", "West"}})});
+    ASSERT_EQ(answers.size(), 2U);
+    EXPECT_EQ(answers[1].at("HoroscopeState"), answers[0].at("HoroscopeState"));
+    EXPECT_EQ(answers[1].at("frm_rasi").at("cells"), json(std::vector<std::string>(12)));
+}
+
+TEST(HoroscopeJson, KeepsEveryDigit) {
+    // Most minutes of a day need seventeen digits.
+    std::vector<json> births;
+    for (int minute = 0; minute < 60; ++minute) {
+        births.push_back(SampleWith({{"BirthMinute", minute}}));
+    }
+    const auto answers = Answers(births);
+    ASSERT_EQ(answers.size(), births.size());
+    for (int minute = 0; minute < 60; ++minute) {
+        EXPECT_EQ(answers[static_cast<std::size_t>(minute)]
+                      .at("HoroscopeState")
+                      .at("BirthMomentDate")
+                      .get<double>(),
+                  23937 + (14 * 60 + minute) / 1440.0);
+    }
+}
+
+TEST(HoroscopeJson, AnswersNothingToAnEmptyStream) {
+    EXPECT_TRUE(AnswerLines("").empty());
+    EXPECT_EQ(AnswerLines(Sample().dump() + "\n").size(), 1U);
+    EXPECT_EQ(AnswerLines(Sample().dump() + "\r\n\n").size(), 2U);
+}
+
+} // namespace
