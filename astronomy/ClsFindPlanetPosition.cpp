@@ -9,11 +9,10 @@ ClsPlanet &ClsFindPlanetPosition::Planet() {
     return *planet_;
 }
 
-void ClsFindPlanetPosition::FindFixValues(Moment date, const std::string &strNS, double latDeg, double latMin,
-                                          const std::string &strEW, double lonDeg, double lonMin,
-                                          double zoneHours, const std::string &strZoneSide,
-                                          double /*daylightHours*/, const std::string &ayanamsaType,
-                                          double zeroYear, double progress) {
+void ClsFindPlanetPosition::SetInputs(Moment date, const std::string &strNS, double latDeg, double latMin,
+                                      const std::string &strEW, double lonDeg, double lonMin,
+                                      double zoneHours, const std::string &strZoneSide,
+                                      const std::string &ayanamsaType, double zeroYear, double progress) {
     ClsPlanet &planet = Planet();
     planet.BirthDateTime = date;
     planet.CL_LatitudeDeg = strNS == "S" && latDeg > 0 ? -latDeg : latDeg;
@@ -26,7 +25,26 @@ void ClsFindPlanetPosition::FindFixValues(Moment date, const std::string &strNS,
     planet.TZone = strZoneSide == "W" ? -zoneHours : zoneHours;
     planet.DSAVE = 0;
     planet.AyType = ayanamsaType;
-    planet.FnCalculate();
+}
+
+void ClsFindPlanetPosition::FindFixValues(Moment date, const std::string &strNS, double latDeg, double latMin,
+                                          const std::string &strEW, double lonDeg, double lonMin,
+                                          double zoneHours, const std::string &strZoneSide,
+                                          double /*daylightHours*/, const std::string &ayanamsaType,
+                                          double zeroYear, double progress) {
+    SetInputs(date, strNS, latDeg, latMin, strEW, lonDeg, lonMin, zoneHours, strZoneSide, ayanamsaType,
+              zeroYear, progress);
+    Planet().FnCalculate();
+}
+
+void ClsFindPlanetPosition::FindSunAndMoon(Moment date, const std::string &strNS, double latDeg,
+                                           double latMin, const std::string &strEW, double lonDeg,
+                                           double lonMin, double zoneHours, const std::string &strZoneSide,
+                                           const std::string &ayanamsaType, double zeroYear,
+                                           double progress) {
+    SetInputs(date, strNS, latDeg, latMin, strEW, lonDeg, lonMin, zoneHours, strZoneSide, ayanamsaType,
+              zeroYear, progress);
+    Planet().FnCalculateSunAndMoon();
 }
 
 } // namespace kelvaro

@@ -36,8 +36,19 @@ public:
                        const std::string &strZoneSide, double daylightHours, const std::string &ayanamsaType,
                        double zeroYear, double progress);
 
+    /// The same for Sun, Moon and ayanamsa alone, for searches through many moments.
+    /// The other longitudes stay as they were.
+    void FindSunAndMoon(Moment date, const std::string &strNS, double latDeg, double latMin,
+                        const std::string &strEW, double lonDeg, double lonMin, double zoneHours,
+                        const std::string &strZoneSide, const std::string &ayanamsaType, double zeroYear,
+                        double progress);
+
 private:
     ClsPlanet &Planet();
+    void SetInputs(Moment date, const std::string &strNS, double latDeg, double latMin,
+                   const std::string &strEW, double lonDeg, double lonMin, double zoneHours,
+                   const std::string &strZoneSide, const std::string &ayanamsaType, double zeroYear,
+                   double progress);
 
     std::unique_ptr<ClsPlanet> planet_;
 };

@@ -54,6 +54,17 @@ void ClsPlanet::FnCalculate() {
     guard.Check("the sidereal longitudes");
 }
 
+void ClsPlanet::FnCalculateSunAndMoon() {
+    const FloatingPointGuard guard;
+    SplitBirthMoment();
+    FnFindSiderealTime();
+    FindSunAndMoon();
+    FindAyanamsa();
+    guard.Check("the places of Sun and Moon");
+    ApplyToSunAndMoon();
+    guard.Check("the sidereal longitudes");
+}
+
 void ClsPlanet::SplitBirthMoment() {
     civil_ = Split(BirthDateTime);
     Message.clear();
@@ -133,9 +144,13 @@ void ClsPlanet::FindLagnaAndMidHeaven() {
     MidHeaven = FnNormalize360(points.midHeaven + Ayanamsa);
 }
 
-void ClsPlanet::FnApplyAyanamsa() {
+void ClsPlanet::ApplyToSunAndMoon() {
     SuryaValue = FnNormalize360(tropical_.sun + Ayanamsa);
     ChandraValue = FnNormalize360(tropical_.moon + Ayanamsa);
+}
+
+void ClsPlanet::FnApplyAyanamsa() {
+    ApplyToSunAndMoon();
     KujaValue = FnNormalize360(tropical_.mars + Ayanamsa);
     BudhaValue = FnNormalize360(tropical_.mercury + Ayanamsa);
     GuruValue = FnNormalize360(tropical_.jupiter + Ayanamsa);

@@ -50,6 +50,10 @@ public:
     /// calendar. Outputs already written stay written.
     void FnCalculate();
 
+    /// The part of `FnCalculate` that an hourly search needs: SuryaValue, ChandraValue and Ayanamsa come out
+    /// the same, the other outputs stay as they were.
+    void FnCalculateSunAndMoon();
+
 private:
     /// Tropical degrees; the Moon and the nodes are not brought to the circle.
     struct TropicalLongitudes {
@@ -67,6 +71,7 @@ private:
     void FindNodes();
     void FindAyanamsa();
     void FindLagnaAndMidHeaven();
+    void ApplyToSunAndMoon();
     void FnApplyAyanamsa();
 
     CivilMoment civil_;

@@ -2,10 +2,9 @@
 
 #include "horoscope/Bodies.h"
 #include "horoscope/Horoscope.h"
+#include "panchanga/RasiOfLongitude.h"
 #include "runtime/MomentText.h"
-#include "runtime/Numbers.h"
 
-#include <cmath>
 #include <span>
 #include <string>
 
@@ -137,14 +136,6 @@ double LagnaAt(Horoscope &horoscope, Moment moment) {
 }
 
 } // namespace
-
-std::int16_t RasiOfLongitude(double longitude, double division) {
-    int rasi = ToInt16(std::floor(longitude / division)) + 1;
-    while (rasi > 12) {
-        rasi -= 12;
-    }
-    return static_cast<std::int16_t>(rasi);
-}
 
 void ComputeChartPositions(Horoscope &horoscope, double division) {
     HoroscopeState &state = horoscope.state;

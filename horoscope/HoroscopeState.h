@@ -66,6 +66,20 @@ struct HoroscopeState {
     Moment GulikaDay, GulikaNight, MandiDay, MandiNight;
     Moment GulikaMoment, MandiMoment;
 
+    // Results of the birth summary.
+    Moment SummaryMoment;
+    Moment LocalMeanTimeMoment;
+    Moment SunriseForGhati;       ///< of the day that holds the birth
+    double IshtaGhatiMinutes = 0; ///< whole minutes from that sunrise
+    double IshtaGhati = 0;        ///< the same in ghatis of 24 minutes
+
+    // Houses 1 to 12, at index 0 to 11: start, mid point and end (sandhi) in degrees, rasi number, bodies within.
+    std::array<double, 12> BhavaStart{}, BhavaMid{}, BhavaSandhi{};
+    std::array<std::int16_t, 12> BhavaRasi{};
+    std::array<std::string, 12> BhavaPlanets;
+
+    std::string DasaBalanceText; ///< dasa balance at birth, as the report words it
+
     // Name tables of the language in force. The two planet tables differ in order: address them by Body only.
     std::array<std::string, 12> ShortNames; ///< Lagna to Ketu, Jupiter before Venus, then Gulika, Maandi
     std::array<std::string, 10> LongNames;  ///< Lagna to Ketu, Venus before Jupiter

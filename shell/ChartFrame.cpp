@@ -236,7 +236,7 @@ void ChartFrame::DrawHeading(QPainter &painter) const {
     std::vector<HeadingLine> lines{{heading_.title, 0.046, true, lineColour}};
     if (HasSignNumbers()) {
         const QStringList parts{heading_.name, heading_.moment, heading_.place};
-        lines.push_back({parts.join(QStringLiteral("   ")), 0.0235, false, nameColour});
+        lines.push_back({parts.join(QStringLiteral("   \u00b7   ")), 0.0235, false, nameColour});
     } else {
         lines.push_back({heading_.name, 0.0285, false, nameColour});
         lines.push_back({heading_.moment, 0.0225, false, figureColour});

@@ -18,6 +18,7 @@ namespace kelvaro {
 namespace {
 
 constexpr int treeWidth = 190;
+constexpr int splitterWidth = 5;
 
 /// A window of the area without a frame. It takes up the whole area and stays, whatever key is pressed.
 class FramelessSubWindow : public QMdiSubWindow {
@@ -57,6 +58,7 @@ MDILight::MDILight() : horoscope_(*this), area_(new QMdiArea), tree_(new MainHor
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({treeWidth, width()});
     splitter->setChildrenCollapsible(false);
+    splitter->setHandleWidth(splitterWidth);
     setCentralWidget(splitter);
     panel_ = new StatusPanel(this);
 
@@ -67,10 +69,10 @@ MDILight::MDILight() : horoscope_(*this), area_(new QMdiArea), tree_(new MainHor
 }
 
 void MDILight::FNInitialize() {
-    RunCalculation();
+    Calculate();
 }
 
-void MDILight::RunCalculation() {
+void MDILight::Calculate() {
     CalculateHoroscope(horoscope_);
     if (isCloseWanted_ && !horoscope_.isCalculating) {
         close();

@@ -24,6 +24,12 @@ public:
     /// Shows the chart that the program starts with.
     void FNInitialize();
 
+    Horoscope &HoroscopeInForce() { return horoscope_; }
+
+    /// Computes and shows the horoscope as its record stands. A call in the middle of a run is ignored, and
+    /// a window that was closed in the middle of a run closes at its end.
+    void Calculate();
+
 protected:
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
@@ -43,7 +49,6 @@ private:
 
     void BuildMenu();
     void BuildViews();
-    void RunCalculation();
     void ChooseView(std::size_t view);
     void ShowAbout();
 

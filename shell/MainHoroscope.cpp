@@ -9,22 +9,36 @@
 
 namespace kelvaro {
 
+namespace {
+
+constexpr int nodeIndent = 10;
+
+}
+
 MainHoroscope::MainHoroscope(QWidget *parent) : QWidget(parent), tV_(new QTreeWidget(this)) {
     setObjectName(QStringLiteral("frm_MainHoroscope"));
     setWindowTitle(tr("Horoscope"));
     tV_->setObjectName(QStringLiteral("tV"));
     tV_->setAccessibleName(windowTitle());
     tV_->setHeaderLabel(windowTitle());
-    tV_->setRootIsDecorated(false);
+    tV_->setIndentation(nodeIndent);
     tV_->setFrameShape(QFrame::NoFrame);
+    tV_->setFocus();
+    setFocusProxy(tV_);
     QPalette colours = tV_->palette();
     colours.setColor(QPalette::Base, parchmentColour);
     colours.setColor(QPalette::Text, Qt::black);
     colours.setColor(QPalette::Highlight, lineColour);
     colours.setColor(QPalette::HighlightedText, parchmentColour);
+    colours.setColor(QPalette::Button, parchmentColour.darker(106));
+    colours.setColor(QPalette::ButtonText, lineColour);
     tV_->setPalette(colours);
+    const int rowHeight = 2 * tV_->fontMetrics().height();
+    tV_->header()->setMinimumHeight(rowHeight);
+    tV_->header()->setDefaultAlignment(Qt::AlignCenter);
     for (const HoroscopeViewRow &row : horoscopeViews) {
         auto *node = new QTreeWidgetItem(tV_, {QString::fromLatin1(row.text)});
+        node->setSizeHint(0, QSize(0, rowHeight));
         node->setData(0, Qt::UserRole, QString::fromLatin1(row.key));
     }
 

@@ -9,7 +9,7 @@ int main(int argc, char **argv) {
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
     QApplication::setApplicationName(QStringLiteral("Kelvaro Basic"));
     kelvaro::MDILight window;
-    window.resize(window.screen()->availableSize() * 0.9);
+    window.setGeometry(window.screen()->availableGeometry());
     window.showMaximized();
     // From within the event loop, where a window closed in the middle of the run ends the program.
     QTimer::singleShot(0, &window, &kelvaro::MDILight::FNInitialize);

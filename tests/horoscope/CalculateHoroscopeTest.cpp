@@ -1,7 +1,7 @@
 #include "horoscope/CalculateHoroscope.h"
 
 #include "horoscope/Bodies.h"
-#include "horoscope/ChartPositions.h"
+#include "panchanga/RasiOfLongitude.h"
 #include "horoscope/Horoscope.h"
 #include "runtime/MomentText.h"
 

@@ -149,7 +149,7 @@ TEST(HoroscopeJson, RefusesBadLinesAndGoesOn) {
         {with("LatDeg", "nan"), "LatDeg must be"},
         {with("LatMin", 60), "LatMin must be a number from 0 to below 60"},
         {with("LatDeg", 90), "LatDeg and LatMin together"},
-        {with("LatNS", "n"), "LatNS must be \"N\" or \"S\""},
+        {with("LatNS", "n"), R"(LatNS must be "N" or "S")"},
         {with("LonDeg", 181), "LonDeg must be"},
         {with("LonDeg", 180), "LonDeg and LonMin together"},
         {with("LonMin", true), "LonMin must be"},
@@ -228,6 +228,7 @@ TEST(HoroscopeJson, RunsUnknownPreferenceWordsOnTheStateAsItStands) {
 TEST(HoroscopeJson, KeepsEveryDigit) {
     // Most minutes of a day need seventeen digits.
     std::vector<json> births;
+    births.reserve(60);
     for (int minute = 0; minute < 60; ++minute) {
         births.push_back(SampleWith({{"BirthMinute", minute}}));
     }

@@ -14,6 +14,7 @@
 #include <limits>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 namespace kelvaro {
 
@@ -137,8 +138,9 @@ std::optional<int> WholeFromDigits(const std::string &digits) {
     return value;
 }
 
-/// The digits of a value: a text's own, so that "05" stays "05", or those of a whole number.
-std::string DigitsOf(const json &value) {
+/// What an entry field would hold: a text as it stands, so that "05" stays "05", or the digits of a whole
+/// number. Empty for any other value.
+std::string EntryText(const json &value) {
     if (value.is_string()) {
         return Trimmed(value.get_ref<const std::string &>());
     }
@@ -168,7 +170,7 @@ void ReadSide(const json &birth, const SideKey &wanted, HoroscopeState &state) {
 }
 
 int ReadWhole(const json &birth, const WholeKey &wanted, HoroscopeState &state) {
-    const std::string digits = DigitsOf(Required(birth, wanted.key));
+    const std::string digits = EntryText(Required(birth, wanted.key));
     const auto number = WholeFromDigits(digits);
     if (!number || *number < wanted.lowest || *number > wanted.highest) {
         Refuse(wanted.key, "must be a whole number from " + std::to_string(wanted.lowest) + " to " +
@@ -180,7 +182,7 @@ int ReadWhole(const json &birth, const WholeKey &wanted, HoroscopeState &state) 
 
 int ReadBirthMonth(const json &birth, HoroscopeState &state) {
     const char *const key = "BirthMonth";
-    const std::string text = DigitsOf(Required(birth, key));
+    const std::string text = EntryText(Required(birth, key));
     try {
         const int month = ReadMonth(text);
         state.BirthMonth = text;
