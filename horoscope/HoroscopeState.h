@@ -73,7 +73,8 @@ struct HoroscopeState {
     double IshtaGhatiMinutes = 0; ///< whole minutes from that sunrise
     double IshtaGhati = 0;        ///< the same in ghatis of 24 minutes
 
-    // Houses 1 to 12, at index 0 to 11: start, mid point and end (sandhi) in degrees, rasi number, bodies within.
+    // Houses 1 to 12, at index 0 to 11: start, mid point and end (sandhi) in degrees, rasi number, bodies
+    // within.
     std::array<double, 12> BhavaStart{}, BhavaMid{}, BhavaSandhi{};
     std::array<std::int16_t, 12> BhavaRasi{};
     std::array<std::string, 12> BhavaPlanets;

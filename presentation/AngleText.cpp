@@ -34,11 +34,6 @@ double FoldToSign(double position) {
     return position < 30 ? position : std::fmod(position, 30);
 }
 
-std::int16_t SignOfLongitude(double position, double width) {
-    const std::int16_t part = ToInt16(std::trunc(position / width) + 1);
-    return part < 13 ? part : static_cast<std::int16_t>((part - 1) % 12 + 1);
-}
-
 std::string DegreeMinuteText(double value) {
     const AngleParts parts = Divide(value);
     return parts.degrees + "." + std::to_string(parts.minutes);

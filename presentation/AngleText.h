@@ -1,16 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 
 namespace kelvaro {
 
 /// Degrees within the sign: takes 30 off while the value is at least 30. Values below 30 stay as they are.
 double FoldToSign(double position);
-
-/// The sign, or the part of another width in degrees, that holds a longitude: 1 to 12, counted on
-/// through the circle. Raises OverflowError for a count beyond 16 bits, which a width of 0 gives.
-std::int16_t SignOfLongitude(double position, double width);
 
 /// "12.5" for 12 degrees 5 minutes. Not a decimal fraction; a minute value of 60 can appear, since degrees
 /// are never carried. Raises OverflowError for infinities and NaN.

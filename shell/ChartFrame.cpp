@@ -15,7 +15,7 @@ namespace {
 
 // Sizes in sides of the square.
 constexpr double usualTextSize = 0.0285;
-constexpr double leastCommonTextSize = 0.021; // a cell that needs smaller text shrinks alone
+constexpr double leastCommonTextSize = 0.023; // a cell that needs smaller text shrinks alone
 constexpr double cellMargin = 0.009;
 constexpr double signNumberSize = 0.0205;
 constexpr double signNumberMargin = 0.009;

@@ -59,6 +59,10 @@ MDILight::MDILight() : horoscope_(*this), area_(new QMdiArea), tree_(new MainHor
     splitter->setSizes({treeWidth, width()});
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(splitterWidth);
+    QPalette colours = splitter->palette();
+    colours.setColor(QPalette::Window, parchmentColour.darker(112));
+    splitter->setPalette(colours);
+    splitter->setAutoFillBackground(true);
     setCentralWidget(splitter);
     panel_ = new StatusPanel(this);
 
@@ -135,6 +139,7 @@ void MDILight::HideHoroscopeForms() {
 
 void MDILight::ShowCurrentView(std::string_view currentView) {
     const std::size_t shown = ViewNamed(currentView);
+    const bool isInTree = tree_->isAncestorOf(focusWidget());
     for (std::size_t index = 0; index < views_.size(); ++index) {
         views_.at(index).view->Refresh(horoscope_);
         views_.at(index).window->setVisible(index == shown);
@@ -142,6 +147,10 @@ void MDILight::ShowCurrentView(std::string_view currentView) {
     views_.at(shown).window->showMaximized();
     area_->setActiveSubWindow(views_.at(shown).window);
     tree_->MarkView(shown);
+    if (isInTree) {
+        // The shown window drew the keys to itself, and the user is still on the way through the tree.
+        tree_->setFocus();
+    }
 }
 
 void MDILight::RunFailed(std::string_view step, std::string_view cause) {

@@ -18,6 +18,8 @@ class StatusPanel;
 
 /// The main window: the horoscope in force, its tree and its views.
 class MDILight : public QMainWindow, private StatusDisplay {
+    Q_OBJECT
+
 public:
     MDILight();
 

@@ -155,7 +155,7 @@ TextBlock ColumnBlock(const CellText &text, const ChartFont &font) {
     double rests = 0;
     for (const CellEntry &entry : text.entries) {
         const double wholeWidth = font.Width(whole(entry), Tone::Figure);
-        names = std::max(names, font.Width(entry.name, entry.tone));
+        names = std::max(names, entry.width);
         wholes = std::max(wholes, wholeWidth);
         rests = std::max(rests, font.Width(entry.figure, Tone::Figure) - wholeWidth);
     }
@@ -182,13 +182,13 @@ TextBlock FlowBlock(const CellText &text, const ChartFont &font, std::uint32_t b
         }
         double width = entryGap * static_cast<double>(last - first);
         for (std::size_t index = first; index <= last; ++index) {
-            width += font.Width(text.entries[index].name, text.entries[index].tone);
+            width += text.entries[index].width;
         }
         double x = -width / 2;
         for (std::size_t index = first; index <= last; ++index) {
             const CellEntry &entry = text.entries[index];
             builder.AddRun(entry.name, entry.tone, x);
-            x += font.Width(entry.name, entry.tone) + entryGap;
+            x += entry.width + entryGap;
         }
         builder.EndLine(-width / 2, width / 2);
         first = last + 1;
@@ -288,7 +288,11 @@ std::vector<CellEdge> EdgesOf(const QPolygonF &polygon) {
 }
 
 CellFitter::CellFitter(CellText text, std::vector<CellEdge> edges, const ChartFont &font)
-    : text_(std::move(text)), edges_(std::move(edges)), font_(font) {}
+    : text_(std::move(text)), edges_(std::move(edges)), font_(font) {
+    for (CellEntry &entry : text_.entries) {
+        entry.width = font_.Width(entry.name, entry.tone);
+    }
+}
 
 double CellFitter::LargestSize(double margin) const {
     double largest = 0;

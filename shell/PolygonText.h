@@ -43,6 +43,7 @@ struct CellEntry {
     QString name;
     QString figure;
     Tone tone = Tone::Name;
+    double width = 0; ///< of the name, in font sizes; set where it is measured
 };
 
 /// What a cell says, in reading order.

@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <memory>
-#include <string>
 #include <string_view>
 
 namespace SQLite {
@@ -22,8 +21,9 @@ public:
 /// The one connection to the program's database.
 ///
 /// Statements are those of the program: plain SQL with values joined into the text. Only the first statement
-/// of a text runs, whatever stands behind a semicolon. All operations but `Open` raise StoreError on a closed
-/// connection.
+/// of a text runs, whatever stands behind a semicolon. All operations but `Open`, `OpenCopyInMemory`, `IsOpen`
+/// and `Close` raise StoreError on a closed connection. A database that another program has locked is waited
+/// for, a second and a half at most.
 class Connection {
 public:
     Connection();
@@ -31,14 +31,17 @@ public:
     Connection &operator=(const Connection &) = delete;
     ~Connection();
 
-    /// Opens an existing database file. Raises StoreError when it is missing, damaged or no database of this
-    /// program.
+    /// Opens an existing database file, for reading only where the file is write-protected. A database that was
+    /// open is closed first. Raises StoreError, and is closed, when the file is missing, locked, damaged or no
+    /// database of this program.
     void Open(const std::filesystem::path &file);
 
-    /// Opens a private copy in memory; the file itself is only read.
+    /// Opens a private copy in memory; the file itself is only read. The copy starts with an empty
+    /// `tempBhukthi`, which grows with every horoscope and which nothing reads. Raises like `Open`.
     void OpenCopyInMemory(const std::filesystem::path &file);
 
     bool IsOpen() const;
+    /// Undoes a transaction that is still running. Closing a closed connection does nothing.
     void Close();
 
     /// Runs an insert, a delete or an update. Raises StoreError, with nothing changed, when it fails.
@@ -50,13 +53,15 @@ private:
 
     SQLite::Database &Database();
 
+    std::filesystem::path file_;
     std::unique_ptr<SQLite::Database> database_;
 };
 
 /// Makes the statements until `Commit` one change: what is not committed when the object goes is undone.
-/// A transaction inside another one joins it.
+/// A transaction inside another one joins it: undone, it goes alone; committed, it is kept with the outer one.
 class Transaction {
 public:
+    /// Raises StoreError where the database cannot be changed.
     explicit Transaction(Connection &connection);
     Transaction(const Transaction &) = delete;
     Transaction &operator=(const Transaction &) = delete;
@@ -66,7 +71,7 @@ public:
 
 private:
     Connection &connection_;
-    std::string savepoint_;
+    bool isInner_ = false;
     bool isCommitted_ = false;
 };
 

@@ -34,15 +34,10 @@ TEST(AngleText, WritesDegreesMinutesAndSeconds) {
     EXPECT_THROW(DegreeMinuteText(std::numeric_limits<double>::quiet_NaN()), OverflowError);
 }
 
-TEST(AngleText, FoldsAndCountsSigns) {
+TEST(AngleText, FoldsToTheSign) {
     EXPECT_EQ(FoldToSign(30), 0);
     EXPECT_EQ(FoldToSign(359.5), 29.5);
     EXPECT_EQ(FoldToSign(-5), -5);
-    EXPECT_EQ(SignOfLongitude(29.999, 30), 1);
-    EXPECT_EQ(SignOfLongitude(30, 30), 2);
-    EXPECT_EQ(SignOfLongitude(359.9, 30), 12);
-    EXPECT_EQ(SignOfLongitude(41, 3.33333333333333), 1);
-    EXPECT_THROW(SignOfLongitude(10, 0), OverflowError);
 }
 
 } // namespace

@@ -1,0 +1,139 @@
+#include "astronomy/ClsPlanet.h"
+
+#include "runtime/RuntimeError.h"
+#include "tests/astronomy/Birth.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace kelvaro {
+namespace {
+
+using Positions = std::array<double, 12>;
+
+Positions PositionsOf(ClsFindPlanetPosition &f) {
+    return {f.FnFindLagnaPosition(), f.FnFindSunPosition(),     f.FnFindMoonPosition(),
+            f.FnFindMarsPosition(),  f.FnFindMercuryPosition(), f.FnFindJupiterPosition(),
+            f.FnFindVenusPosition(), f.FnFindSaturnPosition(),  f.FnFindRahuPosition(),
+            f.FnFindKethuPosition(), f.FnFindMidHeaven(),       f.FnFindAyanamsa()};
+}
+
+Positions PositionsAt(const CivilMoment &civil, double zone, const char *zoneSide, const BirthPlace &place) {
+    ClsFindPlanetPosition facade;
+    FindPositions(facade, civil, zone, zoneSide, place, "Lahiri");
+    return PositionsOf(facade);
+}
+
+const CivilMoment birth{{1965, 7, 14}, {14, 15, 0}};
+
+TEST(ClsFindPlanetPosition, StartsWithZeros) {
+    ClsFindPlanetPosition facade;
+    EXPECT_EQ(PositionsOf(facade), Positions{});
+}
+
+TEST(ClsFindPlanetPosition, TurnsHemisphereLettersIntoSigns) {
+    const BirthPlace south{33, 52, "S", 151, 13, "E"};
+    const Positions expected = PositionsAt(birth, 10, "E", south);
+    EXPECT_EQ(PositionsAt(birth, 10, "E", {-33, 52, "S", -151, 13, "E"}), expected)
+        << "a negative value passes";
+    EXPECT_EQ(PositionsAt(birth, 10, "E", {-33, 52, "N", -151, 13, "W"}), expected) << "whatever its letter";
+    EXPECT_EQ(PositionsAt(birth, -10, "W", south), expected) << "a zone is turned by W alone";
+    EXPECT_EQ(PositionsAt(birth, 10, "", south), expected);
+    // The sign rests on the degrees, so that minutes alone always count North and West.
+    EXPECT_EQ(PositionsAt(birth, 0, "E", {0, 40, "S", 0, 30, "E"}),
+              PositionsAt(birth, 0, "E", {0, 40, "N", 0, 30, "W"}));
+}
+
+TEST(ClsFindPlanetPosition, TakesNoNoticeOfSecondsAndDaylightHours) {
+    const BirthPlace place{13, 5, "N", 80, 17, "E"};
+    const Positions expected = PositionsAt(birth, 5.5, "E", place);
+    EXPECT_EQ(PositionsAt({birth.date, {14, 15, 59}}, 5.5, "E", place), expected);
+    ClsFindPlanetPosition facade;
+    facade.FindFixValues(MomentOf(birth.date, birth.clock), "N", 13, 5, "E", 80, 17, 5.5, "E", 1, "Lahiri", 0,
+                         0);
+    EXPECT_EQ(PositionsOf(facade), expected);
+}
+
+TEST(ClsPlanet, KeepsDaylightSavingFromTheLagna) {
+    const auto at = [](int hour, double daylight) {
+        ClsPlanet planet;
+        planet.BirthDateTime = MomentOf({1990, 6, 1}, {hour, 30, 0});
+        planet.TZone = 1;
+        planet.CL_LatitudeDeg = 48;
+        planet.DSAVE = daylight;
+        planet.AyType = "Lahiri";
+        planet.FnCalculate();
+        return planet;
+    };
+    EXPECT_NEAR(at(12, 1).ChandraValue - at(12, 1).Ayanamsa, at(11, 0).ChandraValue - at(11, 0).Ayanamsa,
+                1e-9);
+    EXPECT_EQ(at(12, 1).LagnaValue, at(12, 0).LagnaValue);
+    EXPECT_EQ(at(12, 1).Ayanamsa, at(12, 0).Ayanamsa);
+}
+
+TEST(ClsPlanet, CountsHoursBeforeMidnightOfGreenwich) {
+    // Ten past midnight in India is the evening before in Greenwich.
+    ClsFindPlanetPosition india;
+    ClsFindPlanetPosition greenwich;
+    FindPositions(india, {{1900, 1, 1}, {0, 10, 0}}, 5.5, "E", {13, 5, "N", 80, 17, "E"});
+    FindPositions(greenwich, {{1899, 12, 31}, {18, 40, 0}}, 0, "E", {13, 5, "N", 80, 17, "E"});
+    const Positions expected = PositionsOf(greenwich);
+    const Positions found = PositionsOf(india);
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        EXPECT_NEAR(Deviation(found[i], expected[i]), 0, 1e-6) << i;
+    }
+}
+
+TEST(ClsPlanet, RaisesOnInvalidNumbers) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const double wrong : {infinity, -infinity, std::numeric_limits<double>::quiet_NaN(), 1e300}) {
+        EXPECT_THROW(PositionsAt(birth, wrong, "E", {}), ArithmeticError) << wrong;
+        EXPECT_THROW(PositionsAt(birth, 0, "E", {0, 0, "N", wrong, 0, "E"}), ArithmeticError) << wrong;
+    }
+    EXPECT_THROW(PositionsAt(birth, 0, "E", {std::numeric_limits<double>::quiet_NaN(), 0, "N"}),
+                 ArithmeticError);
+}
+
+/// Births anywhere on the Earth from 1800 to 2100, the same ones in every run.
+class RandomBirths {
+public:
+    Positions Next() {
+        const CivilMoment civil{{1800 + Pick(301), 1 + Pick(12), 1 + Pick(28)}, {Pick(24), Pick(60), 0}};
+        const double zone = Pick(25) / 2.0;
+        const char *zoneSide = Side("E", "W");
+        const BirthPlace place{Degrees(91),  Degrees(60), Side("N", "S"),
+                               Degrees(180), Degrees(60), Side("E", "W")};
+        FindPositions(facade_, civil, zone, zoneSide, place, "Lahiri");
+        return PositionsOf(facade_);
+    }
+
+private:
+    int Pick(unsigned count) { return static_cast<int>(generator_() % count); }
+    double Degrees(unsigned count) { return Pick(count); }
+    const char *Side(const char *first, const char *second) { return Pick(2) == 0 ? first : second; }
+
+    std::mt19937 generator_{20240229};
+    ClsFindPlanetPosition facade_;
+};
+
+void ExpectOnTheCircle(const Positions &positions) {
+    for (std::size_t i = 0; i + 1 < positions.size(); ++i) {
+        ASSERT_TRUE(positions[i] >= 0 && positions[i] <= 360) << i << ": " << positions[i];
+    }
+    EXPECT_NEAR(std::abs(positions[9] - positions[8]), 180, 1e-9);
+    EXPECT_TRUE(positions[11] > -26 && positions[11] < -21) << positions[11];
+}
+
+TEST(ClsPlanet, GivesLongitudesForEveryBirth) {
+    RandomBirths births;
+    for (int i = 0; i < 4000; ++i) {
+        ASSERT_NO_FATAL_FAILURE(ExpectOnTheCircle(births.Next())) << i;
+    }
+}
+
+} // namespace
+} // namespace kelvaro

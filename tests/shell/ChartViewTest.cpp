@@ -1,0 +1,266 @@
+#include "shell/ChartFrame.h"
+#include "shell/ChartGeometry.h"
+#include "shell/PolygonText.h"
+
+#include <QImage>
+#include <QTest>
+
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
+using namespace kelvaro;
+
+namespace {
+
+using CellTexts = std::array<std::string, 12>;
+
+const QStringList lagnaNames{QStringLiteral("Asc")};
+constexpr std::array<const char *, 12> bodies{"Asc", "Sun", "Moo", "Mar", "Mer", "Jup",
+                                              "Ven", "Sat", "Rah", "Ket", "Gul", "Maa"};
+
+double AreaOf(const QPolygonF &polygon) {
+    double twice = 0;
+    for (qsizetype index = 0; index < polygon.size(); ++index) {
+        const QPointF a = polygon[index];
+        const QPointF b = polygon[(index + 1) % polygon.size()];
+        twice += a.x() * b.y() - a.y() * b.x();
+    }
+    return std::abs(twice) / 2;
+}
+
+/// A text of so many bodies, divided as charts divide them.
+std::string TextOf(std::size_t count, const std::string &figure, const std::string &divider) {
+    std::string text;
+    for (std::size_t index = 0; index < count; ++index) {
+        text += (text.empty() ? "" : divider) + bodies.at(index) + figure;
+    }
+    return text;
+}
+
+/// The dots that a label draws, row by row, in pixels of its parent.
+std::vector<QPoint> InkOf(QWidget &label) {
+    QImage image(label.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    label.render(&image, {}, {}, QWidget::RenderFlags());
+    std::vector<QPoint> dots;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(row[x]) >= 16) {
+                dots.push_back(label.pos() + QPoint(x, y));
+            }
+        }
+    }
+    return dots;
+}
+
+/// The least distance of dots from the borders of a cell, negative for a dot outside.
+double ClearanceOf(const std::vector<QPoint> &dots, const std::vector<CellEdge> &edges) {
+    double clearance = std::numeric_limits<double>::infinity();
+    for (const QPoint &dot : dots) {
+        for (const CellEdge &edge : edges) {
+            const QPointF middle = dot + QPointF(0.5, 0.5);
+            clearance = std::min(clearance, edge.offset - QPointF::dotProduct(edge.normal, middle));
+        }
+    }
+    return clearance;
+}
+
+bool Overlap(const std::vector<QPoint> &a, const std::vector<QPoint> &b) {
+    return std::ranges::any_of(a, [&b](const QPoint &dot) { return std::ranges::find(b, dot) != b.end(); });
+}
+
+} // namespace
+
+class ChartViewTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void CellsStandWhereAnAstrologerLooksForThem();
+    void CellsFillTheDrawing_data();
+    void CellsFillTheDrawing();
+    void TextIsCentredInASquare();
+    void FlowKeepsEveryWordInOrder();
+    void TextKeepsInsideItsCell_data();
+    void TextKeepsInsideItsCell();
+    void OnlyAFullCellShrinksAlone();
+};
+
+void ChartViewTest::CellsStandWhereAnAstrologerLooksForThem() {
+    struct Drawing {
+        ChartStyle style;
+        std::array<QPointF, 12> inside; ///< a point of each cell
+    };
+    const std::array<Drawing, 3> drawings{{
+        {ChartStyle::South,
+         {{{.37, .12},
+           {.62, .12},
+           {.87, .12},
+           {.87, .37},
+           {.87, .62},
+           {.87, .87},
+           {.62, .87},
+           {.37, .87},
+           {.12, .87},
+           {.12, .62},
+           {.12, .37},
+           {.12, .12}}}},
+        {ChartStyle::East,
+         {{{.5, .17},
+           {.2, .1},
+           {.1, .2},
+           {.17, .5},
+           {.1, .8},
+           {.2, .9},
+           {.5, .83},
+           {.8, .9},
+           {.9, .8},
+           {.83, .5},
+           {.9, .2},
+           {.8, .1}}}},
+        {ChartStyle::North,
+         {{{.5, .25},
+           {.25, .1},
+           {.1, .25},
+           {.25, .5},
+           {.1, .75},
+           {.25, .9},
+           {.5, .75},
+           {.75, .9},
+           {.9, .75},
+           {.75, .5},
+           {.9, .25},
+           {.75, .1}}}},
+    }};
+    for (const Drawing &drawing : drawings) {
+        const auto outlines = CellOutlines(drawing.style);
+        for (std::size_t index = 0; index < outlines.size(); ++index) {
+            for (std::size_t point = 0; point < outlines.size(); ++point) {
+                QCOMPARE(outlines.at(index).containsPoint(drawing.inside.at(point), Qt::OddEvenFill),
+                         index == point);
+            }
+        }
+    }
+}
+
+void ChartViewTest::CellsFillTheDrawing_data() {
+    QTest::addColumn<int>("style");
+    QTest::newRow("South") << static_cast<int>(ChartStyle::South);
+    QTest::newRow("East") << static_cast<int>(ChartStyle::East);
+    QTest::newRow("North") << static_cast<int>(ChartStyle::North);
+}
+
+void ChartViewTest::CellsFillTheDrawing() {
+    QFETCH(int, style);
+    const auto outlines = CellOutlines(static_cast<ChartStyle>(style));
+    const QRectF centre = OpenCentre(static_cast<ChartStyle>(style));
+    const double area =
+        std::accumulate(outlines.begin(), outlines.end(), centre.width() * centre.height(),
+                        [](double sum, const QPolygonF &outline) { return sum + AreaOf(outline); });
+    QVERIFY(std::abs(area - 1) < 1e-12);
+}
+
+void ChartViewTest::TextIsCentredInASquare() {
+    const ChartFont font{QFont()};
+    const CellFitter fitter(ReadCellText(QStringLiteral("Sun  \r\n"), CellFlow::Words, lagnaNames),
+                            EdgesOf(QPolygonF(QRectF(2, 3, 10, 10)).mid(0, 4)), font);
+    const PlacedText text = fitter.Place(1);
+    QCOMPARE(text.runs.size(), std::size_t{1});
+    const double middleX = text.runs[0].baseline.x() + font.Width(text.runs[0].text, Tone::Name) / 2;
+    const double middleY = text.runs[0].baseline.y() + (font.Descent() - font.Ascent()) / 2;
+    QVERIFY(std::abs(middleX - 7) < 1e-6);
+    QVERIFY(std::abs(middleY - 8) < 1e-6);
+}
+
+void ChartViewTest::FlowKeepsEveryWordInOrder() {
+    const ChartFont font{QFont()};
+    const QString words = QString::fromStdString(TextOf(12, "", "    "));
+    for (const QPolygonF &outline : CellOutlines(ChartStyle::North)) {
+        const CellFitter fitter(ReadCellText(words, CellFlow::Words, lagnaNames), EdgesOf(outline), font);
+        QStringList placed;
+        QPointF last(0, -1);
+        for (const PlacedRun &run : fitter.Place(fitter.LargestSize(0)).runs) {
+            QVERIFY(run.baseline.y() > last.y() || run.baseline.x() > last.x());
+            last = run.baseline;
+            placed << run.text;
+        }
+        QCOMPARE(placed, words.split(QStringLiteral("    ")));
+    }
+}
+
+void ChartViewTest::TextKeepsInsideItsCell_data() {
+    QTest::addColumn<int>("style");
+    QTest::addColumn<QString>("figure");
+    QTest::addColumn<QString>("divider");
+    QTest::newRow("South Rasi") << static_cast<int>(ChartStyle::South) << "  29.60"
+                                << "\r\n";
+    QTest::newRow("South Navamsa") << static_cast<int>(ChartStyle::South) << "  "
+                                   << "\r\n";
+    QTest::newRow("East Rasi") << static_cast<int>(ChartStyle::East) << ""
+                               << "    ";
+    QTest::newRow("East Navamsa") << static_cast<int>(ChartStyle::East) << "  "
+                                  << "\r\n";
+    QTest::newRow("North") << static_cast<int>(ChartStyle::North) << "  "
+                           << "";
+}
+
+void ChartViewTest::TextKeepsInsideItsCell() {
+    QFETCH(int, style);
+    QFETCH(QString, figure);
+    QFETCH(QString, divider);
+    CellTexts numbers;
+    for (std::size_t index = 0; index < numbers.size(); ++index) {
+        numbers.at(index) = std::to_string(12 - index);
+    }
+    for (const std::size_t count : {1U, 4U, 8U, 12U}) {
+        CellTexts cells;
+        cells.fill(TextOf(count, figure.toStdString(), divider.toStdString()));
+        ChartFrame frame(static_cast<ChartStyle>(style), QStringLiteral("Cell"), 1, nullptr);
+        frame.SetNames({lagnaNames, {}});
+        frame.SetCells(cells, numbers);
+        for (const QSize size : {QSize(200, 230), QSize(331, 300), QSize(1090, 740), QSize(2000, 2000)}) {
+            frame.resize(size);
+            frame.grab(QRect(0, 0, 1, 1)); // a hidden widget hears of its size when it is drawn
+            for (std::size_t cell = 0; cell < cells.size(); ++cell) {
+                const auto edges = EdgesOf(frame.CellOutline(cell));
+                const auto ink = InkOf(*frame.findChild<QWidget *>(QStringLiteral("Cell_%1").arg(cell + 1)));
+                const double clearance = ClearanceOf(ink, edges);
+                const QByteArray place = QStringLiteral("%1 bodies, cell %2, width %3: %4")
+                                             .arg(count)
+                                             .arg(cell + 1)
+                                             .arg(size.width())
+                                             .arg(clearance)
+                                             .toLatin1();
+                QVERIFY2(!ink.empty(), place);
+                QVERIFY2(clearance > 0.003 * frame.Square().width(), place);
+                if (auto *number =
+                        frame.findChild<QWidget *>(QStringLiteral("Lab_NHouseNo_%1").arg(cell + 1))) {
+                    const auto numberInk = InkOf(*number);
+                    QVERIFY2(!numberInk.empty() && ClearanceOf(numberInk, edges) > 0, place);
+                    QVERIFY2(!Overlap(numberInk, ink), place);
+                }
+            }
+        }
+    }
+}
+
+void ChartViewTest::OnlyAFullCellShrinksAlone() {
+    const auto heightOfInk = [](std::size_t bodiesBeside) {
+        CellTexts cells;
+        cells.at(0) = "Ket  12.5";
+        cells.at(1) = TextOf(bodiesBeside, "  29.60", "\r\n");
+        ChartFrame frame(ChartStyle::South, QStringLiteral("Cell"), 0, nullptr);
+        frame.SetCells(cells, {});
+        frame.resize(700, 700);
+        frame.grab(QRect(0, 0, 1, 1));
+        const auto ink = InkOf(*frame.findChild<QWidget *>(QStringLiteral("Cell_0")));
+        return ink.back().y() - ink.front().y();
+    };
+    const int usual = heightOfInk(1);
+    QVERIFY(heightOfInk(8) < usual); // text of eight bodies is a little smaller in every cell
+    QCOMPARE(heightOfInk(12), usual);
+}
+
+QTEST_MAIN(ChartViewTest)
+#include "ChartViewTest.moc"
