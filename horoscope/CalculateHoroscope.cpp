@@ -1,5 +1,11 @@
 #include "horoscope/CalculateHoroscope.h"
 
+#include "analysis/Ashtakavarga.h"
+#include "analysis/BhavaForms.h"
+#include "analysis/DasaForms.h"
+#include "analysis/PlanetTable.h"
+#include "analysis/Vargas.h"
+#include "horoscope/BirthSummary.h"
 #include "horoscope/ChartPositions.h"
 #include "horoscope/Horoscope.h"
 #include "horoscope/NamesForLanguage.h"
@@ -24,17 +30,48 @@ void LoadHoroscopeForms(Horoscope &horoscope) {
     horoscope.forms = {};
 }
 
+void FillBhavaChart(Horoscope &horoscope) {
+    ComputeChartPositions(horoscope, rasiSize);
+    FillBhava(horoscope.state, horoscope.forms, horoscope.calculators.star);
+}
+
+/// From here on the rasi numbers of the record are those of the Rasi chart.
+void FillPlanetTable(Horoscope &horoscope) {
+    LoadNamesForLanguage(horoscope.state);
+    ComputeChartPositions(horoscope, rasiSize);
+    FillPlanetPositions(horoscope.state, horoscope.forms.Frm_PP, horoscope.calculators.position,
+                        horoscope.calculators.star);
+}
+
+/// Builds the table a second time, with the same result.
+void RefreshPlanetTable(Horoscope &horoscope) {
+    FillPlanetTable(horoscope);
+    LoadNamesForLanguage(horoscope.state);
+}
+
+void FillDasaTables(Horoscope &horoscope) {
+    Calculators &calculators = horoscope.calculators;
+    FillDasa(horoscope.state, horoscope.forms.Frm_Dasa, calculators.position, calculators.star,
+             horoscope.connection, horoscope.chartNumber);
+}
+
 /// The fill of the status display moves on after each of them.
-constexpr std::array<Step, 9> steps{{
+constexpr std::array<Step, 15> steps{{
     {"Load the forms", LoadHoroscopeForms},
     {"Rasi positions", [](Horoscope &h) { ComputeChartPositions(h, rasiSize); }},
     {"Names", [](Horoscope &h) { LoadNamesForLanguage(h.state); }},
     {"Rasi chart", [](Horoscope &h) { FillRasiChart(h.state, h.forms); }},
+    {"Birth details", FillBirthSummary},
+    {"Ashtakavarga",
+     [](Horoscope &h) { FillAshtakavarga(h.state, h.forms.Frm_AVargas, h.calculators.star); }},
     {"Navamsa positions", [](Horoscope &h) { ComputeChartPositions(h, navamsaSize); }},
     {"Names for the Navamsa", [](Horoscope &h) { LoadNamesForLanguage(h.state); }},
     {"Navamsa chart", [](Horoscope &h) { FillNavamsaChart(h.state, h.forms); }},
-    // Readers of the rasi numbers outside a run find those of the Rasi chart.
-    {"Rasi positions again", [](Horoscope &h) { ComputeChartPositions(h, rasiSize); }},
+    {"Bhava", FillBhavaChart},
+    {"Planet positions", FillPlanetTable},
+    {"Planet positions again", RefreshPlanetTable},
+    {"Vargas", [](Horoscope &h) { FillVargas(h.state, h.forms.Frm_Vargas, h.connection); }},
+    {"Dasa", FillDasaTables},
     {"Show the view", [](Horoscope &h) { h.status.ShowCurrentView(h.CurrentView); }},
 }};
 

@@ -15,37 +15,11 @@ namespace {
 /// The ten bodies whose longitudes the facade gives; Gulika and Maandi are rising degrees.
 constexpr std::span<const BodyFields> bodiesOfTheFacade{bodyFields.data(), 10};
 
-struct DayLimits {
-    Moment sunrise, sunset, nextSunrise;
-};
-
 void FindFixValuesFor(Horoscope &horoscope, Moment moment, const std::string &ayanamsa) {
     const HoroscopeState &state = horoscope.state;
     horoscope.calculators.position.FindFixValues(moment, state.LatNS, state.LatDeg, state.LatMin, state.LonEW,
                                                  state.LonDeg, state.LonMin, state.TimeDiff, state.TimeDiffEW,
                                                  0, ayanamsa, state.YearInForce, state.ProgressInForce);
-}
-
-Moment SunriseOn(Horoscope &horoscope, Moment date) {
-    const HoroscopeState &state = horoscope.state;
-    return horoscope.calculators.sunrise.FnFindSunrise(date, state.LatNS, state.LatDeg, state.LatMin,
-                                                       state.LonEW, state.LonDeg, state.LonMin, 0,
-                                                       state.TimeDiff, state.TimeDiffEW);
-}
-
-Moment SunsetOn(Horoscope &horoscope, Moment date) {
-    const HoroscopeState &state = horoscope.state;
-    return horoscope.calculators.sunset.FnFindSunset(date, state.LatNS, state.LatDeg, state.LatMin,
-                                                     state.LonEW, state.LonDeg, state.LonMin, 0,
-                                                     state.TimeDiff, state.TimeDiffEW);
-}
-
-DayLimits LimitsOf(Horoscope &horoscope, Moment date) {
-    DayLimits limits;
-    limits.sunrise = SunriseOn(horoscope, date);
-    limits.sunset = SunsetOn(horoscope, date);
-    limits.nextSunrise = SunriseOn(horoscope, DateAdd(Interval::Day, 1, date));
-    return limits;
 }
 
 Moment BirthMomentOf(const HoroscopeState &state) {
@@ -74,7 +48,8 @@ void ReadLongitudes(Horoscope &horoscope) {
 void FindDayOfBirth(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
     const Moment birth = state.BirthMomentDate;
-    DayLimits limits = LimitsOf(horoscope, birth);
+    SunTimes &sunTimes = horoscope.calculators.sunTimes;
+    SunTimes::Day limits = sunTimes.SunTimesOf(birth);
     state.SunriseOfBirthDay = limits.sunrise;
     state.SunsetOfBirthDay = limits.sunset;
     state.SunriseNextDay = limits.nextSunrise;
@@ -85,7 +60,7 @@ void FindDayOfBirth(Horoscope &horoscope) {
         if (IsBeforeNoon(birth)) {
             state.DayCurrentDate = DateAdd(Interval::Day, -1, birth);
         }
-        limits = LimitsOf(horoscope, state.DayCurrentDate);
+        limits = sunTimes.SunTimesOf(state.DayCurrentDate);
     }
     state.DaySunrise = limits.sunrise;
     state.DaySunset = limits.sunset;

@@ -5,8 +5,15 @@
 #include "astronomy/clsFindSunrise.h"
 #include "horoscope/HoroscopeState.h"
 #include "horoscope/StatusDisplay.h"
+#include "panchanga/LunarCalendar.h"
+#include "panchanga/SolarCalendar.h"
+#include "panchanga/clsRasi.h"
+#include "panchanga/clsStar.h"
 #include "panchanga/clsTimes.h"
+#include "panchanga/clsTithi.h"
+#include "panchanga/clsYoga.h"
 #include "presentation/HoroscopeForms.h"
+#include "store/Connection.h"
 
 #include <string>
 
@@ -15,20 +22,41 @@ namespace kelvaro {
 /// The calculation objects that live as long as the program. Some of them keep a result from one use to the
 /// next.
 struct Calculators {
+    /// Both must outlive the object.
+    Calculators(const HoroscopeState &state, store::Connection &connection)
+        : sunTimes(state, sunrise, sunset), calendarPositions(state), years(connection),
+          solarCalendar(sunTimes, years), lunarCalendar(calendarPositions, sunTimes, tithi, years) {}
+
     ClsFindPlanetPosition position;
     clsFindSunrise sunrise;
     clsFindSunSet sunset;
+    SunTimes sunTimes;
     clsTimes times;
+    clsRasi rasi;
+    clsStar star;
+    clsTithi tithi;
+    clsYoga yoga;
+    PlacePositions calendarPositions;
+    KaliyugaYears years;
+    SolarCalendar solarCalendar;
+    LunarCalendar lunarCalendar;
 };
 
 /// The one horoscope in force: what was stated, what was computed, what the views show.
 struct Horoscope {
-    explicit Horoscope(StatusDisplay &display) : status(display) {}
+    /// Both must outlive the object.
+    Horoscope(store::Connection &opened, StatusDisplay &display)
+        : calculators(state, opened), connection(opened), status(display) {}
+    Horoscope(const Horoscope &) = delete;
+    Horoscope &operator=(const Horoscope &) = delete;
+    ~Horoscope() = default;
 
     HoroscopeState state;
     HoroscopeForms forms;
     Calculators calculators;
-    std::string CurrentView; ///< name of the view that the user last chose; empty for the birth details
+    std::string CurrentView;      ///< name of the view that the user last chose; empty for the birth details
+    std::int32_t chartNumber = 0; ///< of the saved chart in force; 0 for one that is not saved
+    store::Connection &connection;
     StatusDisplay &status;
     bool isCalculating = false;
 };

@@ -79,6 +79,11 @@ struct HoroscopeState {
     std::array<std::int16_t, 12> BhavaRasi{};
     std::array<std::string, 12> BhavaPlanets;
 
+    // Of the Moon, from the Ashtakavarga: star, quarter 1 to 4, and Navamsa sign as clsStar left it.
+    std::string MoonStarName;
+    std::int16_t MoonStarPada = 0;
+    std::int16_t MoonHouseNo = 0;
+
     std::string DasaBalanceText; ///< dasa balance at birth, as the report words it
 
     // Name tables of the language in force. The two planet tables differ in order: address them by Body only.

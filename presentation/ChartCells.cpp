@@ -30,19 +30,25 @@ constexpr CellArray rasiNorth{&HoroscopeForms::frm_rasi, &ChartForm::North};
 constexpr CellArray navamsaSouth{&HoroscopeForms::frm_Navamsa, &ChartForm::South};
 constexpr CellArray navamsaEast{&HoroscopeForms::frm_Navamsa, &ChartForm::East};
 constexpr CellArray navamsaNorth{&HoroscopeForms::frm_Navamsa, &ChartForm::North};
+constexpr CellArray bhavaSouth{&HoroscopeForms::frm_BhavaChart, &ChartForm::South};
+constexpr CellArray bhavaEast{&HoroscopeForms::frm_BhavaChart, &ChartForm::East};
+constexpr CellArray bhavaNorth{&HoroscopeForms::frm_BhavaChart, &ChartForm::North};
 
 struct Selection {
     std::int16_t selector;
     CellArray cells;
 };
 
-constexpr std::array<Selection, 6> selections{{
+constexpr std::array<Selection, 9> selections{{
     {1, rasiSouth},
     {2, navamsaSouth},
     {3, rasiNorth},
     {4, navamsaNorth},
     {5, rasiEast},
     {6, navamsaEast},
+    {7, bhavaNorth},
+    {8, bhavaEast},
+    {9, bhavaSouth},
 }};
 
 /// How a kind writes its bodies. One cell array shows degrees, and one runs its bodies on along the line.

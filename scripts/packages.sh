@@ -2,6 +2,7 @@
 build_packages=(
     g++ cmake ninja-build
     qt6-base-dev libgl-dev
+    sqlite3 libsqlitecpp-dev libsqlite3-dev
     libgtest-dev libbenchmark-dev nlohmann-json3-dev
 )
 display_packages=(

@@ -22,18 +22,9 @@ constexpr double signNumberMargin = 0.009;
 constexpr double outerMargin = 0.03;
 constexpr double headingHeight = 0.13; // above a drawing that has no open centre
 constexpr double headingGap = 0.022;
-constexpr double headingLineHeight = 1.6;   // in font sizes
-constexpr double leastHeadingShrink = 0.65; // a longer line ends in dots
-constexpr double diagonalLineWidth = 1.15;  // smoothed lines look thinner than those on whole dots
+constexpr double diagonalLineWidth = 1.15; // smoothed lines look thinner than those on whole dots
 
-struct HeadingLine {
-    QString text;
-    double size = 0;
-    bool isBold = false;
-    QColor colour;
-};
-
-/// Above the text of a North cell's number nothing else may stand: a border across the corner.
+/// A border across the corner of a North cell that keeps the bodies away from the sign number.
 CellEdge BorderAtNumber(const PlacedText &number, const ChartFont &font, QPointF corner, QPointF cellMiddle) {
     const PlacedRun &run = number.runs.front();
     const QRectF box(run.baseline - QPointF(0, font.Ascent() * number.size),
@@ -218,7 +209,8 @@ void ChartFrame::paintEvent(QPaintEvent * /*event*/) {
     }
     painter.setPen(QPen(lineColour, 2 * lineWidth_, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.drawRect(square_);
-    DrawHeading(painter);
+    DrawHeading(painter, heading_, HasSignNumbers() ? HeadingShape::Band : HeadingShape::Block, HeadingArea(),
+                square_.width(), font_);
 }
 
 QRectF ChartFrame::HeadingArea() const {
@@ -230,40 +222,6 @@ QRectF ChartFrame::HeadingArea() const {
     const QRectF centre = OpenCentre(style_);
     const QRectF area(square_.topLeft() + centre.topLeft() * side, centre.size() * side);
     return area.marginsRemoved(QMarginsF(1, 1, 1, 1) * (0.02 * side));
-}
-
-void ChartFrame::DrawHeading(QPainter &painter) const {
-    std::vector<HeadingLine> lines{{heading_.title, 0.046, true, lineColour}};
-    if (HasSignNumbers()) {
-        const QStringList parts{heading_.name, heading_.moment, heading_.place};
-        lines.push_back({parts.join(QStringLiteral("   \u00b7   ")), 0.0235, false, nameColour});
-    } else {
-        lines.push_back({heading_.name, 0.0285, false, nameColour});
-        lines.push_back({heading_.moment, 0.0225, false, figureColour});
-        lines.push_back({heading_.place, 0.0225, false, figureColour});
-    }
-    const QRectF area = HeadingArea();
-    const double side = square_.width();
-    double height = 0;
-    for (const HeadingLine &line : lines) {
-        height += headingLineHeight * line.size * side;
-    }
-    double top = area.center().y() - height / 2;
-    for (const HeadingLine &line : lines) {
-        const double lineHeight = headingLineHeight * line.size * side;
-        const double width =
-            font_.Width(line.text, line.isBold ? Tone::Lagna : Tone::Name) * line.size * side;
-        const double shrink = std::clamp(area.width() / std::max(width, 1.0), leastHeadingShrink, 1.0);
-        const QFont font = font_.AtSize(line.size * side * shrink, logicalDpiY(), line.isBold);
-        const QString text =
-            shrink < 1 ? QFontMetricsF(font, this).elidedText(line.text, Qt::ElideRight, area.width())
-                       : line.text;
-        painter.setFont(font);
-        painter.setPen(line.colour);
-        painter.drawText(QRectF(area.left(), top, area.width(), lineHeight),
-                         Qt::AlignCenter | Qt::TextDontClip, text);
-        top += lineHeight;
-    }
 }
 
 } // namespace kelvaro

@@ -2,22 +2,17 @@
 
 #include "presentation/ChartForm.h"
 #include "shell/CellLabel.h"
+#include "shell/ChartHeading.h"
 
 #include <QString>
 #include <QStringList>
 #include <QWidget>
 
 #include <array>
+#include <string>
+#include <vector>
 
 namespace kelvaro {
-
-/// What stands in the middle of a chart, or above it: which chart it is, and whose.
-struct ChartHeading {
-    QString title;
-    QString name;
-    QString moment;
-    QString place;
-};
 
 /// Names that depend on the language.
 struct ChartNames {
@@ -56,7 +51,6 @@ private:
     void FitCells();
     void LayOut();
     QRectF HeadingArea() const;
-    void DrawHeading(QPainter &painter) const;
 
     ChartStyle style_;
     std::array<QPolygonF, 12> outlines_;

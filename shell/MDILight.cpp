@@ -120,7 +120,7 @@ void MDILight::ShowAbout() {
 
 void MDILight::OpenStatus() {
     statusBar()->clearMessage();
-    panel_->Open();
+    panel_->Open(centralWidget()->geometry());
 }
 
 void MDILight::AdvanceStatusBar() {
@@ -166,7 +166,7 @@ void MDILight::closeEvent(QCloseEvent *event) {
 void MDILight::resizeEvent(QResizeEvent *event) {
     QMainWindow::resizeEvent(event);
     if (panel_->isVisible()) {
-        panel_->Span();
+        panel_->Span(centralWidget()->geometry());
     }
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int nodeIndent = 10;
 
-}
+} // namespace
 
 MainHoroscope::MainHoroscope(QWidget *parent) : QWidget(parent), tV_(new QTreeWidget(this)) {
     setObjectName(QStringLiteral("frm_MainHoroscope"));

@@ -100,6 +100,7 @@ double ReachTowards(const TextBlock &block, QPointF normal) {
 
 Optimum LargestBlock(const TextBlock &block, const std::vector<CellEdge> &edges, double margin) {
     std::vector<Limit> limits;
+    limits.reserve(edges.size());
     for (const CellEdge &edge : edges) {
         limits.push_back({edge.normal, ReachTowards(block, edge.normal), edge.offset - margin});
     }
@@ -108,6 +109,7 @@ Optimum LargestBlock(const TextBlock &block, const std::vector<CellEdge> &edges,
 
 Optimum RoomiestPlace(const TextBlock &block, const std::vector<CellEdge> &edges, double size) {
     std::vector<Limit> limits;
+    limits.reserve(edges.size());
     for (const CellEdge &edge : edges) {
         limits.push_back({edge.normal, 1, edge.offset - size * ReachTowards(block, edge.normal)});
     }
@@ -207,7 +209,6 @@ template <typename Visit> void ForEachBlock(const CellText &text, const ChartFon
         visit(FlowBlock(text, font, ~0U));
         return;
     }
-    // Fewest breaks would win a draw: the first of equals is kept.
     const std::uint32_t ways = 1U << (text.entries.size() - 1);
     for (std::uint32_t breaks = 0; breaks < ways; ++breaks) {
         visit(FlowBlock(text, font, breaks));

@@ -20,14 +20,12 @@ void TurnMessageLoop() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-/// An area of one colour, which hides all that is below it.
 void Fill(QWidget *widget, const QColor &colour) {
     QPalette colours = widget->palette();
     colours.setColor(QPalette::Window, colour);
-    colours.setColor(QPalette::WindowText, nameColour);
+    colours.setColor(QPalette::WindowText, lineColour);
     widget->setPalette(colours);
     widget->setAutoFillBackground(true);
-    widget->setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
 } // namespace
@@ -39,8 +37,8 @@ StatusPanel::StatusPanel(QWidget *parent)
     Frame1_->setObjectName(QStringLiteral("Frame1"));
     PicOut_->setObjectName(QStringLiteral("PicOut"));
     PicIn_->setObjectName(QStringLiteral("PicIn"));
-    Fill(this, parchmentColour);
-    Fill(PicOut_, parchmentColour.lighter(108));
+    Fill(this, parchmentColour.lighter(105));
+    Fill(PicOut_, parchmentColour.darker(115));
     Fill(PicIn_, lagnaColour);
     setFrameShape(QFrame::Box);
 
@@ -53,9 +51,9 @@ StatusPanel::StatusPanel(QWidget *parent)
     hide();
 }
 
-void StatusPanel::Open() {
+void StatusPanel::Open(const QRect &area) {
     PicIn_->setGeometry(0, 0, 0, trackHeight);
-    Span();
+    Span(area);
     Frame1_->move(Frame1_->x() - contentShift, Frame1_->y());
     raise();
     show();
@@ -76,8 +74,8 @@ void StatusPanel::Close() {
     hide();
 }
 
-void StatusPanel::Span() {
-    setGeometry(0, 0, parentWidget()->width(), panelHeight);
+void StatusPanel::Span(const QRect &area) {
+    setGeometry(area.left(), area.top(), area.width(), panelHeight);
 }
 
 void StatusPanel::resizeEvent(QResizeEvent *event) {

@@ -12,16 +12,16 @@ class StatusPanel : public QFrame {
 public:
     explicit StatusPanel(QWidget *parent);
 
-    /// Spans the panel over the width of its parent, with an empty fill.
-    void Open();
+    /// Spans the panel over the top of an area of its parent, with an empty fill.
+    void Open(const QRect &area);
 
     /// Lets the fill creep on by a fourteenth of the track, one pixel at a time.
     void Advance();
 
     void Close();
 
-    /// Keeps the panel over the whole width of its parent.
-    void Span();
+    /// Fits the panel to the width of the area while it is open.
+    void Span(const QRect &area);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

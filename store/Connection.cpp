@@ -20,16 +20,16 @@ namespace kelvaro::store {
 
 namespace {
 
-constexpr int busyMilliseconds = 1500;
+constexpr int busyMilliseconds = 1000;
 
 constexpr std::array<std::string_view, 11> neededTables = {
-    "ChartSave",           "GChartSave",   "Country_Master", "City_Master",   "TimeZone", "Preference",
+    "ChartSave",           "GChartSave",   "Country_Master", "City_Master",    "TimeZone",       "Preference",
     "KaliyugaYearDetails", "chartsmaster", "tempBhukthi",    "tempdasasandhi", "PersonalDetails"};
 
 std::filesystem::path ExistingFile(const std::filesystem::path &file) {
     std::error_code unreadable;
-    if (!std::filesystem::exists(file, unreadable)) {
-        throw MissingFile(file);
+    if (!std::filesystem::exists(file, unreadable) && !unreadable) {
+        throw StoreError("The database file " + file.string() + " is missing.");
     }
     return std::filesystem::absolute(file);
 }
@@ -42,9 +42,10 @@ void CheckTables(SQLite::Database &database, const std::filesystem::path &file) 
         found.push_back(tables.getColumn(0).getString());
     }
     for (const std::string_view needed : neededTables) {
-        if (std::ranges::none_of(found, [needed](const std::string &name) { return SameName(name, needed); })) {
-            throw StoreError("The file " + file.string() + " is no database of this program: it has no table " +
-                             std::string(needed) + ".");
+        if (std::ranges::none_of(found,
+                                 [needed](const std::string &name) { return SameName(name, needed); })) {
+            throw StoreError("The file " + file.string() +
+                             " is no database of this program: it has no table " + std::string(needed) + ".");
         }
     }
 }
@@ -65,13 +66,14 @@ void Connection::Open(const std::filesystem::path &file) {
         auto database =
             std::make_unique<SQLite::Database>(file_.string(), SQLite::OPEN_READWRITE, busyMilliseconds);
         CheckTables(*database, file_);
-        // A rollback journal (SQLite's default) that is flushed to the disk at each commit: a power cut costs the
-        // change under way at most. A write-ahead log would be quicker, but keeps saved charts in a second file,
-        // which a user who copies the database leaves behind, and cannot be read in a write-protected folder.
+        // A rollback journal (SQLite's default) that is flushed to the disk at each commit: a power cut costs
+        // the change under way at most. A write-ahead log would be quicker, but keeps saved charts in a
+        // second file, which a user who copies the database leaves behind, and cannot be read in a
+        // write-protected folder.
         database->exec("pragma synchronous = full");
         database_ = std::move(database);
     } catch (const SQLite::Exception &error) {
-        throw InWords(error, file_);
+        throw StoreError(InWords(error, file_));
     }
 }
 
@@ -81,7 +83,7 @@ void Connection::OpenCopyInMemory(const std::filesystem::path &file) {
     try {
         database_ = CopyInMemory(file_, busyMilliseconds);
     } catch (const SQLite::Exception &error) {
-        throw InWords(error, file_);
+        throw StoreError(InWords(error, file_));
     }
 }
 
@@ -98,7 +100,7 @@ void Connection::Execute(std::string_view statement) {
     try {
         SQLite::Statement(database, Translated(statement)).exec();
     } catch (const SQLite::Exception &error) {
-        throw InWords(error, file_);
+        throw StoreError(InWords(error, file_));
     }
 }
 
@@ -113,26 +115,26 @@ Transaction::Transaction(Connection &connection) : connection_(connection) {
     SQLite::Database &database = connection_.Database();
     isInner_ = HasTransaction(database);
     try {
-        database.exec(isInner_ ? "savepoint inner" : "begin immediate");
+        database.exec(isInner_ ? "savepoint inner_change" : "begin immediate");
     } catch (const SQLite::Exception &error) {
-        throw InWords(error, connection_.file_);
+        throw StoreError(InWords(error, connection_.file_));
     }
 }
 
 Transaction::~Transaction() {
-    // SQLite itself undoes a transaction that a full disk or a closed connection broke off.
+    // SQLite itself has undone a transaction that a full disk or a closed connection broke off.
     if (isCommitted_ || !connection_.IsOpen() || !HasTransaction(*connection_.database_)) {
         return;
     }
-    connection_.database_->tryExec(isInner_ ? "rollback to inner; release inner" : "rollback");
+    connection_.database_->tryExec(isInner_ ? "rollback to inner_change; release inner_change" : "rollback");
 }
 
 void Transaction::Commit() {
     SQLite::Database &database = connection_.Database();
     try {
-        database.exec(isInner_ ? "release inner" : "commit");
+        database.exec(isInner_ ? "release inner_change" : "commit");
     } catch (const SQLite::Exception &error) {
-        throw InWords(error, connection_.file_);
+        throw StoreError(InWords(error, connection_.file_));
     }
     isCommitted_ = true;
 }

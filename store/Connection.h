@@ -21,9 +21,9 @@ public:
 /// The one connection to the program's database.
 ///
 /// Statements are those of the program: plain SQL with values joined into the text. Only the first statement
-/// of a text runs, whatever stands behind a semicolon. All operations but `Open`, `OpenCopyInMemory`, `IsOpen`
-/// and `Close` raise StoreError on a closed connection. A database that another program has locked is waited
-/// for, a second and a half at most.
+/// of a text runs, whatever stands behind a semicolon. All operations but `Open`, `OpenCopyInMemory`,
+/// `IsOpen` and `Close` raise StoreError on a closed connection. A database that another program has locked
+/// is waited for, a second at most.
 class Connection {
 public:
     Connection();
@@ -31,9 +31,9 @@ public:
     Connection &operator=(const Connection &) = delete;
     ~Connection();
 
-    /// Opens an existing database file, for reading only where the file is write-protected. A database that was
-    /// open is closed first. Raises StoreError, and is closed, when the file is missing, locked, damaged or no
-    /// database of this program.
+    /// Opens an existing database file, for reading only where the file is write-protected. A database that
+    /// was open is closed first. Raises StoreError, and is closed, when the file is missing, locked, damaged
+    /// or no database of this program.
     void Open(const std::filesystem::path &file);
 
     /// Opens a private copy in memory; the file itself is only read. The copy starts with an empty
@@ -58,7 +58,8 @@ private:
 };
 
 /// Makes the statements until `Commit` one change: what is not committed when the object goes is undone.
-/// A transaction inside another one joins it: undone, it goes alone; committed, it is kept with the outer one.
+/// A transaction inside another one joins it: undone, it goes alone; committed, it is kept with the outer
+/// one.
 class Transaction {
 public:
     /// Raises StoreError where the database cannot be changed.

@@ -2,15 +2,17 @@
 
 #include "store/NameMatch.h"
 
+#include <algorithm>
+#include <cstddef>
+
 namespace kelvaro::store {
 
 namespace {
 
-constexpr std::string_view nameCharacters =
-    "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
+constexpr std::string_view nameCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
 
-/// Takes the next word off the front of a statement: a name, a name in brackets or a single sign; empty at the
-/// end.
+/// Takes the next word off the front of a statement: a name, a name in brackets or a single sign; empty at
+/// the end.
 std::string_view TakeWord(std::string_view &rest) {
     rest.remove_prefix(std::min(rest.find_first_not_of(" \t\r\n"), rest.size()));
     if (rest.empty()) {
@@ -29,17 +31,19 @@ std::string_view TakeWord(std::string_view &rest) {
 }
 
 bool IsTableName(std::string_view word) {
-    return !word.empty() && (word.front() == '[' || nameCharacters.find(word.front()) != std::string_view::npos);
+    return !word.empty() &&
+           (word.front() == '[' || nameCharacters.find(word.front()) != std::string_view::npos);
 }
 
 } // namespace
 
 std::string Translated(std::string_view statement) {
     std::string_view rest = statement;
+    std::string translated(statement);
     if (SameName(TakeWord(rest), "delete") && TakeWord(rest) == "*") {
-        return "delete" + std::string(rest);
+        translated[translated.find('*')] = ' ';
     }
-    return std::string(statement);
+    return translated;
 }
 
 std::optional<WholeRows> AsWholeRows(std::string_view statement) {

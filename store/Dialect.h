@@ -6,8 +6,8 @@
 
 namespace kelvaro::store {
 
-/// A statement of the program as SQLite takes it: "delete * from" is "delete from". Bracketed names, mixed case
-/// and names without blanks around them are taken as they stand.
+/// A statement of the program as SQLite takes it: "delete * from" is "delete from". Bracketed names, mixed
+/// case and names without blanks around them are taken as they stand.
 std::string Translated(std::string_view statement);
 
 /// A statement for whole rows of one table, and the same statement with each row's key in front of the row.
@@ -16,8 +16,8 @@ struct WholeRows {
     std::string statementWithKey;
 };
 
-/// Finds the table of "select * from" one table, with or without a "where" and an "order by"; nothing for other
-/// statements, whose rows cannot be changed in place.
+/// Finds the table of "select * from" one table, with or without a "where" and an "order by"; nothing for
+/// other statements, whose rows cannot be changed in place.
 std::optional<WholeRows> AsWholeRows(std::string_view statement);
 
 } // namespace kelvaro::store

@@ -52,7 +52,9 @@ std::unique_ptr<SQLite::Database> CopyInMemory(const std::filesystem::path &file
     database->exec("begin");
     for (const std::string &table : CopySchema(*database)) {
         if (!SameName(table, "tempBhukthi")) {
-            database->exec("insert into main.[" + table + "] select * from source.[" + table + "]");
+            std::string copy = "insert into main.[";
+            copy.append(table).append("] select * from source.[").append(table).append("]");
+            database->exec(copy);
         }
     }
     CopyKeyCounters(*database);

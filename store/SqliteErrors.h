@@ -1,8 +1,7 @@
 #pragma once
 
-#include "store/Connection.h"
-
 #include <filesystem>
+#include <string>
 
 namespace SQLite {
 class Exception;
@@ -11,8 +10,6 @@ class Exception;
 namespace kelvaro::store {
 
 /// A fault that SQLite reports, in words for the user; the file is the database at work.
-StoreError InWords(const SQLite::Exception &error, const std::filesystem::path &file);
-
-StoreError MissingFile(const std::filesystem::path &file);
+std::string InWords(const SQLite::Exception &error, const std::filesystem::path &file);
 
 } // namespace kelvaro::store

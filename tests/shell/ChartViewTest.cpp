@@ -203,6 +203,8 @@ void ChartViewTest::TextKeepsInsideItsCell_data() {
                                   << "\r\n";
     QTest::newRow("North") << static_cast<int>(ChartStyle::North) << "  "
                            << "";
+    QTest::newRow("North, one below the other") << static_cast<int>(ChartStyle::North) << ""
+                                                << "\r\n";
 }
 
 void ChartViewTest::TextKeepsInsideItsCell() {

@@ -1,0 +1,161 @@
+#include "analysis/BhavaSystem.h"
+
+#include "horoscope/Bodies.h"
+#include "panchanga/RasiOfLongitude.h"
+#include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <span>
+#include <vector>
+
+namespace kelvaro {
+
+namespace {
+
+/// Sun to Ketu. The Lagna opens house 1 by itself; Gulika and Maandi stand in no house.
+constexpr std::span<const BodyFields> bodiesOfHouses{bodyFields.data() + 1, 9};
+
+constexpr std::size_t houses = 12;
+constexpr std::size_t houseEight = 7; // by index, from 0
+
+/// From 0, the Lagna, in steps of half a house: 6 the lower Midheaven, 12 the setting point, 18 the
+/// Midheaven, 24 the Lagna again. Degrees.
+using BhavaPoints = std::array<double, 25>;
+
+double Normalized(double degrees) {
+    return Normalize360(degrees);
+}
+
+/// A sixth of the way forward from one point to another.
+double StepBetween(double from, double to) {
+    double arc = to - from;
+    if (arc < 0) {
+        arc += 360;
+    }
+    return arc / 6;
+}
+
+BhavaPoints DividedArcs(double lagna, double midHeaven) {
+    BhavaPoints points{};
+    const double lastStep = StepBetween(midHeaven, lagna);
+    for (std::size_t i = 0; i <= 6; ++i) {
+        points.at(18 + i) = static_cast<double>(i) * lastStep + midHeaven;
+    }
+    const double thirdStep = StepBetween(Normalized(lagna + 180), midHeaven);
+    for (std::size_t i = 0; i <= 6; ++i) {
+        // Ends on the Midheaven too; this later value of it stands.
+        points.at(12 + i) = Normalized(static_cast<double>(i) * thirdStep + lagna + 180);
+    }
+    for (std::size_t i = 0; i < 12; ++i) {
+        points.at(i) = Normalized(points.at(i + 12) + 180);
+    }
+    return points;
+}
+
+void TakePointsAsMiddles(HoroscopeState &state) {
+    const BhavaPoints points = DividedArcs(state.LagnaLon, state.MidHeaven);
+    for (std::size_t k = 0; k < houses; ++k) {
+        state.BhavaMid.at(k) = Normalized(points.at(2 * k));
+        state.BhavaSandhi.at(k) = Normalized(points.at(2 * k + 1));
+    }
+    for (std::size_t k = 0; k < houses; ++k) {
+        state.BhavaStart.at(k) = state.BhavaSandhi.at((k + houses - 1) % houses);
+    }
+}
+
+/// The middle of house 2 to 11 (index k) between the middles that become its limits.
+double MiddleOf(double start, double end, std::size_t k) {
+    if (start > end) {
+        // The step from house 8 to house 9 counts the rest of the circle and not the circle more.
+        return (start + (k == houseEight ? 360 - end : end + 360)) / 2;
+    }
+    return (start + end) / 2;
+}
+
+/// The middle of house 12. It is the middle of house 1, and not its start, that decides whether 0 degrees
+/// lies between, and that is reckoned with if it does.
+double LastMiddle(double start, double firstMiddle, double firstStart) {
+    return start > firstMiddle ? (start + (firstMiddle + 360)) / 2 : (start + firstStart) / 2;
+}
+
+/// Reworks the houses so that the old mid points become the starts.
+void TurnMiddlesIntoStarts(HoroscopeState &state) {
+    const std::array<double, 12> old = state.BhavaMid;
+    state.BhavaStart = old;
+    for (std::size_t k = 0; k < houses; ++k) {
+        state.BhavaSandhi.at(k) = old.at((k + 1) % houses);
+    }
+    // No allowance for a passage through 0 degrees in the first house.
+    const double firstMiddle = (old.at(1) + old.at(0)) / 2;
+    state.BhavaMid.at(0) = Normalized(firstMiddle);
+    for (std::size_t k = 1; k < houses - 1; ++k) {
+        state.BhavaMid.at(k) = Normalized(MiddleOf(old.at(k), old.at(k + 1), k));
+    }
+    state.BhavaMid.at(houses - 1) = Normalized(LastMiddle(old.at(houses - 1), firstMiddle, old.at(0)));
+}
+
+struct Range {
+    double lower, upper; ///< degrees, both included
+};
+
+std::vector<Range> RangesOf(double start, double end) {
+    // Two fixed limits tell a house across 0 degrees, not the order of its start and end.
+    if (start >= 329 && end <= 345) {
+        return {{start, 360}, {0, end}};
+    }
+    return {{start, end}};
+}
+
+} // namespace
+
+double Normalize360(double &degrees) {
+    constexpr double largestAngle = 1e9;
+    if (!(std::abs(degrees) <= largestAngle)) {
+        throw ArithmeticError("Overflow: an angle too large to be brought to the circle");
+    }
+    while (degrees < 0) {
+        degrees += 360;
+    }
+    while (degrees >= 360) {
+        degrees -= 360;
+    }
+    return degrees;
+}
+
+std::int16_t Reduce12(std::int16_t number) {
+    while (number >= 13) {
+        number = static_cast<std::int16_t>(number - 12);
+    }
+    return number;
+}
+
+std::string PlanetsInBhava(const HoroscopeState &state, double start, double end) {
+    std::string names;
+    for (const Range &range : RangesOf(start, end)) {
+        for (const BodyFields &fields : bodiesOfHouses) {
+            const double longitude = state.*fields.longitude;
+            if (longitude >= range.lower && longitude <= range.upper) {
+                names.append(names.empty() ? "" : " ").append(ShortNameOf(state, fields.body));
+            }
+        }
+    }
+    return names;
+}
+
+void FindBhavas(HoroscopeState &state) {
+    TakePointsAsMiddles(state);
+    if (state.BhavaSystem == "Not Equal") {
+        TurnMiddlesIntoStarts(state);
+    }
+    const int lagnaRasi = RasiOfLongitude(state.LagnaLon, rasiSize);
+    for (std::size_t k = 0; k < houses; ++k) {
+        state.BhavaRasi.at(k) = Reduce12(ToInt16(lagnaRasi + static_cast<int>(k)));
+        state.BhavaPlanets.at(k) = PlanetsInBhava(state, state.BhavaStart.at(k), state.BhavaSandhi.at(k));
+    }
+    state.BhavaPlanets.front().insert(0, ShortNameOf(state, Body::Lagna) + " ");
+}
+
+} // namespace kelvaro

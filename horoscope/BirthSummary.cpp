@@ -1,0 +1,141 @@
+#include "horoscope/BirthSummary.h"
+
+#include "horoscope/BirthTimes.h"
+#include "horoscope/Horoscope.h"
+#include "presentation/AngleText.h"
+#include "runtime/MomentText.h"
+#include "runtime/Now.h"
+#include "runtime/Numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr std::string_view betweenParts = "  /  ";
+
+/// The lunar months in which the Sun is on its way north.
+constexpr std::array<std::string_view, 6> northwardMonths{"Vaisakha", "Chaitra", "Jyeshtha",
+                                                          "Pausha",   "Magha",   "Phalguna"};
+constexpr std::array<std::string_view, 6> southwardMonths{"Sravana", "Ashadha",  "Bhadrapada",
+                                                          "Asvina",  "Karttika", "Margasira"};
+
+std::string AyanaOf(std::string_view lunarMonth) {
+    if (std::ranges::find(northwardMonths, lunarMonth) != northwardMonths.end()) {
+        return "Uttrayana";
+    }
+    return std::ranges::find(southwardMonths, lunarMonth) != southwardMonths.end() ? "Dakshinaya" : "";
+}
+
+std::string TwelveHourText(const HoroscopeState &state) {
+    const std::int32_t hour = ToInt32(NumberFromText(state.BirthHour));
+    const std::int32_t shown = hour % 12 == 0 ? 12 : hour % 12;
+    return std::to_string(shown) + " : " + state.BirthMinute + "  " + (hour >= 12 ? "PM" : "AM");
+}
+
+std::string PlaceText(double degrees, double minutes, const std::string &side) {
+    return NumberText(degrees) + " " + NumberText(minutes) + " " + side;
+}
+
+Moment GreenwichMoment(const HoroscopeState &state) {
+    const double minutes = state.TimeDiff * 60;
+    return DateAdd(Interval::Minute, ToInt32(state.TimeDiffEW == "E" ? -minutes : minutes),
+                   state.SummaryMoment);
+}
+
+void FillPerson(const HoroscopeState &state, UserDetailsForm &form) {
+    form.txtGName = state.ChartName;
+    form.txtSex = state.BirthGender;
+    form.Txt_BC_Date = state.BirthDay + " / " + state.BirthMonth + " / " + state.BirthYear;
+    form.txtTimeOfBirth = TwelveHourText(state);
+}
+
+void FillPlace(const HoroscopeState &state, UserDetailsForm &form) {
+    form.txtAyanamsa = DegreeMinuteSecondText(state.Ayanamsa) + "  (" + state.AyanamsaName + ")";
+    form.txtCity = state.BirthCity;
+    form.txtCountry = state.BirthCountry;
+    form.txtLatutude = PlaceText(state.LatDeg, state.LatMin, state.LatNS);
+    form.txtLongitude = PlaceText(state.LonDeg, state.LonMin, state.LonEW);
+    form.txtTimeZone = state.BirthTimeZoneName;
+}
+
+/// The Vedic day begins at sunrise.
+void FillDay(Horoscope &horoscope, UserDetailsForm &form) {
+    const Moment moment = horoscope.state.SummaryMoment;
+    const SunTimes::Day day = horoscope.calculators.sunTimes.SunTimesOf(moment);
+    form.txtSunRise = ClockText(day.sunrise);
+    form.txtSunSet = ClockText(day.sunset);
+    form.txtGregorian = WeekdayName(WeekdayOf(moment));
+    const Moment vedic = moment < day.sunrise ? DateAdd(Interval::Day, -1, moment) : moment;
+    form.txtVedic = WeekdayName(WeekdayOf(vedic));
+}
+
+std::string LunarDateText(const LunarDate &date) {
+    return date.flag + std::string(betweenParts) + date.month + std::string(betweenParts) + date.yearName;
+}
+
+void FillCalendars(Horoscope &horoscope, UserDetailsForm &form) {
+    Calculators &calculators = horoscope.calculators;
+    const Moment moment = horoscope.state.SummaryMoment;
+    calculators.lunarCalendar.LunarDateKrishnadi(moment, "TP");
+    calculators.lunarCalendar.LunarDateSukladi(moment, "TP");
+    const LunarDate &krishnadi = calculators.lunarCalendar.Krishnadi();
+    form.txtKLunarDate = LunarDateText(krishnadi);
+    form.txtSLunarDate = LunarDateText(calculators.lunarCalendar.Sukladi());
+    calculators.solarCalendar.SolarDateOf(moment, Now());
+    const SolarDate &solar = calculators.solarCalendar.Date();
+    form.txtKaliyugaYear = std::to_string(solar.kaliyugaYear);
+    form.txtSolarDate = std::to_string(solar.day) + std::string(betweenParts) + std::string(solar.month) +
+                        std::string(betweenParts) + solar.yearName;
+    form.txtAyana = AyanaOf(krishnadi.month);
+}
+
+void FillAlmanac(Horoscope &horoscope, UserDetailsForm &form) {
+    const HoroscopeState &state = horoscope.state;
+    Calculators &calculators = horoscope.calculators;
+    form.txtLagna = state.RasiNames.at(static_cast<std::size_t>(state.LagnaRasi - 1));
+
+    calculators.star.PlanetPosition = state.MoonLon;
+    calculators.star.findstar();
+    form.txtStar = calculators.star.StarName + ", Pada: " + std::to_string(calculators.star.StarQuarter);
+
+    calculators.tithi.moonA = state.MoonLon;
+    calculators.tithi.sunC = state.SunLon;
+    calculators.tithi.FindTithi();
+    form.txtTithi = calculators.tithi.Tithi;
+    form.txtPaksha = calculators.tithi.TithiNo <= 15 ? "Sukla Paksha (Bright)" : "Krishna Paksha (Dark)";
+    form.txtKarnam = calculators.tithi.Karnam;
+
+    calculators.rasi.nchkLanguage = state.Language;
+    calculators.rasi.PlanetPosition = state.MoonLon;
+    calculators.rasi.findRasi();
+    form.txtRasi = calculators.rasi.RasiName;
+
+    calculators.yoga.moon_position = state.MoonLon;
+    calculators.yoga.sun_position = state.SunLon;
+    calculators.yoga.findyoga();
+    form.txtYogam = calculators.yoga.YogaName;
+}
+
+} // namespace
+
+void FillBirthSummary(Horoscope &horoscope) {
+    HoroscopeState &state = horoscope.state;
+    UserDetailsForm &form = horoscope.forms.frm_UserDetails;
+    FillPerson(state, form);
+    state.SummaryMoment = state.BirthMomentDate;
+    form.txtist = MonthNameMomentText(state.SummaryMoment);
+    ComputeLocalMeanTime(horoscope);
+    form.txtgmt = MonthNameMomentText(GreenwichMoment(state));
+    ComputeIshtaGhati(horoscope);
+    FillPlace(state, form);
+    FillDay(horoscope, form);
+    FillCalendars(horoscope, form);
+    FillAlmanac(horoscope, form);
+}
+
+} // namespace kelvaro

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "panchanga/LunarCalendar.h"
+#include "panchanga/SolarCalendar.h"
+#include "runtime/MomentText.h"
+
+#include <string>
+
+namespace kelvaro {
+
+/// The calendars of a program just started, on the seed database, at New Delhi and under Lahiri's ayanamsa.
+struct Almanac {
+    Almanac() {
+        connection.OpenCopyInMemory(KELVARO_SEED_DATABASE);
+        state.LatDeg = 28;
+        state.LatMin = 36;
+        state.LonDeg = 77;
+        state.LonMin = 12;
+    }
+
+    HoroscopeState state;
+    store::Connection connection;
+    clsFindSunrise sunrise;
+    clsFindSunSet sunset;
+    clsTithi tithi;
+    PlacePositions positions{state};
+    SunTimes sunTimes{state, sunrise, sunset};
+    KaliyugaYears years{connection};
+    SolarCalendar solar{sunTimes, years};
+    LunarCalendar lunar{positions, sunTimes, tithi, years};
+
+    std::string Krishnadi(const char *moment, const char *status = "TP") {
+        lunar.LunarDateKrishnadi(ReadMoment(moment), status);
+        return Joined(lunar.Krishnadi());
+    }
+
+    std::string Sukladi(const char *moment, const char *status = "TP") {
+        lunar.LunarDateSukladi(ReadMoment(moment), status);
+        return Joined(lunar.Sukladi());
+    }
+
+    static std::string Joined(const LunarDate &date) {
+        return date.flag + " " + date.month + " " + date.yearName;
+    }
+};
+
+} // namespace kelvaro

@@ -1,0 +1,109 @@
+#include "tests/panchanga/Almanac.h"
+
+#include <gtest/gtest.h>
+
+namespace kelvaro {
+namespace {
+
+const SolarDate &Found(Almanac &almanac, const char *moment) {
+    EXPECT_TRUE(almanac.solar.SolarDateOf(ReadMoment(moment), MomentOf({2024, 1, 1}))) << moment;
+    return almanac.solar.Date();
+}
+
+// First days of the Tamil months, whose year opens with Chittirai: the New Years of Vikari (2019) to Krodhi
+// (2024), Thai Pongal on 15 January of 2019, 2020 and 2024, Aadi on 17 July 2019, Karttikai on 17 November
+// and Margazhi on 17 December 2019, Masi and Panguni on 13 February and 14 March 2020.
+TEST(SolarCalendar, DatesOfPrintedAlmanacs) {
+    const struct {
+        const char *moment;
+        int day;
+        const char *month, *year;
+        int kaliyugaYear;
+    } cases[] = {
+        {"14/4/2019 12:00", 1, "Chaitra", "Vikari", 5120},
+        {"14/4/2020 12:00", 1, "Chaitra", "Sarvari", 5121},
+        {"14/4/2023 12:00", 1, "Chaitra", "Sobhakrit", 5124},
+        {"13/4/2023 12:00", 30, "Phalguna", "Subhakrit", 5123},
+        {"14/4/2024 12:00", 1, "Chaitra", "Krodhi", 5125},
+        {"13/4/2012 12:00", 1, "Chaitra", "Nandana", 5113},
+        {"14/4/1999 12:00", 1, "Chaitra", "Pramathi", 5100},
+        {"13/4/1950 12:00", 1, "Chaitra", "Vikriti", 5051},
+        {"15/1/2019 12:00", 1, "Pausha", "Vilambi", 5119},
+        {"15/1/2020 12:00", 1, "Pausha", "Vikari", 5120},
+        {"15/1/2024 12:00", 1, "Pausha", "Sobhakrit", 5124},
+        {"17/7/2019 12:00", 1, "Ashadha", "Vikari", 5120},
+        {"17/11/2019 12:00", 1, "Karttika", "Vikari", 5120},
+        {"17/12/2019 12:00", 1, "Margasira", "Vikari", 5120},
+        {"13/2/2020 12:00", 1, "Magha", "Vikari", 5120},
+        {"14/3/2020 12:00", 1, "Phalguna", "Vikari", 5120},
+        {"15/8/1947 00:10", 30, "Ashadha", "Sarvajit", 5048},
+        {"14/7/1965 14:15", 30, "Jyeshtha", "Visvavasu", 5066},
+        {"1/3/2000 12:00", 18, "Magha", "Pramathi", 5100},
+    };
+    for (const auto &expected : cases) {
+        Almanac almanac;
+        const SolarDate &date = Found(almanac, expected.moment);
+        EXPECT_EQ(date.day, expected.day) << expected.moment;
+        EXPECT_EQ(date.month, expected.month) << expected.moment;
+        EXPECT_EQ(date.yearName, expected.year) << expected.moment;
+        EXPECT_EQ(date.kaliyugaYear, expected.kaliyugaYear) << expected.moment;
+    }
+}
+
+TEST(SolarCalendar, TheDayBeginsAtSunrise) {
+    Almanac almanac;
+    const Moment sunrise = almanac.sunTimes.SunriseOf(MomentOf({2024, 4, 14}));
+    const Moment today = MomentOf({2024, 1, 1});
+    almanac.solar.SolarDateOf(sunrise, today);
+    EXPECT_EQ(almanac.solar.Date().day, 1);
+    EXPECT_EQ(almanac.solar.Date().yearName, "Krodhi");
+    EXPECT_EQ(almanac.solar.Date().monthStart, sunrise);
+
+    // The last day of the year before, whose month has 31 days or 30.
+    almanac.solar.SolarDateOf(DateAdd(Interval::Minute, -1, sunrise), today);
+    EXPECT_EQ(almanac.solar.Date().month, "Phalguna");
+    EXPECT_EQ(almanac.solar.Date().yearName, "Sobhakrit");
+    EXPECT_EQ(almanac.solar.Date().day, almanac.solar.Date().monthLength);
+}
+
+// An opening after sunset moves the year to the next sunrise. In 2020 it is Monday 13 April with 0.556 days
+// after sunrise: 13 hours and 8 minutes, as the minutes, too, are counted by 24.
+TEST(SolarCalendar, YearStarts) {
+    Almanac almanac;
+    const struct {
+        int year, day;
+    } cases[] = {{1947, 14}, {1965, 14}, {2012, 13}, {2020, 14}, {2023, 14}, {2050, 15}};
+    for (const auto &expected : cases) {
+        const Moment start = almanac.solar.FindYearStart(expected.year);
+        EXPECT_EQ(start, almanac.sunTimes.SunriseOf(MomentOf({expected.year, 4, expected.day})))
+            << expected.year;
+    }
+}
+
+TEST(SolarCalendar, AYearWithoutAFittingWeekdayGoesOnFromTheStartBefore) {
+    Almanac almanac;
+    const Moment start = almanac.solar.FindYearStart(2020);
+    almanac.connection.Execute("update KaliyugaYearDetails set DayVal = 1, YearRemain = 0 where Yearno = 35");
+    // 1 and 1 make Monday, and 12 to 16 April 2021 begin with a Monday: so take Sunday.
+    almanac.connection.Execute("update KaliyugaYearDetails set DayVal = 7 where Yearno = 35");
+    EXPECT_EQ(almanac.solar.FindYearStart(2021), DateAdd(Interval::Day, 1, start));
+    EXPECT_EQ(almanac.solar.FindYearStart(1865), DateAdd(Interval::Day, 1, start));
+}
+
+TEST(SolarCalendar, BeforeTheTableThereIsNoDate) {
+    Almanac almanac;
+    const Moment today = MomentOf({2024, 1, 1});
+    EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf({1850, 6, 1}), today));
+    EXPECT_EQ(almanac.solar.Date().month, "");
+    EXPECT_EQ(almanac.solar.Date().kaliDays, 1790030 + 45292);
+
+    Found(almanac, "14/4/2019 12:00");
+    for (const CivilDate &date : {CivilDate{1850, 6, 1}, CivilDate{1865, 12, 1}, CivilDate{1866, 1, 1}}) {
+        EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf(date), today)) << date.year;
+        EXPECT_EQ(almanac.solar.Date().month, "Chaitra") << date.year;
+        EXPECT_EQ(almanac.solar.Date().kaliyugaYear, 0) << date.year;
+    }
+}
+
+} // namespace
+} // namespace kelvaro

@@ -1,0 +1,165 @@
+#include "store/Recordset.h"
+
+#include "tests/store/StoreFixture.h"
+
+namespace kelvaro::store {
+namespace {
+
+constexpr const char *addChart =
+    "insert into ChartSave (ChartName,Gender,Country,City,ChartDay,ChartMonth,ChartYear,ChartHour,"
+    "ChartMinute,ChartSecond,LatitudeDegree,Latitude_NS,LatitudeMinute,LongitudeDegree,Longitude_EW,"
+    "LongitudeMinute,TimeDifference) values  ('Velnesh~14-Jul-1965','Male','101','Hyderabad (A.P)',14,7,"
+    "1965,14,15,0,17,'N',20,78,'E',30,155)";
+
+class RecordsetTest : public StoreTest {
+protected:
+    Recordset rows_;
+};
+
+TEST_F(RecordsetTest, ReadsFieldsInAnyCase) {
+    rows_.Open("Select * From Preference", connection_);
+    EXPECT_EQ(rows_.Text("ayanamsa"), "Lahiri");
+    EXPECT_EQ(rows_.Number("DayinYear"), 365.25);
+    EXPECT_EQ(rows_.Text("DAYINYEAR"), "365.25");
+    EXPECT_EQ(rows_.Integer("customYear"), 0);
+    EXPECT_EQ(rows_.Text("PreID"), rows_.Text(std::size_t{0}));
+    EXPECT_EQ(rows_.FieldCount(), 8U);
+    EXPECT_NE(ErrorOf([&] { rows_.Text("Nothing"); }).find("Nothing"), std::string::npos);
+    EXPECT_THROW(rows_.Text(std::size_t{8}), StoreError);
+    EXPECT_THROW(rows_.Number("Ayanamsa"), ConversionError);
+}
+
+TEST_F(RecordsetTest, ComparesAndSortsTextsInAnyCase) {
+    for (const char *name : {"beta", "Gamma", "ALPHA"}) {
+        connection_.Execute(std::string("insert into ChartSave (ChartName,Gender) values ('") + name +
+                            "','FEMALE')");
+    }
+    rows_.Open("Select Sno,ChartName From ChartSave where gender = 'Female' order by ChartName ",
+               connection_);
+    std::string names;
+    for (; !rows_.IsEndOfFile(); rows_.MoveNext()) {
+        names += rows_.Text("chartname") + rows_.Text("SNO") + " ";
+    }
+    EXPECT_EQ(names, "ALPHA3 beta1 Gamma2 ");
+}
+
+TEST_F(RecordsetTest, TellsNullFromNoRow) {
+    rows_.Open("Select Max(SNO) From ChartSave", connection_);
+    EXPECT_FALSE(rows_.IsEndOfFile());
+    EXPECT_TRUE(rows_.IsNull(std::size_t{0}));
+    EXPECT_EQ(rows_.Text(std::size_t{0}), "");
+    EXPECT_THROW(rows_.Integer(std::size_t{0}), ConversionError);
+    rows_.Close();
+
+    connection_.Execute("delete from Preference");
+    rows_.Open("Select * From Preference", connection_);
+    EXPECT_TRUE(rows_.IsEndOfFile());
+    EXPECT_EQ(ErrorOf([&] { rows_.Text("Ayanamsa"); }), "No row was found by: Select * From Preference");
+    EXPECT_THROW(rows_.MoveNext(), StoreError);
+    EXPECT_THROW(rows_.Assign("Ayanamsa", std::string("KP")), StoreError);
+    EXPECT_THROW(rows_.Update(), StoreError);
+}
+
+TEST_F(RecordsetTest, RoundsWholeNumbersHalfToEven) {
+    rows_.Open("select 2.5, 3.5, 2147483648, '7.5', 'x'", connection_);
+    EXPECT_EQ(rows_.Integer(std::size_t{0}), 2);
+    EXPECT_EQ(rows_.Integer(std::size_t{1}), 4);
+    EXPECT_THROW(rows_.Integer(std::size_t{2}), OverflowError);
+    EXPECT_EQ(rows_.Text(std::size_t{2}), "2147483648");
+    EXPECT_EQ(rows_.Integer(std::size_t{3}), 8);
+    EXPECT_THROW(rows_.Integer(std::size_t{4}), ConversionError);
+}
+
+TEST_F(RecordsetTest, MustBeClosedBeforeItIsOpenedAgain) {
+    EXPECT_THROW(rows_.IsEndOfFile(), StoreError);
+    rows_.Open("select * from TimeZone where SNo = 1 order by Place", connection_);
+    EXPECT_THROW(rows_.Open("select * from Preference", connection_), StoreError);
+    EXPECT_EQ(rows_.Text("SNo"), "1");
+    rows_.Close();
+    EXPECT_FALSE(rows_.IsOpen());
+    EXPECT_THROW(rows_.Text("SNo"), StoreError);
+    EXPECT_THROW(rows_.Open("select * from Nowhere", connection_), StoreError);
+    EXPECT_FALSE(rows_.IsOpen());
+    rows_.Open("select * from TimeZone where SNo = 2", connection_);
+    EXPECT_EQ(rows_.Text("SNo"), "2");
+}
+
+TEST_F(RecordsetTest, UpdatesOneRowInPlace) {
+    connection_.Execute(addChart);
+    connection_.Execute(addChart);
+    connection_.Execute(addChart);
+    rows_.Open("select * from ChartSave where Sno = 2", connection_);
+    rows_.Assign("chartname", std::string("O'Hara~1-Jan-2000"));
+    rows_.Assign("CITY", std::string("Poona"));
+    rows_.Assign("ChartSecond", std::string("00"));
+    rows_.Assign("LatitudeDegree", 18.5);
+    rows_.Assign("Country", std::int64_t{7});
+    rows_.Assign("TimeDifference", std::monostate());
+    rows_.Assign("City", std::string("Pune"));
+    EXPECT_EQ(First("select count(*) from ChartSave where City = 'Pune'"), "0");
+    rows_.Update();
+    EXPECT_EQ(rows_.Text("City"), "Pune");
+    EXPECT_EQ(rows_.Text("ChartSecond"), "0");
+
+    Recordset stored;
+    stored.Open("Select * From ChartSave order by Sno", connection_);
+    for (const int number : {1, 2, 3}) {
+        const bool isChanged = number == 2;
+        EXPECT_EQ(stored.Integer("Sno"), number);
+        EXPECT_EQ(stored.Text("ChartName"), isChanged ? "O'Hara~1-Jan-2000" : "Velnesh~14-Jul-1965");
+        EXPECT_EQ(stored.Text("City"), isChanged ? "Pune" : "Hyderabad (A.P)");
+        EXPECT_EQ(stored.Number("LatitudeDegree"), isChanged ? 18.5 : 17);
+        EXPECT_EQ(stored.Integer("Country"), isChanged ? 7 : 101);
+        EXPECT_EQ(stored.IsNull("TimeDifference"), isChanged);
+        EXPECT_EQ(stored.Text("Gender"), "Male");
+        stored.MoveNext();
+    }
+    EXPECT_TRUE(stored.IsEndOfFile());
+}
+
+TEST_F(RecordsetTest, ForgetsWhatWasAssignedAndNotStored) {
+    rows_.Open("select * from TimeZone where SNo < 3", connection_);
+    rows_.Assign("Place", std::string("Nowhere"));
+    rows_.MoveNext();
+    rows_.Update();
+    rows_.Assign("Place", std::string("Nowhere"));
+    rows_.Close();
+    EXPECT_EQ(First("select count(*) from TimeZone where Place = 'Nowhere'"), "0");
+}
+
+TEST_F(RecordsetTest, AFailedUpdateLeavesTheRow) {
+    rows_.Open("select * from City_Master where CityID = 5", connection_);
+    const std::string name = rows_.Text("CityName");
+    rows_.Assign("CityName", std::string("Elsewhere"));
+    rows_.Assign("LatitudeDegree", std::string());
+    EXPECT_NE(ErrorOf([&] { rows_.Update(); }).find("City_Master.LatitudeDegree"), std::string::npos);
+    EXPECT_EQ(rows_.Text("CityName"), name);
+    EXPECT_EQ(First("select CityName from City_Master where CityID = 5"), name);
+
+    connection_.Execute("delete from City_Master where CityID = 5");
+    rows_.Assign("LatitudeDegree", 5.0);
+    EXPECT_NE(ErrorOf([&] { rows_.Update(); }).find("no longer"), std::string::npos);
+}
+
+TEST_F(RecordsetTest, OnlyWholeRowsCanBeChanged) {
+    for (const char *statement : {"select Place from TimeZone", "select * from TimeZone, Preference",
+                                  "select 'x' from tempdasasandhi"}) {
+        rows_.Open(statement, connection_);
+        EXPECT_THROW(rows_.Assign(rows_.FieldCount() == 1 ? "Place" : "Bhava", std::string("y")), StoreError)
+            << statement;
+        rows_.Close();
+    }
+}
+
+TEST_F(RecordsetTest, TurnsLiteralsIntoOneRow) {
+    rows_.Open("select '1: Su','','','Mo Ma','','','','','','','','12' from tempdasasandhi", connection_);
+    EXPECT_EQ(rows_.FieldCount(), 12U);
+    EXPECT_EQ(rows_.Text(std::size_t{0}), "1: Su");
+    EXPECT_EQ(rows_.Text(std::size_t{2}), "");
+    EXPECT_EQ(rows_.Text(std::size_t{11}), "12");
+    rows_.MoveNext();
+    EXPECT_TRUE(rows_.IsEndOfFile());
+}
+
+} // namespace
+} // namespace kelvaro::store

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "store/Connection.h"
+#include "store/DatabaseFile.h"
+#include "store/Recordset.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <string_view>
+
+namespace kelvaro::store {
+
+/// A folder of one test, gone with it.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "kelvaro-store-XXXXXX").string();
+        if (mkdtemp(name.data()) == nullptr) {
+            throw std::runtime_error("There is no place for a temporary folder");
+        }
+        path_ = name;
+        std::filesystem::permissions(path_, std::filesystem::perms::all);
+    }
+    TemporaryFolder(const TemporaryFolder &) = delete;
+    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
+    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
+
+    std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+    const std::filesystem::path &Path() const { return path_; }
+
+private:
+    std::filesystem::path path_;
+};
+
+/// Takes the rights of the super-user away while it lives, as they pass over write protection.
+class OrdinaryUser {
+public:
+    OrdinaryUser() {
+        if (wasRoot_ && seteuid(65534) != 0) {
+            throw std::runtime_error("The rights of the super-user cannot be laid down");
+        }
+    }
+    OrdinaryUser(const OrdinaryUser &) = delete;
+    OrdinaryUser &operator=(const OrdinaryUser &) = delete;
+    ~OrdinaryUser() {
+        if (wasRoot_ && seteuid(0) != 0) {
+            std::abort();
+        }
+    }
+
+private:
+    bool wasRoot_ = geteuid() == 0;
+};
+
+inline std::string BytesOf(const std::filesystem::path &file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+inline void WriteFile(const std::filesystem::path &file, std::string_view bytes) {
+    std::ofstream(file, std::ios::binary) << bytes;
+}
+
+/// What the error says that some work raises; empty when it raises none.
+template <typename Work> std::string ErrorOf(Work work) {
+    try {
+        work();
+    } catch (const StoreError &error) {
+        return error.what();
+    }
+    return {};
+}
+
+inline std::string FirstText(std::string_view statement, Connection &connection) {
+    Recordset rows;
+    rows.Open(statement, connection);
+    return rows.Text(std::size_t{0});
+}
+
+/// A copy of the seed database that a test may write to.
+class StoreTest : public testing::Test {
+protected:
+    StoreTest() {
+        std::filesystem::copy_file(KELVARO_SEED_DATABASE, file_);
+        std::filesystem::permissions(file_, std::filesystem::perms(0666));
+        connection_.Open(file_);
+    }
+
+    std::string First(std::string_view statement) { return FirstText(statement, connection_); }
+
+    TemporaryFolder folder_;
+    std::filesystem::path file_ = folder_ / databaseFileName;
+    Connection connection_;
+};
+
+} // namespace kelvaro::store
