@@ -57,7 +57,9 @@ BENCHMARK(BM_Sunrise)->Unit(benchmark::kMicrosecond);
 
 void BM_WholeHoroscope(benchmark::State &state) {
     NoDisplay display;
-    Horoscope horoscope(display);
+    store::Connection connection;
+    connection.OpenCopyInMemory(KELVARO_SEED_DATABASE);
+    Horoscope horoscope(connection, display);
     for ([[maybe_unused]] auto _ : state) {
         CalculateHoroscope(horoscope);
         benchmark::DoNotOptimize(horoscope.state.LagnaLon);

@@ -30,7 +30,7 @@ TimeOfArc TimeOf(double degrees) {
     TimeOfArc time;
     time.minutes = ToInt32(NumberFromText(text.substr(0, point)));
     if (point != std::string::npos) {
-        time.seconds = ToInt32(std::trunc(NumberFromText("0" + text.substr(point)) * 60));
+        time.seconds = ToInt32(std::trunc(NumberFromText(text.substr(point)) * 60));
     }
     return time;
 }
@@ -59,7 +59,7 @@ std::string GhatiText(double ghati) {
     std::array<char, 32> buffer{};
     std::snprintf(buffer.data(), buffer.size(), ghati < 0 ? "%08.4f" : "%07.4f", ghati);
     std::string text = buffer.data();
-    text.replace(text.find('.'), 1, ":");
+    text.at(text.find('.')) = ':';
     return text;
 }
 

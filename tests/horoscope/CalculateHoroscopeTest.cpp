@@ -54,8 +54,11 @@ protected:
         horoscope.state.BirthMinute = std::to_string(parts.clock.minute);
     }
 
+    CalculateHoroscopeTest() { connection.OpenCopyInMemory(KELVARO_SEED_DATABASE); }
+
     RecordingDisplay display;
-    Horoscope horoscope{display};
+    store::Connection connection;
+    Horoscope horoscope{connection, display};
 };
 
 TEST_F(CalculateHoroscopeTest, SampleBirthFillsBothCharts) {

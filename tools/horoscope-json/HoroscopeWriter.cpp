@@ -16,6 +16,7 @@ using State = HoroscopeState;
 
 using ResultMember =
     std::variant<double State::*, std::int16_t State::*, Moment State::*, std::string State::*,
+                 std::array<double, 12> State::*, std::array<std::int16_t, 12> State::*,
                  std::array<std::string, 10> State::*, std::array<std::string, 12> State::*>;
 
 struct ResultField {
@@ -65,6 +66,16 @@ constexpr std::array resultFields{
     ResultField{"MandiNight", &State::MandiNight},
     ResultField{"GulikaMoment", &State::GulikaMoment},
     ResultField{"MandiMoment", &State::MandiMoment},
+    ResultField{"SummaryMoment", &State::SummaryMoment},
+    ResultField{"LocalMeanTimeMoment", &State::LocalMeanTimeMoment},
+    ResultField{"SunriseForGhati", &State::SunriseForGhati},
+    ResultField{"IshtaGhatiMinutes", &State::IshtaGhatiMinutes},
+    ResultField{"IshtaGhati", &State::IshtaGhati},
+    ResultField{"BhavaStart", &State::BhavaStart},
+    ResultField{"BhavaMid", &State::BhavaMid},
+    ResultField{"BhavaSandhi", &State::BhavaSandhi},
+    ResultField{"BhavaRasi", &State::BhavaRasi},
+    ResultField{"BhavaPlanets", &State::BhavaPlanets},
     ResultField{"ShortNames", &State::ShortNames},
     ResultField{"LongNames", &State::LongNames},
     ResultField{"RasiNames", &State::RasiNames},
@@ -81,6 +92,66 @@ struct ChartFormField {
 constexpr std::array chartForms{
     ChartFormField{"frm_rasi", &HoroscopeForms::frm_rasi},
     ChartFormField{"frm_Navamsa", &HoroscopeForms::frm_Navamsa},
+    ChartFormField{"frm_BhavaChart", &HoroscopeForms::frm_BhavaChart},
+};
+
+struct SummaryField {
+    const char *name;
+    std::string UserDetailsForm::*text;
+};
+
+constexpr std::array summaryFields{
+    SummaryField{"txtGName", &UserDetailsForm::txtGName},
+    SummaryField{"txtSex", &UserDetailsForm::txtSex},
+    SummaryField{"Txt_BC_Date", &UserDetailsForm::Txt_BC_Date},
+    SummaryField{"txtTimeOfBirth", &UserDetailsForm::txtTimeOfBirth},
+    SummaryField{"txtist", &UserDetailsForm::txtist},
+    SummaryField{"txtlmt", &UserDetailsForm::txtlmt},
+    SummaryField{"txtgmt", &UserDetailsForm::txtgmt},
+    SummaryField{"txtIshtaGhati", &UserDetailsForm::txtIshtaGhati},
+    SummaryField{"txtAyanamsa", &UserDetailsForm::txtAyanamsa},
+    SummaryField{"txtCity", &UserDetailsForm::txtCity},
+    SummaryField{"txtCountry", &UserDetailsForm::txtCountry},
+    SummaryField{"txtLatutude", &UserDetailsForm::txtLatutude},
+    SummaryField{"txtLongitude", &UserDetailsForm::txtLongitude},
+    SummaryField{"txtSunRise", &UserDetailsForm::txtSunRise},
+    SummaryField{"txtSunSet", &UserDetailsForm::txtSunSet},
+    SummaryField{"txtGregorian", &UserDetailsForm::txtGregorian},
+    SummaryField{"txtVedic", &UserDetailsForm::txtVedic},
+    SummaryField{"txtTimeZone", &UserDetailsForm::txtTimeZone},
+    SummaryField{"txtKLunarDate", &UserDetailsForm::txtKLunarDate},
+    SummaryField{"txtSLunarDate", &UserDetailsForm::txtSLunarDate},
+    SummaryField{"txtKaliyugaYear", &UserDetailsForm::txtKaliyugaYear},
+    SummaryField{"txtSolarDate", &UserDetailsForm::txtSolarDate},
+    SummaryField{"txtAyana", &UserDetailsForm::txtAyana},
+    SummaryField{"txtLagna", &UserDetailsForm::txtLagna},
+    SummaryField{"txtStar", &UserDetailsForm::txtStar},
+    SummaryField{"txtTithi", &UserDetailsForm::txtTithi},
+    SummaryField{"txtPaksha", &UserDetailsForm::txtPaksha},
+    SummaryField{"txtKarnam", &UserDetailsForm::txtKarnam},
+    SummaryField{"txtRasi", &UserDetailsForm::txtRasi},
+    SummaryField{"txtYogam", &UserDetailsForm::txtYogam},
+};
+
+struct GridField {
+    const char *name;
+    const TextGrid &(*grid)(const HoroscopeForms &);
+};
+
+constexpr std::array gridFields{
+    GridField{"mshNirayana",
+              [](const HoroscopeForms &f) -> const TextGrid & { return f.Frm_PP.mshNirayana; }},
+    GridField{"msh_Bhava",
+              [](const HoroscopeForms &f) -> const TextGrid & { return f.frm_CBhava.msh_Bhava; }},
+    GridField{"bhava_features",
+              [](const HoroscopeForms &f) -> const TextGrid & { return f.frm_CBhava.bhava_features; }},
+    GridField{"mshVargas",
+              [](const HoroscopeForms &f) -> const TextGrid & { return f.Frm_Vargas.mshVargas; }},
+    GridField{"mshAshtaVarga",
+              [](const HoroscopeForms &f) -> const TextGrid & { return f.Frm_AVargas.mshAshtaVarga; }},
+    GridField{"mshDasa", [](const HoroscopeForms &f) -> const TextGrid & { return f.Frm_Dasa.mshDasa; }},
+    GridField{"mshBukti", [](const HoroscopeForms &f) -> const TextGrid & { return f.Frm_Dasa.mshBukti; }},
+    GridField{"mshAntra", [](const HoroscopeForms &f) -> const TextGrid & { return f.Frm_Dasa.mshAntra; }},
 };
 
 template <typename Value> ordered_json ValueJson(const Value &value) {
@@ -116,6 +187,14 @@ ordered_json ChartJson(const ChartForm &form) {
     return {{"cells", VisibleCells(form)}, {"Lab_NHouseNo", form.Lab_NHouseNo}};
 }
 
+ordered_json SummaryJson(const UserDetailsForm &form) {
+    ordered_json out = ordered_json::object();
+    for (const auto &[name, text] : summaryFields) {
+        out[name] = form.*text;
+    }
+    return out;
+}
+
 } // namespace
 
 ordered_json HoroscopeJson(const Horoscope &horoscope) {
@@ -124,6 +203,12 @@ ordered_json HoroscopeJson(const Horoscope &horoscope) {
     for (const auto &[name, form] : chartForms) {
         out[name] = ChartJson(horoscope.forms.*form);
     }
+    out["frm_UserDetails"] = SummaryJson(horoscope.forms.frm_UserDetails);
+    for (const auto &[name, grid] : gridFields) {
+        out[name] = grid(horoscope.forms).rows;
+    }
+    out["Lab_DasaBalanceV"] = horoscope.forms.Frm_Dasa.Lab_DasaBalanceV;
+    out["DasaBalanceText"] = horoscope.state.DasaBalanceText;
     return out;
 }
 

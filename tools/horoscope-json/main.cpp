@@ -2,6 +2,7 @@
 
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
+#include "store/DatabaseFile.h"
 #include "tools/horoscope-json/BirthReader.h"
 #include "tools/horoscope-json/HoroscopeWriter.h"
 #include "tools/horoscope-json/RunStatus.h"
@@ -10,6 +11,7 @@
 
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
 #include <iostream>
 #include <string>
 
@@ -32,10 +34,13 @@ ordered_json Answer(const std::string &line, kelvaro::Horoscope &horoscope,
     return status.Failure() ? ErrorJson(*status.Failure()) : kelvaro::HoroscopeJson(horoscope);
 }
 
-/// One program state for the whole stream, as if the births were entered one after another.
-void AnswerStream(std::istream &births, std::ostream &answers) {
+/// One program state for the whole stream, as if the births were entered one after another. The database is a
+/// private copy in memory, so that a batch leaves the user's file alone.
+void AnswerStream(const std::filesystem::path &database, std::istream &births, std::ostream &answers) {
     kelvaro::RunStatus status;
-    kelvaro::Horoscope horoscope(status);
+    kelvaro::store::Connection connection;
+    connection.OpenCopyInMemory(database);
+    kelvaro::Horoscope horoscope(connection, status);
     std::string line;
     while (answers && std::getline(births, line)) {
         // An error may quote bytes of the line that are no UTF-8.
@@ -55,7 +60,8 @@ int main(int argc, char **argv) {
     }
     try {
         std::ios::sync_with_stdio(false);
-        AnswerStream(std::cin, std::cout);
+        const auto program = std::filesystem::canonical("/proc/self/exe");
+        AnswerStream(program.parent_path() / kelvaro::store::databaseFileName, std::cin, std::cout);
         if (!std::cout) {
             std::cerr << "horoscope-json: the answers could not be written\n";
             return EXIT_FAILURE;
