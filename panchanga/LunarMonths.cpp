@@ -42,7 +42,7 @@ constexpr std::array<MonthRow, 12> months{{
 constexpr std::array<std::string_view, 5> monthsBeforeTheTurn{"chaitra", "vaisakha", "jyeshtha", "ashadha",
                                                               "sravana"};
 
-// They run over into the next year of the common calendar, all but the first always or at times.
+// Months that may run over into the next year of the common calendar. All spellings of the eighth are known.
 constexpr std::array<std::string_view, 10> monthsAfterTheTurn{
     "bhadrapada", "asvina",    "karttika", "kartikka", "karttikka",
     "kartika",    "margasira", "pausha",   "magha",    "phalguna"};

@@ -2,64 +2,13 @@
 
 #include "horoscope/Bodies.h"
 #include "panchanga/RasiOfLongitude.h"
-#include "horoscope/Horoscope.h"
 #include "runtime/MomentText.h"
-
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <functional>
-#include <string>
-#include <vector>
+#include "tests/horoscope/HoroscopeFixture.h"
 
 namespace kelvaro {
 namespace {
 
-/// Notes what the driver asks of the screen.
-class RecordingDisplay : public StatusDisplay {
-public:
-    void OpenStatus() override { events.emplace_back("open"); }
-    void AdvanceStatusBar() override {
-        events.emplace_back("advance");
-        if (atEachAdvance) {
-            atEachAdvance();
-        }
-    }
-    void CloseStatus() override { events.emplace_back("close"); }
-    void HideHoroscopeForms() override { events.emplace_back("hide"); }
-    void ShowCurrentView(std::string_view view) override { events.emplace_back("show " + std::string(view)); }
-    void RunFailed(std::string_view step, std::string_view cause) override {
-        failedStep = step;
-        failure = cause;
-    }
-
-    std::size_t Count(const std::string &event) const {
-        return static_cast<std::size_t>(std::count(events.begin(), events.end(), event));
-    }
-
-    std::vector<std::string> events;
-    std::string failedStep;
-    std::string failure;
-    std::function<void()> atEachAdvance;
-};
-
-class CalculateHoroscopeTest : public testing::Test {
-protected:
-    void SetBirth(Moment moment) {
-        const CivilMoment parts = Split(moment);
-        horoscope.state.BirthDay = std::to_string(parts.date.day);
-        horoscope.state.BirthMonth = std::to_string(parts.date.month);
-        horoscope.state.BirthYear = std::to_string(parts.date.year);
-        horoscope.state.BirthHour = std::to_string(parts.clock.hour);
-        horoscope.state.BirthMinute = std::to_string(parts.clock.minute);
-    }
-
-    CalculateHoroscopeTest() { connection.OpenCopyInMemory(KELVARO_SEED_DATABASE); }
-
-    RecordingDisplay display;
-    store::Connection connection;
-    Horoscope horoscope{connection, display};
-};
+class CalculateHoroscopeTest : public HoroscopeTest {};
 
 TEST_F(CalculateHoroscopeTest, SampleBirthFillsBothCharts) {
     horoscope.CurrentView = "Navamsa";
@@ -71,6 +20,7 @@ TEST_F(CalculateHoroscopeTest, SampleBirthFillsBothCharts) {
     EXPECT_EQ(display.events.at(1), "hide");
     EXPECT_EQ(display.events.back(), "close");
     EXPECT_EQ(display.Count("show Navamsa"), 1U);
+    EXPECT_EQ(display.Count("advance"), 15U);
     EXPECT_EQ(MomentText(horoscope.state.BirthMomentDate), "14/07/1965 02:15 PM");
     EXPECT_EQ(horoscope.state.DayOrNight, "Day");
     EXPECT_EQ(horoscope.forms.frm_rasi.VisibleFrame, ChartStyle::South);
@@ -102,6 +52,8 @@ TEST_F(CalculateHoroscopeTest, FailedStepEndsTheRunAndLeavesEmptyViews) {
     EXPECT_NE(display.failure.find("31/6/1965"), std::string::npos) << display.failure;
     EXPECT_EQ(display.Count("show Rasi"), 1U);
     EXPECT_EQ(display.Count("advance"), 1U);
+    EXPECT_EQ(horoscope.forms.frm_UserDetails.txtGName, "");
+    EXPECT_TRUE(horoscope.forms.Frm_Dasa.mshDasa.rows.empty());
     EXPECT_EQ(display.events.back(), "close");
     for (const std::string &cell : horoscope.forms.frm_rasi.South) {
         EXPECT_EQ(cell, "");

@@ -8,10 +8,18 @@
 
 namespace kelvaro {
 
-/// The calendars of a program just started, on the seed database, at New Delhi and under Lahiri's ayanamsa.
-struct Almanac {
-    Almanac() {
+/// A copy of the seed database for all tests that leave it as it is.
+inline store::Connection &SeedConnection() {
+    static store::Connection connection;
+    if (!connection.IsOpen()) {
         connection.OpenCopyInMemory(KELVARO_SEED_DATABASE);
+    }
+    return connection;
+}
+
+/// The calendars of a program just started, at New Delhi and under Lahiri's ayanamsa.
+struct Almanac {
+    explicit Almanac(store::Connection &connection = SeedConnection()) : years(connection) {
         state.LatDeg = 28;
         state.LatMin = 36;
         state.LonDeg = 77;
@@ -19,13 +27,12 @@ struct Almanac {
     }
 
     HoroscopeState state;
-    store::Connection connection;
     clsFindSunrise sunrise;
     clsFindSunSet sunset;
     clsTithi tithi;
     PlacePositions positions{state};
     SunTimes sunTimes{state, sunrise, sunset};
-    KaliyugaYears years{connection};
+    KaliyugaYears years;
     SolarCalendar solar{sunTimes, years};
     LunarCalendar lunar{positions, sunTimes, tithi, years};
 

@@ -29,7 +29,8 @@ TEST(ClsTithi, CountsThroughTheMonth) {
         const std::size_t place = half / 2;
         EXPECT_EQ(tithi.TithiNo, static_cast<int>(place) + 1);
         EXPECT_EQ(tithi.TithiPosition, place < 15 ? "Bright" : "Dark") << half;
-        const char *karana = half == 0 || half > 56 ? fixed.at((half + 3) % 60 % 4) : turning.at((half - 1) % 7);
+        const char *karana =
+            half == 0 || half > 56 ? fixed.at((half + 3) % 60 % 4) : turning.at((half - 1) % 7);
         EXPECT_EQ(tithi.Karnam.substr(0, 3), karana) << half;
         if (place < 15) {
             bright.at(place) = tithi.Tithi;

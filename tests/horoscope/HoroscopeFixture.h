@@ -1,0 +1,63 @@
+#pragma once
+
+#include "horoscope/Horoscope.h"
+#include "horoscope/StatusDisplay.h"
+#include "store/Connection.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace kelvaro {
+
+/// Notes what the driver asks of the screen.
+class RecordingDisplay : public StatusDisplay {
+public:
+    void OpenStatus() override { events.emplace_back("open"); }
+    void AdvanceStatusBar() override {
+        events.emplace_back("advance");
+        if (atEachAdvance) {
+            atEachAdvance();
+        }
+    }
+    void CloseStatus() override { events.emplace_back("close"); }
+    void HideHoroscopeForms() override { events.emplace_back("hide"); }
+    void ShowCurrentView(std::string_view view) override { events.emplace_back("show " + std::string(view)); }
+    void RunFailed(std::string_view step, std::string_view cause) override {
+        failedStep = step;
+        failure = cause;
+    }
+
+    std::size_t Count(const std::string &event) const {
+        return static_cast<std::size_t>(std::count(events.begin(), events.end(), event));
+    }
+
+    std::vector<std::string> events;
+    std::string failedStep;
+    std::string failure;
+    std::function<void()> atEachAdvance;
+};
+
+/// A horoscope on a private copy of the seed database, at first the sample birth.
+class HoroscopeTest : public testing::Test {
+protected:
+    HoroscopeTest() { connection.OpenCopyInMemory(KELVARO_SEED_DATABASE); }
+
+    void SetBirth(Moment moment) {
+        const CivilMoment parts = Split(moment);
+        horoscope.state.BirthDay = std::to_string(parts.date.day);
+        horoscope.state.BirthMonth = std::to_string(parts.date.month);
+        horoscope.state.BirthYear = std::to_string(parts.date.year);
+        horoscope.state.BirthHour = std::to_string(parts.clock.hour);
+        horoscope.state.BirthMinute = std::to_string(parts.clock.minute);
+    }
+
+    RecordingDisplay display;
+    store::Connection connection;
+    Horoscope horoscope{connection, display};
+};
+
+} // namespace kelvaro

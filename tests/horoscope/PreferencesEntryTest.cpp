@@ -1,0 +1,117 @@
+#include "horoscope/PreferencesEntry.h"
+
+#include "tests/horoscope/HoroscopeFixture.h"
+
+namespace kelvaro {
+namespace {
+
+class PreferencesEntryTest : public HoroscopeTest {
+protected:
+    store::OnLoadClass Stored() {
+        store::OnLoadClass stored;
+        stored.FnPreferences(connection);
+        return stored;
+    }
+
+    PreferenceFields Custom(const std::string &zeroYear, const std::string &progress) {
+        PreferenceFields fields = FieldsOfPreferences(Stored());
+        fields.cbAyanamsa = "Custom Ayanamsa";
+        fields.txtZero = zeroYear;
+        fields.txtPogression = progress;
+        return fields;
+    }
+};
+
+TEST_F(PreferencesEntryTest, TestsOfTheCustomAyanamsaInTheirOrder) {
+    struct Case {
+        const char *zeroYear, *progress, *message, *focus;
+    };
+    const std::vector<Case> cases{
+        {"", "", "Enter Zero Year", "txtZero"},
+        {"abc", "", "Enter Progression", "txtPogression"},
+        {"abc", "x", "Enter Year in Number", "txtZero"},
+        {"2004", "x", "Enter Progression in Number ", "txtPogression"},
+        {"2004", "-1", "Enter Zero Year Less than current Year ", "txtZero"},
+        {"-1", "-1", "Enter Positive Zero Year ", "txtZero"},
+        {"0", "-0.5", "Enter Positive Progression ", "txtPogression"},
+        {"2003", "1000.5", "Enter Progression less than 1000", "txtPogression"},
+    };
+    for (const Case &test : cases) {
+        for (const auto accept : {SavePreferences, ApplyPreferences}) {
+            const auto notice = accept(Custom(test.zeroYear, test.progress), horoscope);
+            ASSERT_TRUE(notice) << test.message;
+            EXPECT_EQ(notice->text, test.message);
+            EXPECT_EQ(notice->focus, test.focus);
+            EXPECT_EQ(notice->icon, Notice::Icon::Information);
+        }
+    }
+    EXPECT_EQ(Stored().clsAyanamsa, "Lahiri");
+    EXPECT_EQ(horoscope.state.AyanamsaName, "Lahiri");
+    EXPECT_TRUE(display.events.empty());
+    for (const auto &[zeroYear, progress] :
+         {std::pair{"2003", "1000"}, std::pair{"0", "0"}, std::pair{"3.97e2", "50"}}) {
+        EXPECT_FALSE(SavePreferences(Custom(zeroYear, progress), horoscope)) << zeroYear;
+    }
+}
+
+TEST_F(PreferencesEntryTest, SaveStoresAndComputesAnew) {
+    EXPECT_FALSE(SavePreferences(Custom("397", "50.3"), horoscope));
+    EXPECT_EQ(display.Count("close"), 1U);
+    EXPECT_EQ(Stored().clsYear, 397);
+    EXPECT_EQ(Stored().clsProgress, 50.3);
+    EXPECT_EQ(horoscope.state.AyanamsaInForce, "Custom");
+    EXPECT_EQ(horoscope.state.YearInForce, 397);
+    // (1965 - 397) years of 50.3 seconds, and half a year's share.
+    EXPECT_NEAR(horoscope.state.Ayanamsa, -(1968.0 - 400 + 194 / 365.25) * 50.3 / 3600, 0.001);
+
+    // Another ayanamsa takes the custom figures away.
+    PreferenceFields fields = FieldsOfPreferences(Stored());
+    fields.cbAyanamsa = "Krishnamoorthy Ayanamsa";
+    fields.cbChart = "North Indian";
+    fields.cbLanguage = "Sanskrit";
+    fields.Cbdays = "360";
+    EXPECT_FALSE(SavePreferences(fields, horoscope));
+    EXPECT_EQ(Stored().clsAyanamsa, "KP");
+    EXPECT_EQ(Stored().clsYear, 0);
+    EXPECT_EQ(Stored().clsChart_Type, "North");
+    EXPECT_EQ(Stored().clsDays_in_a_Year, 360);
+    EXPECT_EQ(horoscope.forms.frm_rasi.VisibleFrame, ChartStyle::North);
+    EXPECT_EQ(horoscope.state.RasiNames.front(), "Mesha");
+    EXPECT_EQ(display.Count("close"), 2U);
+}
+
+TEST_F(PreferencesEntryTest, ApplyStoresNothingAndTakesNoBhava) {
+    connection.Execute("update Preference set Bhava = 'Not Equal'");
+    horoscope.state.BhavaSystem = "Equal";
+    PreferenceFields fields = FieldsOfPreferences(Stored());
+    EXPECT_EQ(fields.cbBhava, "Placidius");
+    fields.cbAyanamsa = "Tropical Ayanamsa (Sayana)";
+    EXPECT_FALSE(ApplyPreferences(fields, horoscope));
+    EXPECT_EQ(horoscope.state.Ayanamsa, 0);
+    EXPECT_EQ(horoscope.state.BhavaSystem, "Equal");
+    EXPECT_EQ(Stored().clsAyanamsa, "Lahiri");
+
+    // Saving keeps the unlisted choice and puts it in force.
+    EXPECT_FALSE(SavePreferences(fields, horoscope));
+    EXPECT_EQ(Stored().clsBhava, "Not Equal");
+    EXPECT_EQ(horoscope.state.BhavaSystem, "Not Equal");
+}
+
+TEST_F(PreferencesEntryTest, TextThatIsNoChoiceIsRefused) {
+    PreferenceFields fields = FieldsOfPreferences(Stored());
+    fields.cbChart = "Sout";
+    const auto notice = SavePreferences(fields, horoscope);
+    ASSERT_TRUE(notice);
+    EXPECT_EQ(notice->focus, "cbChart");
+    EXPECT_EQ(Stored().clsChart_Type, "South");
+}
+
+TEST_F(PreferencesEntryTest, MissingRowIsAnError) {
+    connection.Execute("delete from Preference");
+    EXPECT_THROW(Stored(), store::StoreError);
+    store::OnLoadClass preferences;
+    EXPECT_THROW(preferences.Store(connection), store::StoreError);
+}
+
+} // namespace
+} // namespace kelvaro

@@ -1,0 +1,212 @@
+#include "panchanga/clsStar.h"
+#include "panchanga/clsYoga.h"
+#include "tests/panchanga/Almanac.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+
+namespace kelvaro {
+namespace {
+
+struct Expected {
+    const char *moment;
+    const char *date;
+};
+
+// Months as printed almanacs of the reckoning by the new moon have them.
+TEST(LunarCalendar, SukladiDatesOfPrintedAlmanacs) {
+    constexpr Expected cases[] = {
+        {"1/7/2015 12:00", "Adhika Ashadha Manmatha"},
+        {"15/7/2015 12:00", "Adhika Ashadha Manmatha"}, // its last day
+        {"25/7/2015 12:00", "Shudha Ashadha Manmatha"},
+        {"1/10/2020 12:00", "Adhika Asvina Sarvari"},
+        {"25/10/2020 12:00", "Shudha Asvina Sarvari"},  // Vijaya Dashami
+        {"8/10/2019 12:00", "Shudha Asvina Vikari"},    // Vijaya Dashami
+        {"6/4/2019 09:00", "Shudha Chaitra Vikari"},    // Ugadi
+        {"6/4/2019 05:00", "Shudha Phalguna Vilambi"},  // the same date before sunrise
+        {"14/4/2019 10:00", "Shudha Chaitra Vikari"},   // Rama Navami
+        {"24/8/2019 12:00", "Shudha Sravana Vikari"},   // Krishna Janmashtami
+        {"4/3/2019 20:00", "Shudha Magha Vilambi"},     // Maha Shivaratri
+        {"20/3/2019 20:00", "Shudha Phalguna Vilambi"}, // Holi, born on the full moon
+        {"1/3/2000 12:00", "Shudha Magha Pramathi"},
+        {"10/8/1947 12:00", "Adhika Sravana Sarvajit"},
+        {"15/11/1850 12:00", "Shudha Kartikka Sadharana"},
+        {"15/3/2050 12:00", "Shudha Phalguna Sukla"},
+    };
+    for (const Expected &expected : cases) {
+        EXPECT_EQ(Almanac().Sukladi(expected.moment), expected.date) << expected.moment;
+    }
+}
+
+// Months as printed almanacs of the reckoning by the full moon have them. The month takes the Sun's sign at
+// the full moon that opens it, so these are births for which the new moon within it falls into the same sign.
+TEST(LunarCalendar, KrishnadiDatesOfPrintedAlmanacs) {
+    constexpr Expected cases[] = {
+        {"3/9/2018 12:00", "Shudha Bhadrapada Vilambi"}, // Krishna Janmashtami
+        {"7/11/2018 19:00", "Shudha Karttika Vilambi"},  // Diwali, born on the new moon
+        {"14/11/2020 19:00", "Shudha Karttika Sarvari"}, // Diwali
+        {"4/3/2019 20:00", "Shudha Phalguna Vilambi"},   // Maha Shivaratri
+        {"14/4/2019 10:00", "Shudha Chaitra Vikari"},    // Rama Navami
+        {"25/10/2020 12:00", "Shudha Asvina Sarvari"},   // Vijaya Dashami
+        {"25/7/2015 12:00", "Shudha Ashadha Manmatha"},    {"1/3/2000 12:00", "Shudha Phalguna Pramathi"},
+        {"15/11/1850 12:00", "Shudha Karttika Sadharana"},
+    };
+    for (const Expected &expected : cases) {
+        EXPECT_EQ(Almanac().Krishnadi(expected.moment), expected.date) << expected.moment;
+    }
+}
+
+// The Sun entered its sign within the new moon's tithi on 15 May 1999, 15 May 2018 and 17 July 2023. As the
+// sign at the beginning of the tithi counts, the leap month goes to the month before (printed: Jyeshtha of
+// 1999 and 2018, Sravana of 2023), and its own days compare as texts without a decision.
+TEST(LunarCalendar, ASignEnteredWithinTheTithiShiftsTheLeapMonth) {
+    constexpr Expected cases[] = {
+        {"25/4/1999 12:00", "Adhika Vaisakha Pramathi"}, {"1/5/2018 12:00", "Adhika Vaisakha Vilambi"},
+        {"1/6/2018 12:00", " Vaisakha Vilambi"},         {"10/7/2023 12:00", "Adhika Ashadha Sobhakrit"},
+        {"1/8/2023 12:00", " Ashadha Sobhakrit"},
+    };
+    for (const Expected &expected : cases) {
+        EXPECT_EQ(Almanac().Sukladi(expected.moment), expected.date) << expected.moment;
+    }
+}
+
+// Printed almanacs end the month with the new moon's day, Asvina on all these dates.
+TEST(LunarCalendar, OnTheDayOfTheNewMoonTheNextMonthBegins) {
+    // The tithi began at 12:23 of the 27th and ended at 09:08 of the 28th. At 11:55 PM of the 27th it is
+    // counted in both directions, which makes the two of a leap month.
+    EXPECT_EQ(Almanac().Sukladi("27/10/2019 19:00"), "Adhika Kartikka Vikari");
+    // At sunrise of the 29th "Pratipada" is over, so that the sunrise of the 28th decides.
+    EXPECT_EQ(Almanac().Sukladi("28/10/2019 07:00"), "Shudha Kartikka Vikari");
+    EXPECT_EQ(Almanac().Sukladi("28/10/2019 06:00"), "Shudha Asvina Vikari");
+    EXPECT_EQ(Almanac().Sukladi("28/10/2019 06:00", "DP"), "Shudha Kartikka Vikari");
+    // "Pratipada" follows at the next sunrise, so that the Sun at birth decides, before sunrise too.
+    EXPECT_EQ(Almanac().Sukladi("7/11/2018 05:00"), "Shudha Kartikka Vilambi");
+}
+
+TEST(LunarCalendar, TheFirstDayOfTheMonthBeginsAtSunrise) {
+    Almanac almanac;
+    const Moment sunrise = almanac.sunTimes.SunriseOf(MomentOf({2019, 4, 6}));
+    almanac.lunar.LunarDateSukladi(sunrise, "TP");
+    EXPECT_EQ(almanac.lunar.Sukladi().month, "Chaitra");
+    almanac.lunar.LunarDateSukladi(DateAdd(Interval::Minute, -1, sunrise), "TP");
+    EXPECT_EQ(almanac.lunar.Sukladi().month, "Phalguna");
+    EXPECT_EQ(almanac.Sukladi("6/4/2019 00:01", "DP"), "Shudha Chaitra Vikari");
+}
+
+TEST(LunarCalendar, KrishnadiReadsTheSunOfTheSukladiSearchBefore) {
+    Almanac almanac;
+    // On a Bright "Pratipada"; a program just started reads the beginning of Aries.
+    EXPECT_EQ(almanac.Krishnadi("6/4/2019 09:00"), "Shudha Vaisakha Vikari");
+    EXPECT_EQ(almanac.Krishnadi("6/4/2019 05:00"), "Shudha Chaitra Vikari");
+    almanac.Sukladi("8/10/2019 12:00");
+    EXPECT_EQ(almanac.Krishnadi("6/4/2019 09:00"), "Shudha Asvina Vilambi");
+}
+
+// Full moons from 16 June and from 16 July 2019, both in Gemini; the "Pratipada" after the first began on 3
+// July. Of two texts the one with the later day of the month is the later one.
+TEST(LunarCalendar, BetweenTwoFullMoonsOfOneSignTheTextsOfTheDatesDecide) {
+    Almanac almanac;
+    EXPECT_EQ(almanac.Krishnadi("25/7/2019 12:00"), "Shudha Vaisakha Vikari");
+    EXPECT_EQ(almanac.Krishnadi("3/8/2019 12:00"), " Vaisakha Vikari");
+    EXPECT_EQ(almanac.Krishnadi("4/8/2019 12:00"), "Shudha Vaisakha Vikari");
+    almanac.Sukladi("8/10/2019 12:00");
+    EXPECT_EQ(almanac.Krishnadi("25/7/2019 12:00"), "Shudha Asvina Vikari");
+}
+
+TEST(LunarCalendar, TithiYogaAndStarOfBirths) {
+    const struct {
+        const char *moment;
+        int tithi, star;
+        const char *karana, *yoga;
+    } cases[] = {
+        {"20/3/2019 20:00", 15, 12, "Vishti", "Ganda"},  {"7/11/2018 19:00", 30, 15, "Naga", "Saubhagya"},
+        {"15/8/1947 00:10", 29, 8, "Vishti", "Siddhi"},  {"26/1/1950 10:18", 8, 1, "Bav", "Shubha"},
+        {"1/3/2000 12:00", 26, 20, "Bav", "Vyatipaata"},
+    };
+    for (const auto &expected : cases) {
+        Almanac almanac;
+        const auto [sun, moon] = almanac.positions.SunAndMoonAt(ReadMoment(expected.moment));
+        almanac.tithi.moonA = moon;
+        almanac.tithi.sunC = sun;
+        almanac.tithi.FindTithi();
+        clsYoga yoga;
+        yoga.moon_position = moon;
+        yoga.sun_position = sun;
+        yoga.findyoga();
+        clsStar star;
+        star.PlanetPosition = moon;
+        star.findstar();
+        EXPECT_EQ(almanac.tithi.TithiNo, expected.tithi) << expected.moment;
+        EXPECT_EQ(almanac.tithi.Karnam, expected.karana) << expected.moment;
+        EXPECT_EQ(yoga.YogaName, expected.yoga) << expected.moment;
+        EXPECT_EQ(star.StarNo, expected.star) << expected.moment;
+    }
+}
+
+TithiCount Counted(Almanac &almanac, const char *tithi, const char *moment) {
+    TithiSearch search(almanac.positions, almanac.tithi);
+    TithiCount count;
+    search.Count(tithi, ReadMoment(moment), count);
+    return count;
+}
+
+TEST(TithiSearch, CountsInTheSignOfTheLastOneFound) {
+    Almanac almanac;
+    const struct {
+        const char *tithi, *birth;
+        int backward, forward;
+        const char *firstDate, *lastDate;
+        double sun;
+    } cases[] = {
+        // New moons of 16 June and 16 July 2015, both in Gemini.
+        {"Amavashya", "1/7/2015 00:01", 1, 1, "15/06/2015", "15/06/2015", 60.1},
+        {"Amavashya", "1/7/2015 23:59", 1, 1, "15/06/2015", "15/06/2015", 60.1},
+        {"Amavashya", "25/7/2015", 2, 0, "15/07/2015", "15/06/2015", 60.1},
+        {"Amavashya", "1/6/2015", 1, 0, "17/05/2015", "17/05/2015", 32},
+        // In force at 11:55 PM. After two of them none is searched for.
+        {"Amavashya", "15/7/2015", 2, 0, "15/07/2015", "15/06/2015", 60.1},
+        {"Amavashya", "27/10/2019", 1, 1, "27/10/2019", "27/10/2019", 189.4},
+        // The new moon before this one began in another sign, although it ended in the same.
+        {"Amavashya", "20/6/2018", 1, 0, "13/06/2018", "13/06/2018", 57.7},
+        {"Purnima", "25/6/2015", 1, 0, "01/06/2015", "01/06/2015", 47},
+    };
+    for (const auto &expected : cases) {
+        const TithiCount count = Counted(almanac, expected.tithi, expected.birth);
+        EXPECT_EQ(count.backward, expected.backward) << expected.birth;
+        EXPECT_EQ(count.forward, expected.forward) << expected.birth;
+        EXPECT_EQ(DateText(count.dates.front()), expected.firstDate) << expected.birth;
+        EXPECT_EQ(DateText(count.dates.back()), expected.lastDate) << expected.birth;
+        EXPECT_NEAR(count.sun, expected.sun, 0.6) << expected.birth;
+        EXPECT_EQ(count.dates.front(), DateOf(count.dates.front()));
+    }
+}
+
+TEST(TithiSearch, EndsForNumbersThatAreNone) {
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    for (const double bad : {infinite, std::numeric_limits<double>::quiet_NaN(), 1e300}) {
+        Almanac almanac;
+        almanac.state.TimeDiff = bad;
+        EXPECT_THROW(Counted(almanac, "Purnima", "1/7/2015"), RuntimeError) << bad;
+        EXPECT_THROW(almanac.Krishnadi("1/7/2015"), RuntimeError) << bad;
+    }
+    Almanac almanac;
+    EXPECT_THROW(almanac.Sukladi("10/1/100"), RuntimeError);
+}
+
+TEST(PlacePositions, TakesTheCustomAyanamsaFromTheRecord) {
+    Almanac almanac;
+    const Moment moment = MomentOf({2000, 3, 1}, {12, 0, 0});
+    almanac.state.AyanamsaInForce = "Sayana";
+    const double tropical = almanac.positions.SunAndMoonAt(moment).sun;
+    almanac.state.AyanamsaInForce = "Custom";
+    almanac.state.YearInForce = 400;
+    almanac.state.ProgressInForce = 54;
+    const PlacePositions::SunAndMoon sky = almanac.positions.SunAndMoonAt(moment);
+    // 1600 years at 54 seconds of arc, and two months.
+    EXPECT_NEAR(tropical - sky.sun, 24, 0.01);
+    EXPECT_EQ(almanac.positions.SunAndLagnaAt(moment).sun, sky.sun);
+}
+
+} // namespace
+} // namespace kelvaro
