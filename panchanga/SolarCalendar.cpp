@@ -84,9 +84,11 @@ bool SolarCalendar::SolarDateOf(Moment moment, Moment today) {
     const Moment start = FindYearStart(year);
     const Moment startBefore = FindYearStart(year - 1);
     const Moment startAfter = FindYearStart(year + 1);
-    date_.kaliyugaYear = 0;
     const bool isFound = FindDateBetween(start, startAfter, moment, year) ||
                          FindDateBetween(startBefore, start, moment, year - 1);
+    if (!isFound && KaliyugaYearOf(moment) == 0) {
+        date_.kaliyugaYear = 0;
+    }
     date_.kaliDays = KaliDays(today);
     return isFound;
 }

@@ -35,8 +35,9 @@ public:
     ~SolarCalendar() = default;
 
     /// Finds the date of a moment; `today` is the present date. True when a year holds the moment. Otherwise,
-    /// as for all before April of 1866, the day, month and year of the moment before stay, and the Kaliyuga
-    /// year is 0. Raises what the table and the astronomy raise, and ConversionError for the year 9999.
+    /// as for all before April of 1866, the date of the moment before stays; the Kaliyuga year of a moment
+    /// before 1866 is 0. Raises what the table and the astronomy raise, and ConversionError for the year
+    /// 9999.
     bool SolarDateOf(Moment moment, Moment today);
 
     const SolarDate &Date() const { return date_; }

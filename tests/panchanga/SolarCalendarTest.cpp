@@ -101,7 +101,9 @@ TEST(SolarCalendar, BeforeTheTableThereIsNoDate) {
     EXPECT_EQ(almanac.solar.Date().kaliDays, 1790030 + 45292);
 
     Found(almanac, "14/4/2019 12:00");
-    for (const CivilDate &date : {CivilDate{1850, 6, 1}, CivilDate{1865, 12, 1}, CivilDate{1866, 1, 1}}) {
+    EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf({1866, 1, 1}), today));
+    EXPECT_EQ(almanac.solar.Date().kaliyugaYear, 5120);
+    for (const CivilDate &date : {CivilDate{1850, 6, 1}, CivilDate{1865, 12, 1}}) {
         EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf(date), today)) << date.year;
         EXPECT_EQ(almanac.solar.Date().month, "Chaitra") << date.year;
         EXPECT_EQ(almanac.solar.Date().kaliyugaYear, 0) << date.year;
