@@ -1,12 +1,16 @@
 #include "astronomy/KeplerEquation.h"
 
 #include "astronomy/AngleReduction.h"
+#include "runtime/RuntimeError.h"
 
 #include <cmath>
 
 namespace kelvaro {
 
 OrbitAnomalies FnSolveKepler(double meanAnomaly, double eccentricity) {
+    if (!(eccentricity >= 0 && eccentricity < 1)) {
+        throw ArithmeticError("Invalid eccentricity of an orbit");
+    }
     const double reduced = FnReduceRadians(meanAnomaly);
     double e = reduced;
     double rest = e - eccentricity * std::sin(e) - reduced;

@@ -8,7 +8,8 @@ struct OrbitAnomalies {
     double eccentricAnomaly = 0;
 };
 
-/// Solves Kepler's equation by Newton's iteration, to 1e-06 radians. The eccentricity lies from 0 to below 1.
+/// Solves Kepler's equation by Newton's iteration, to 1e-06 radians. Raises ArithmeticError for an
+/// eccentricity outside 0 to below 1, where the iteration need not end.
 OrbitAnomalies FnSolveKepler(double meanAnomaly, double eccentricity);
 
 } // namespace kelvaro

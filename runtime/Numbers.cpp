@@ -68,8 +68,9 @@ double NumberFromText(std::string_view text) {
 
 std::string NumberText(double value) {
     std::array<char, 40> buffer{};
-    const auto [end, error] =
-        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, 15);
+    // Adding zero rids a negative zero of its sign.
+    const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value + 0.0,
+                                            std::chars_format::general, 15);
     if (error != std::errc{}) {
         throw ConversionError("A number has no text form");
     }

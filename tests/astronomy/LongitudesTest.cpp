@@ -118,6 +118,57 @@ TEST(Longitudes, AgreeWithTheEphemerides) {
     }
 }
 
+/// Figures of a second program, written apart from this one in another language from the printed theory. The
+/// ephemerides show whether the theory is right; these show a slip in its smallest terms, which hides below
+/// their tolerances.
+struct Reckoning {
+    CivilMoment civil;
+    double zone;
+    const char *zoneSide;
+    double lahiri;
+    /// Tropical: Sun, Moon, Mercury, Venus, Mars, Jupiter, Saturn, Rahu, then Lagna and Midheaven of Chennai.
+    std::array<double, BodyCount + 3> longitudes;
+};
+
+// clang-format off
+const Reckoning reckonings[] = {
+    {{{1800, 1, 1}, {0, 0, 0}}, 0, "E", -21.063319715,
+     {280.428878868, 348.474939647, 268.348078301, 233.630794575, 244.345596373,
+      84.503288331, 128.780168367, 33.247921946, 265.334945696, 180.745304918}},
+    {{{1857, 5, 10}, {17, 30, 0}}, 5.5, "E", -21.865553061,
+     {49.732048950, 245.148190147, 70.910071012, 49.583623325, 57.072966846,
+      28.942721075, 100.621314472, 3.940987554, 217.544545720, 126.134580485}},
+    {{{1965, 7, 14}, {14, 15, 0}}, 5.5, "E", -23.372143352,
+     {111.689731222, 298.828326229, 138.001181420, 136.365601648, 188.030370728,
+      78.870327316, 346.981173854, 71.686261947, 231.596444962, 141.159450798}},
+    {{{2100, 12, 31}, {23, 59, 0}}, 11, "W", -25.271090081,
+     {280.827967607, 300.496184858, 298.934008552, 266.395550424, 254.340530990,
+      227.078969344, 217.012435693, 331.581731928, 82.378401063, 344.781518173}},
+    {{{2950, 8, 8}, {3, 7, 0}}, 13, "E", -37.157333850,
+     {135.813060879, 166.270361627, 157.990032043, 179.359899101, 148.327180779,
+      107.621397012, 162.290522257, 99.717202625, 334.208559223, 250.017175000}},
+};
+// clang-format on
+
+TEST(Longitudes, AgreeWithASecondReckoning) {
+    const BirthPlace chennai{13, 5, "N", 80, 17, "E"};
+    for (const Reckoning &r : reckonings) {
+        SCOPED_TRACE(r.civil.date.year);
+        ClsFindPlanetPosition facade;
+        FindPositions(facade, r.civil, r.zone, r.zoneSide, chennai);
+        const std::array<double, BodyCount + 3> found{
+            facade.FnFindSunPosition(),    facade.FnFindMoonPosition(), facade.FnFindMercuryPosition(),
+            facade.FnFindVenusPosition(),  facade.FnFindMarsPosition(), facade.FnFindJupiterPosition(),
+            facade.FnFindSaturnPosition(), facade.FnFindRahuPosition(), facade.FnFindLagnaPosition(),
+            facade.FnFindMidHeaven()};
+        for (std::size_t i = 0; i < found.size(); ++i) {
+            EXPECT_NEAR(Deviation(found[i], r.longitudes[i]), 0, 2e-8) << i;
+        }
+        FindPositions(facade, r.civil, r.zone, r.zoneSide, chennai, "Lahiri");
+        EXPECT_NEAR(facade.FnFindAyanamsa(), r.lahiri, 2e-8);
+    }
+}
+
 /// Points of the horizon and the meridian from the Swiss Ephemeris; by PyEphem each ascendant lies on the
 /// eastern horizon to 0.001 degrees.
 struct Horizon {

@@ -122,6 +122,12 @@ TEST(Sunrise, StampsTheNextRiseOnADateWithoutOne) {
     ExpectEvent(SunsetAt(tromso, {1, "E"}, {2000, 6, 21}), {2000, 6, 21}, {23, 28}, 2);
 }
 
+TEST(Sunrise, PassesOverADayShorterThanItsSteps) {
+    // On the first three days after the polar night rise and set both fall between 12 and 14 o'clock of this
+    // zone, into one step, where neither counts. The rise found is that of January 18.
+    ExpectEvent(SunriseAt(tromso, {2, "E"}, {2001, 1, 15}), {2001, 1, 15}, {11, 52}, 2);
+}
+
 TEST(Sunrise, AlwaysEnds) {
     for (const double latitude : {66.5, 80.0, 89.0, 89.99, 90.0}) {
         for (const char *side : {"N", "S"}) {

@@ -62,6 +62,7 @@ TEST(Numbers, AreWritten) {
     EXPECT_EQ(NumberText(78), "78");
     EXPECT_EQ(NumberText(5.5), "5.5");
     EXPECT_EQ(NumberText(-0.25), "-0.25");
+    EXPECT_EQ(NumberText(-0.0), "0");
     EXPECT_EQ(NumberText(0.1 + 0.2), "0.3");
     EXPECT_EQ(NumberText(23937.59375), "23937.59375");
     EXPECT_EQ(TwoDigitText(7), "07");
