@@ -2,6 +2,7 @@
 
 #include "analysis/Lords.h"
 #include "analysis/VimshottariDasa.h"
+#include "panchanga/PlacePositions.h"
 #include "runtime/MomentText.h"
 
 #include <cmath>
@@ -53,9 +54,7 @@ struct NamedScheme {
 };
 
 void FindMoon(HoroscopeState &state, ClsFindPlanetPosition &position) {
-    position.FindFixValues(state.BirthMomentDate, state.LatNS, state.LatDeg, state.LatMin, state.LonEW,
-                           state.LonDeg, state.LonMin, state.TimeDiff, state.TimeDiffEW, 0,
-                           state.AyanamsaInForce, state.YearInForce, state.ProgressInForce);
+    FindFixValuesAt(position, state, state.BirthMomentDate, state.AyanamsaInForce);
     state.MoonLon = position.FnFindMoonPosition();
 }
 

@@ -4,6 +4,7 @@
 #include "analysis/LongitudeCells.h"
 #include "analysis/SayanadiAvastha.h"
 #include "horoscope/Bodies.h"
+#include "panchanga/PlacePositions.h"
 #include "panchanga/RasiOfLongitude.h"
 #include "presentation/AngleText.h"
 
@@ -57,10 +58,7 @@ double LongitudeIn(const HoroscopeState &state, std::size_t row) {
 }
 
 void FindNextDay(const HoroscopeState &state, ClsFindPlanetPosition &position) {
-    position.FindFixValues(DateAdd(Interval::Day, 1, state.BirthMomentDate), state.LatNS, state.LatDeg,
-                           state.LatMin, state.LonEW, state.LonDeg, state.LonMin, state.TimeDiff,
-                           state.TimeDiffEW, 0, state.AyanamsaInForce, state.YearInForce,
-                           state.ProgressInForce);
+    FindFixValuesAt(position, state, DateAdd(Interval::Day, 1, state.BirthMomentDate), state.AyanamsaInForce);
 }
 
 void FillClasses(const HoroscopeState &state, TextGrid &grid, clsStar &star) {

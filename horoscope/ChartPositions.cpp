@@ -15,13 +15,6 @@ namespace {
 /// The ten bodies whose longitudes the facade gives; Gulika and Maandi are rising degrees.
 constexpr std::span<const BodyFields> bodiesOfTheFacade{bodyFields.data(), 10};
 
-void FindFixValuesFor(Horoscope &horoscope, Moment moment, const std::string &ayanamsa) {
-    const HoroscopeState &state = horoscope.state;
-    horoscope.calculators.position.FindFixValues(moment, state.LatNS, state.LatDeg, state.LatMin, state.LonEW,
-                                                 state.LonDeg, state.LonMin, state.TimeDiff, state.TimeDiffEW,
-                                                 0, ayanamsa, state.YearInForce, state.ProgressInForce);
-}
-
 Moment BirthMomentOf(const HoroscopeState &state) {
     return ReadMoment(state.BirthDay + "/" + state.BirthMonth + "/" + state.BirthYear + " " +
                       state.BirthHour + ":" + state.BirthMinute + ": 00");
@@ -106,8 +99,9 @@ void JoinRiseMoments(HoroscopeState &state) {
 }
 
 double LagnaAt(Horoscope &horoscope, Moment moment) {
-    FindFixValuesFor(horoscope, moment, horoscope.state.AyanamsaInForce);
-    return horoscope.calculators.position.FnFindLagnaPosition();
+    ClsFindPlanetPosition &position = horoscope.calculators.position;
+    FindFixValuesAt(position, horoscope.state, moment, horoscope.state.AyanamsaInForce);
+    return position.FnFindLagnaPosition();
 }
 
 } // namespace
@@ -115,7 +109,7 @@ double LagnaAt(Horoscope &horoscope, Moment moment) {
 void ComputeChartPositions(Horoscope &horoscope, double division) {
     HoroscopeState &state = horoscope.state;
     state.BirthMomentDate = BirthMomentOf(state);
-    FindFixValuesFor(horoscope, state.BirthMomentDate, state.AyanamsaName);
+    FindFixValuesAt(horoscope.calculators.position, state, state.BirthMomentDate, state.AyanamsaName);
     ReadLongitudes(horoscope);
     for (const BodyFields &body : bodiesOfTheFacade) {
         state.*body.rasi = RasiOfLongitude(state.*body.longitude, division);

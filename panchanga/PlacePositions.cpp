@@ -2,6 +2,13 @@
 
 namespace kelvaro {
 
+void FindFixValuesAt(ClsFindPlanetPosition &position, const HoroscopeState &state, Moment moment,
+                     const std::string &ayanamsa) {
+    position.FindFixValues(moment, state.LatNS, state.LatDeg, state.LatMin, state.LonEW, state.LonDeg,
+                           state.LonMin, state.TimeDiff, state.TimeDiffEW, 0, ayanamsa, state.YearInForce,
+                           state.ProgressInForce);
+}
+
 PlacePositions::SunAndMoon PlacePositions::SunAndMoonAt(Moment moment) {
     position_.FindSunAndMoon(moment, state_.LatNS, state_.LatDeg, state_.LatMin, state_.LonEW, state_.LonDeg,
                              state_.LonMin, state_.TimeDiff, state_.TimeDiffEW, state_.AyanamsaInForce,
@@ -10,9 +17,7 @@ PlacePositions::SunAndMoon PlacePositions::SunAndMoonAt(Moment moment) {
 }
 
 PlacePositions::SunAndLagna PlacePositions::SunAndLagnaAt(Moment moment) {
-    position_.FindFixValues(moment, state_.LatNS, state_.LatDeg, state_.LatMin, state_.LonEW, state_.LonDeg,
-                            state_.LonMin, state_.TimeDiff, state_.TimeDiffEW, 0, state_.AyanamsaInForce,
-                            state_.YearInForce, state_.ProgressInForce);
+    FindFixValuesAt(position_, state_, moment, state_.AyanamsaInForce);
     return {position_.FnFindSunPosition(), position_.FnFindLagnaPosition()};
 }
 

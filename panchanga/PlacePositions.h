@@ -5,6 +5,11 @@
 
 namespace kelvaro {
 
+/// Runs `FindFixValues` for a moment at the place of the record, under an ayanamsa and the record's custom
+/// figures.
+void FindFixValuesAt(ClsFindPlanetPosition &position, const HoroscopeState &state, Moment moment,
+                     const std::string &ayanamsa);
+
 /// Longitudes at the place and under the ayanamsa that the record has in force, for the searches of the
 /// calendars. Degrees, 0 to 360. Raises what `ClsFindPlanetPosition` raises.
 class PlacePositions {
