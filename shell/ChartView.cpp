@@ -2,7 +2,7 @@
 
 #include "horoscope/Bodies.h"
 #include "horoscope/Horoscope.h"
-#include "shell/ChartColours.h"
+#include "shell/ViewHeading.h"
 
 #include <QVBoxLayout>
 
@@ -24,18 +24,6 @@ constexpr std::array<FrameOfStyle, 3> framesOfStyles{{
     {ChartStyle::North, "Frame_NorthBride", &ChartWindow::northLabels, 1, &ChartForm::North},
 }};
 
-ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
-    const auto text = [](const std::string &field) { return QString::fromStdString(field); };
-    const auto twoDigits = [&](const std::string &field) { return text(field).rightJustified(2, u'0'); };
-    QStringList place{text(state.BirthCity), text(state.BirthCountry)};
-    place.removeAll(QString());
-    return {title, text(state.ChartName),
-            QStringLiteral("%1/%2/%3  %4:%5")
-                .arg(twoDigits(state.BirthDay), text(state.BirthMonth), text(state.BirthYear),
-                     twoDigits(state.BirthHour), twoDigits(state.BirthMinute)),
-            place.join(QStringLiteral(", "))};
-}
-
 ChartNames NamesOf(const HoroscopeState &state) {
     ChartNames names;
     names.lagna << QString::fromStdString(ShortNameOf(state, Body::Lagna))
@@ -50,10 +38,6 @@ ChartNames NamesOf(const HoroscopeState &state) {
 
 ChartView::ChartView(const ChartWindow &window, QWidget *parent) : HoroscopeView(parent), window_(window) {
     setAccessibleName(QString::fromLatin1(window.title));
-    setAutoFillBackground(true);
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, parchmentColour);
-    setPalette(colours);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     for (const FrameOfStyle &each : framesOfStyles) {

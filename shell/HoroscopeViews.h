@@ -15,13 +15,27 @@ struct HoroscopeViewRow {
     HoroscopeView *(*make)();
 };
 
+HoroscopeView *MakeUserDetailsView();
 HoroscopeView *MakeRasiView();
 HoroscopeView *MakeNavamsaView();
+HoroscopeView *MakeBhavaView();
+HoroscopeView *MakeBhavaFeaturesView();
+HoroscopeView *MakePlanetPositionsView();
+HoroscopeView *MakeVargasView();
+HoroscopeView *MakeAshtakavargaView();
+HoroscopeView *MakeDasaView();
 
 /// The views in the order of the tree.
-inline constexpr std::array<HoroscopeViewRow, 2> horoscopeViews{{
+inline constexpr std::array<HoroscopeViewRow, 9> horoscopeViews{{
+    {"Birth Details", "User", "Details", "frm_UserDetails", MakeUserDetailsView},
     {"Rasi", "Rasi", "Rasi", "frm_rasi", MakeRasiView},
     {"Navamsa", "Navamsa", "Navamsa", "frm_Navamsa", MakeNavamsaView},
+    {"Bhava", "Bava", "Bhava", "frm_BhavaChart", MakeBhavaView},
+    {"Bhava Features", "BP", "Bhava Features", "frm_CBhava", MakeBhavaFeaturesView},
+    {"Planet Positions", "PP", "Planet Positions", "Frm_PP", MakePlanetPositionsView},
+    {"Vargas", "Vargas", "Vargas", "Frm_Vargas", MakeVargasView},
+    {"Ashta Vargas", "AshtaVargas", "AVargas", "Frm_AVargas", MakeAshtakavargaView},
+    {"Dasa", "Dasa", "Dasa", "Frm_Dasa", MakeDasaView},
 }};
 
 } // namespace kelvaro

@@ -1,9 +1,13 @@
 #include "shell/MDILight.h"
 
 #include "horoscope/CalculateHoroscope.h"
+#include "horoscope/PreferencesEntry.h"
 #include "shell/ChartColours.h"
 #include "shell/MainHoroscope.h"
+#include "shell/MessageBoxes.h"
+#include "shell/PreferencesDialog.h"
 #include "shell/StatusPanel.h"
+#include "store/DatabaseFile.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -44,7 +48,7 @@ QString TextOf(std::string_view text) {
 
 } // namespace
 
-MDILight::MDILight() : horoscope_(*this), area_(new QMdiArea), tree_(new MainHoroscope) {
+MDILight::MDILight() : horoscope_(connection_, *this), area_(new QMdiArea), tree_(new MainHoroscope) {
     setObjectName(QStringLiteral("MDILight"));
     setWindowTitle(QStringLiteral("Kelvaro - Kelvaro Basic (Version 2.4)"));
     area_->setBackground(parchmentColour);
@@ -72,6 +76,20 @@ MDILight::MDILight() : horoscope_(*this), area_(new QMdiArea), tree_(new MainHor
     connect(tree_, &MainHoroscope::ViewChosen, this, &MDILight::ChooseView);
 }
 
+void MDILight::Start(const std::filesystem::path &programFolder, const std::filesystem::path &userFolder) {
+    try {
+        connection_.Open(store::FindDatabaseFile(programFolder, userFolder));
+        store::OnLoadClass preferences;
+        preferences.ClsPath = programFolder.string();
+        preferences.FnPreferences(connection_);
+        PutPreferencesInForce(preferences, horoscope_.state);
+        FNInitialize();
+    } catch (const std::exception &error) {
+        ShowError(this, error);
+    }
+}
+
+/// The first horoscope is that of the record as it stands.
 void MDILight::FNInitialize() {
     Calculate();
 }
@@ -84,6 +102,10 @@ void MDILight::Calculate() {
 }
 
 void MDILight::BuildMenu() {
+    QMenu *tools = menuBar()->addMenu(tr("&Tools"));
+    tools->menuAction()->setObjectName(QStringLiteral("mnuTools"));
+    QAction *preferences = tools->addAction(tr("&Preferences"), this, &MDILight::ShowPreferences);
+    preferences->setObjectName(QStringLiteral("mnuPreferences"));
     QMenu *help = menuBar()->addMenu(tr("Help"));
     help->menuAction()->setObjectName(QStringLiteral("mdiHelpmnu"));
     QAction *about = help->addAction(tr("&About Us"), this, &MDILight::ShowAbout);
@@ -99,7 +121,7 @@ void MDILight::BuildViews() {
         auto *window = new FramelessSubWindow(view);
         area_->addSubWindow(window, window->windowFlags());
         window->hide();
-        views_.at(index) = {view, window};
+        views_.at(index) = {view, window, true};
     }
 }
 
@@ -111,11 +133,27 @@ void MDILight::ChooseView(std::size_t view) {
     }
 }
 
+void MDILight::ShowPreferences() {
+    if (horoscope_.isCalculating) {
+        return;
+    }
+    try {
+        PreferencesDialog(horoscope_, this).exec();
+    } catch (const std::exception &error) {
+        ShowError(this, error);
+    }
+}
+
 void MDILight::ShowAbout() {
     QMessageBox::about(this, tr("About Us"),
                        tr("<h3>Kelvaro Basic</h3><p>Version 2.4</p>"
-                          "<p>Vedic astrology on the desktop: the whole horoscope of a birth, "
-                          "computed by the program itself.</p>"));
+                          "<p>Vedic astrology on the desktop: the whole horoscope of a birth, computed by "
+                          "the program itself.</p>"
+                          "<p>Place data: GeoNames (https://www.geonames.org), CC BY 4.0 "
+                          "(https://creativecommons.org/licenses/by/4.0/); names shortened and made unique, "
+                          "positions rounded to "
+                          "minutes.</p>"
+                          "<p>Zone offsets: the tz database, release 2025b, public domain.</p>"));
 }
 
 void MDILight::OpenStatus() {
@@ -132,16 +170,17 @@ void MDILight::CloseStatus() {
 }
 
 void MDILight::HideHoroscopeForms() {
-    for (const ViewWindow &each : views_) {
+    for (ViewWindow &each : views_) {
         each.window->hide();
+        each.isStale = true;
     }
 }
 
 void MDILight::ShowCurrentView(std::string_view currentView) {
     const std::size_t shown = ViewNamed(currentView);
     const bool isInTree = tree_->isAncestorOf(focusWidget());
+    RefreshView(shown);
     for (std::size_t index = 0; index < views_.size(); ++index) {
-        views_.at(index).view->Refresh(horoscope_);
         views_.at(index).window->setVisible(index == shown);
     }
     views_.at(shown).window->showMaximized();
@@ -150,6 +189,14 @@ void MDILight::ShowCurrentView(std::string_view currentView) {
     if (isInTree) {
         // The shown window drew the keys to itself, and the user is still on the way through the tree.
         tree_->setFocus();
+    }
+}
+
+/// Fills a view at the first look at it after a run.
+void MDILight::RefreshView(std::size_t view) {
+    if (views_.at(view).isStale) {
+        views_.at(view).isStale = false;
+        views_.at(view).view->Refresh(horoscope_);
     }
 }
 

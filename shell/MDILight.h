@@ -9,6 +9,7 @@
 #include <QMdiSubWindow>
 
 #include <array>
+#include <filesystem>
 #include <optional>
 
 namespace kelvaro {
@@ -23,8 +24,10 @@ class MDILight : public QMainWindow, private StatusDisplay {
 public:
     MDILight();
 
-    /// Shows the chart that the program starts with.
-    void FNInitialize();
+    /// Opens the database beside the program, or its copy in the user's folder, reads the preferences and
+    /// shows the chart that the program starts with. An error is shown in a message box and ends the start;
+    /// the window stays.
+    void Start(const std::filesystem::path &programFolder, const std::filesystem::path &userFolder);
 
     Horoscope &HoroscopeInForce() { return horoscope_; }
 
@@ -40,6 +43,7 @@ private:
     struct ViewWindow {
         HoroscopeView *view = nullptr;
         QMdiSubWindow *window = nullptr;
+        bool isStale = true; ///< not filled since the last run
     };
 
     void OpenStatus() override;
@@ -49,11 +53,15 @@ private:
     void ShowCurrentView(std::string_view currentView) override;
     void RunFailed(std::string_view step, std::string_view cause) override;
 
+    void FNInitialize();
     void BuildMenu();
     void BuildViews();
     void ChooseView(std::size_t view);
+    void RefreshView(std::size_t view);
+    void ShowPreferences();
     void ShowAbout();
 
+    store::Connection connection_;
     Horoscope horoscope_;
     QMdiArea *area_;
     MainHoroscope *tree_;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QTimer>
 
 int main(int argc, char **argv) {
@@ -12,6 +13,9 @@ int main(int argc, char **argv) {
     window.setGeometry(window.screen()->availableGeometry());
     window.showMaximized();
     // From within the event loop, where a window closed in the middle of the run ends the program.
-    QTimer::singleShot(0, &window, &kelvaro::MDILight::FNInitialize);
+    QTimer::singleShot(0, &window, [&window] {
+        window.Start(QApplication::applicationDirPath().toStdString(),
+                     QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
+    });
     return QApplication::exec();
 }

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "presentation/HoroscopeForms.h"
+#include "runtime/Moment.h"
+#include "shell/HoroscopeView.h"
+#include "shell/TextGridView.h"
+#include "shell/ViewHeading.h"
+
+#include <QComboBox>
+#include <QLabel>
+
+namespace kelvaro {
+
+/// The window of the Vimshottari dasa: dasas, the bhuktis of the chosen dasa and the antras of a chosen
+/// section.
+class DasaView : public HoroscopeView {
+    Q_OBJECT
+
+public:
+    explicit DasaView(QWidget *parent = nullptr);
+
+    void Refresh(const Horoscope &horoscope) override;
+
+    /// Chooses the periods that hold the present date, where there are any.
+    void ChooseToday();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void ShowBhuktisOf(int dasa);
+    void ShowAntrasOf(int bhukti);
+    void ShowAntraSection(int section);
+    void LayOut();
+    QString TodayText() const;
+
+    DasaForm form_;
+    Moment today_;
+    ViewHeading *heading_;
+    QLabel *balance_;
+    QLabel *todayLine_;
+    TextGridView *mshDasa_;
+    TextGridView *mshBukti_;
+    TextGridView *mshAntra_;
+    QComboBox *sections_;
+    std::size_t firstBhukti_ = 0; ///< row of the grid that stands first in the list
+};
+
+} // namespace kelvaro

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "shell/HoroscopeView.h"
+#include "shell/ViewHeading.h"
+
+#include <QLabel>
+
+#include <vector>
+
+namespace kelvaro {
+
+/// The window of the birth summary: person, clock, place and almanac at a glance.
+class UserDetailsView : public HoroscopeView {
+public:
+    explicit UserDetailsView(QWidget *parent = nullptr);
+
+    void Refresh(const Horoscope &horoscope) override;
+
+private:
+    ViewHeading *heading_;
+    std::vector<QLabel *> texts_; ///< in the order of the fields' table
+};
+
+} // namespace kelvaro
