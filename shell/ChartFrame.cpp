@@ -61,7 +61,8 @@ double CommonTextSize(const std::array<double, 12> &largest) {
 } // namespace
 
 ChartFrame::ChartFrame(ChartStyle style, const QString &labelArray, int firstIndex, QWidget *parent)
-    : QWidget(parent), style_(style), outlines_(CellOutlines(style)), font_(font()) {
+    : QWidget(parent), style_(style), flow_(style == ChartStyle::South ? CellFlow::Lines : CellFlow::Words),
+      outlines_(CellOutlines(style)), font_(font()) {
     for (std::size_t index = 0; index < cells_.size(); ++index) {
         cells_.at(index) = new CellLabel(this);
         cells_.at(index)->setObjectName(
@@ -142,11 +143,10 @@ std::vector<CellEdge> ChartFrame::TextEdges(std::size_t cell) const {
 }
 
 void ChartFrame::FitCells() {
-    const CellFlow flow = style_ == ChartStyle::South ? CellFlow::Lines : CellFlow::Words;
     std::vector<CellFitter> fitters;
     std::array<double, 12> largest{};
     for (std::size_t index = 0; index < cells_.size(); ++index) {
-        fitters.emplace_back(ReadCellText(cells_.at(index)->text(), flow, names_.lagna), TextEdges(index),
+        fitters.emplace_back(ReadCellText(cells_.at(index)->text(), flow_, names_.lagna), TextEdges(index),
                              font_);
         largest.at(index) = fitters.back().IsEmpty() ? usualTextSize : fitters.back().LargestSize(cellMargin);
     }

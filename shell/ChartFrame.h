@@ -29,6 +29,9 @@ public:
     void SetHeading(const ChartHeading &heading);
     void SetNames(const ChartNames &names) { names_ = names; }
 
+    /// How the texts of the cells divide; lines in the South drawing and words in the others at first.
+    void SetCellFlow(CellFlow flow) { flow_ = flow; }
+
     /// Shows the texts of the twelve cells and, in the North drawing, the sign numbers at the houses.
     void SetCells(const std::array<std::string, 12> &cells, const std::array<std::string, 12> &signNumbers);
 
@@ -53,6 +56,7 @@ private:
     QRectF HeadingArea() const;
 
     ChartStyle style_;
+    CellFlow flow_;
     std::array<QPolygonF, 12> outlines_;
     ChartFont font_;
     ChartHeading heading_;

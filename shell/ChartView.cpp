@@ -44,6 +44,9 @@ ChartView::ChartView(const ChartWindow &window, QWidget *parent) : HoroscopeView
         auto *frame =
             new ChartFrame(each.style, QString::fromLatin1(window.*each.labels), each.firstIndex, this);
         frame->setObjectName(QString::fromLatin1(each.objectName));
+        if (each.style == ChartStyle::South) {
+            frame->SetCellFlow(window.southFlow);
+        }
         frame->hide();
         layout->addWidget(frame);
         frames_.at(static_cast<std::size_t>(each.style)) = frame;

@@ -15,6 +15,7 @@ struct ChartWindow {
     const char *southLabels; ///< label arrays; those of the South count from 0, the others from 1
     const char *eastLabels;
     const char *northLabels;
+    CellFlow southFlow = CellFlow::Lines;
 };
 
 /// A chart window: three drawings of one chart, of which the one in the preferred style is seen.

@@ -18,7 +18,8 @@ constexpr int margin = 16;
 constexpr int listDistance = 18;
 constexpr std::size_t fromColumn = 1;
 constexpr std::size_t toColumn = 2;
-constexpr double largestFont = 1.25;
+constexpr double largestFont = 1.8; // times the system's size
+constexpr double smallestFont = 0.85;
 constexpr double fontStep = 0.05;
 
 /// Where a section of a grid begins and how many rows it has.
@@ -85,6 +86,7 @@ DasaView::DasaView(QWidget *parent)
     auto *line = new QHBoxLayout;
     line->addStretch();
     line->addWidget(todayLine_);
+    line->addSpacing(margin);
     line->addWidget(today);
     line->addStretch();
 
@@ -96,10 +98,10 @@ DasaView::DasaView(QWidget *parent)
     layout->addWidget(balance_, 1, 0, 1, 3);
     layout->addLayout(line, 2, 0, 1, 3);
     layout->addWidget(sections_, 3, 2, Qt::AlignHCenter);
-    layout->addWidget(mshDasa_, 4, 0, Qt::AlignHCenter);
-    layout->addWidget(mshBukti_, 4, 1, Qt::AlignHCenter);
-    layout->addWidget(mshAntra_, 4, 2, Qt::AlignHCenter);
-    layout->setRowStretch(4, 1);
+    layout->addWidget(mshDasa_, 4, 0, Qt::AlignHCenter | Qt::AlignTop);
+    layout->addWidget(mshBukti_, 4, 1, Qt::AlignHCenter | Qt::AlignTop);
+    layout->addWidget(mshAntra_, 4, 2, Qt::AlignHCenter | Qt::AlignTop);
+    layout->setRowStretch(5, 1);
     for (int column = 0; column < 3; ++column) {
         layout->setColumnStretch(column, 1);
     }
@@ -161,8 +163,12 @@ void DasaView::ChooseToday() {
     if (bhukti < mshBukti_->Rows().rowCount()) {
         mshBukti_->selectRow(bhukti);
     }
-    if (const int antra = mshAntra_->Rows().MarkedRow(); antra >= 0) {
-        mshAntra_->selectRow(antra);
+    // The antras are a reckoning of their own: today's may belong to another bhukti than today's bhukti.
+    if (const auto antra = RowAt(form_.mshAntra, today_)) {
+        const auto section =
+            std::ranges::upper_bound(form_.mshAntra.sections, *antra, {}, &TextGrid::Section::firstRow);
+        sections_->setCurrentIndex(static_cast<int>(section - form_.mshAntra.sections.begin()) - 1);
+        mshAntra_->selectRow(mshAntra_->Rows().MarkedRow());
     }
 }
 
@@ -221,12 +227,12 @@ void DasaView::LayOut() {
             return list->SizeAt(points).width() <= width;
         });
     };
-    while (points > base && !fits()) {
+    while (points > base * smallestFont && !fits()) {
         points -= base * fontStep;
     }
     for (TextGridView *list : {mshDasa_, mshBukti_, mshAntra_}) {
         list->LayOut(points, width);
-        list->setMaximumHeight(list->SizeAt(points).height());
+        list->setFixedHeight(list->SizeAt(points).height());
     }
 }
 

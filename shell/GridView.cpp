@@ -10,7 +10,7 @@ namespace {
 
 constexpr int margin = 16;
 constexpr int distance = 10;
-constexpr double largestFont = 1.5; // times the system's size
+constexpr double largestFont = 2; // times the system's size
 constexpr double fontStep = 0.05;
 
 QLabel *CaptionLabel(const QString &text) {

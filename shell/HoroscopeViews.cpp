@@ -29,7 +29,7 @@ HoroscopeView *MakeNavamsaView() {
 
 HoroscopeView *MakeBhavaView() {
     return new ChartView({"Bhava", &HoroscopeForms::frm_BhavaChart, "Lab_GirlNav", "Lab_ChartGHouse_Girl_Nav",
-                          "Lab_ChartHouseN_GirlNav"});
+                          "Lab_ChartHouseN_GirlNav", CellFlow::Words});
 }
 
 HoroscopeView *MakeBhavaFeaturesView() {

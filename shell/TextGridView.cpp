@@ -7,6 +7,7 @@
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <numeric>
@@ -16,9 +17,24 @@ namespace kelvaro {
 namespace {
 
 constexpr double rowHeightInLines = 1.55;
-constexpr double paddingInLetters = 2.2; // of a column, both sides together
+constexpr double paddingInLetters = 1; // of a column, beside that of the texts
 constexpr double widestStretch = 1.5;
 constexpr int frame = 2;
+
+/// Keeps texts off the lines of the grid; what is copied stays bare.
+class PaddingDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant &value, const QLocale & /*locale*/) const override {
+        return Padded(value.toString());
+    }
+
+    static QString Padded(const QString &text) { return blank + text + blank; }
+
+private:
+    static constexpr QChar blank = u'\u2002'; // as wide as half a letter's height
+};
 
 QString TextOf(const std::string &text) {
     return QString::fromStdString(text);
@@ -112,7 +128,7 @@ QVariant TextGridModel::headerData(int section, Qt::Orientation orientation, int
         return {};
     }
     if (role == Qt::DisplayRole) {
-        return titles_.at(section);
+        return PaddingDelegate::Padded(titles_.at(section));
     }
     return role == Qt::TextAlignmentRole ? QVariant(AlignmentOf(section).toInt()) : QVariant();
 }
@@ -122,6 +138,7 @@ TextGridView::TextGridView(const QString &name, const QString &alignments, QWidg
     setObjectName(name);
     model_->SetAlignments(alignments);
     setModel(model_);
+    setItemDelegate(new PaddingDelegate(this));
     setEditTriggers(NoEditTriggers);
     setAlternatingRowColors(true);
     setWordWrap(false);
@@ -158,7 +175,7 @@ std::vector<int> TextGridView::ColumnWidths(const QFontMetrics &metrics,
             model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
         for (int row = 0; row < model_->rowCount(); ++row) {
             const QString text = model_->data(model_->index(row, column), Qt::DisplayRole).toString();
-            width = std::max(width, boldMetrics.horizontalAdvance(text));
+            width = std::max(width, boldMetrics.horizontalAdvance(PaddingDelegate::Padded(text)));
         }
         widths.push_back(width + padding);
     }

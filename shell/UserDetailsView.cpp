@@ -3,10 +3,10 @@
 #include "horoscope/Horoscope.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 
 namespace kelvaro {
@@ -15,7 +15,9 @@ namespace {
 
 constexpr int margin = 16;
 constexpr int groupDistance = 14;
-constexpr int widestContent = 1500;
+constexpr double widestInLetters = 150;
+constexpr double linesOfContent = 36; // that the summary takes up, with its distances
+constexpr double largestFont = 2;     // times the system's size
 
 enum class Group { Person, Clock, Place, Almanac };
 
@@ -71,49 +73,59 @@ QLabel *TextLabel(const char *name) {
     return label;
 }
 
-QGroupBox *NewGroup(const char *title) {
-    auto *box = new QGroupBox(QString::fromLatin1(title));
-    box->setStyleSheet(
-        QStringLiteral("QGroupBox { border: 1px solid %1; border-radius: 4px; margin-top: 1.1em; "
-                       "background: %2; font-weight: 600; }"
-                       "QGroupBox::title { subcontrol-origin: margin; left: 10px; padding: 0 4px; "
-                       "color: %3; }")
-            .arg(parchmentColour.darker(135).name(), parchmentColour.lighter(104).name(), lineColour.name()));
-    auto *rows = new QGridLayout(box);
-    rows->setContentsMargins(margin, margin, margin, margin);
-    rows->setHorizontalSpacing(margin);
-    rows->setVerticalSpacing(margin / 2);
-    rows->setColumnStretch(1, 1);
-    return box;
-}
+/// A framed group of fields under its title.
+class FieldGroup : public QFrame {
+public:
+    explicit FieldGroup(const char *title) : rows_(new QGridLayout(this)) {
+        setFrameShape(QFrame::StyledPanel);
+        setAutoFillBackground(true);
+        QPalette colours = palette();
+        colours.setColor(QPalette::Window, parchmentColour.lighter(105));
+        setPalette(colours);
+        rows_->setContentsMargins(margin, margin / 2, margin, margin);
+        rows_->setHorizontalSpacing(margin);
+        rows_->setVerticalSpacing(margin / 2);
+        rows_->setColumnStretch(1, 1);
+        QLabel *caption = NewLabel(QString::fromLatin1(title), lineColour);
+        QFont bold = caption->font();
+        bold.setBold(true);
+        caption->setFont(bold);
+        rows_->addWidget(caption, 0, 0, 1, 2);
+    }
+
+    QLabel *AddField(const char *title, const char *name) {
+        QLabel *text = TextLabel(name);
+        text->setAccessibleName(QString::fromLatin1(title));
+        const int row = rows_->rowCount();
+        rows_->addWidget(NewLabel(QString::fromLatin1(title), figureColour), row, 0, Qt::AlignTop);
+        rows_->addWidget(text, row, 1, Qt::AlignTop);
+        return text;
+    }
+
+private:
+    static QLabel *NewLabel(const QString &text, const QColor &colour) {
+        auto *label = new QLabel(text);
+        QPalette colours = label->palette();
+        colours.setColor(QPalette::WindowText, colour);
+        label->setPalette(colours);
+        return label;
+    }
+
+    QGridLayout *rows_;
+};
 
 } // namespace
 
 UserDetailsView::UserDetailsView(QWidget *parent)
     : HoroscopeView(parent), heading_(new ViewHeading(tr("Birth Details"))) {
     setAccessibleName(tr("Birth Details"));
-    const std::array<QGroupBox *, 4> groups{NewGroup("Person"), NewGroup("Clock"), NewGroup("Place"),
-                                            NewGroup("Almanac")};
-    const auto add = [&](const Field &field) {
-        QGroupBox *group = groups.at(static_cast<std::size_t>(field.group));
-        auto *rows = qobject_cast<QGridLayout *>(group->layout());
-        auto *label = new QLabel(QString::fromLatin1(field.label));
-        QPalette colours = label->palette();
-        colours.setColor(QPalette::WindowText, figureColour);
-        label->setPalette(colours);
-        QLabel *text = TextLabel(field.name);
-        text->setAccessibleName(label->text());
-        const int row = rows->rowCount();
-        rows->addWidget(label, row, 0, Qt::AlignTop);
-        rows->addWidget(text, row, 1, Qt::AlignTop);
-        texts_.push_back(text);
-    };
+    const std::array<FieldGroup *, 4> groups{new FieldGroup("Person"), new FieldGroup("Clock"),
+                                             new FieldGroup("Place"), new FieldGroup("Almanac")};
     for (const Field &field : fields) {
-        add(field);
+        texts_.push_back(groups.at(static_cast<std::size_t>(field.group))->AddField(field.label, field.name));
     }
 
     auto *content = new QWidget;
-    content->setMaximumWidth(widestContent);
     auto *layout = new QGridLayout(content);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setSpacing(groupDistance);
@@ -126,6 +138,7 @@ UserDetailsView::UserDetailsView(QWidget *parent)
     layout->setColumnStretch(1, 1);
     layout->setRowStretch(4, 1);
 
+    content_ = content;
     auto *scroll = new QScrollArea;
     scroll->setWidget(content);
     scroll->setWidgetResizable(true);
@@ -134,6 +147,16 @@ UserDetailsView::UserDetailsView(QWidget *parent)
     auto *whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->addWidget(scroll);
+}
+
+/// A high window shows larger letters.
+void UserDetailsView::resizeEvent(QResizeEvent *event) {
+    HoroscopeView::resizeEvent(event);
+    const double lines = static_cast<double>(height()) / fontMetrics().height();
+    QFont larger = font();
+    larger.setPointSizeF(font().pointSizeF() * std::clamp(lines / linesOfContent, 1.0, largestFont));
+    content_->setFont(larger);
+    content_->setMaximumWidth(qRound(QFontMetrics(larger).averageCharWidth() * widestInLetters));
 }
 
 void UserDetailsView::Refresh(const Horoscope &horoscope) {

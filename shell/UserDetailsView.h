@@ -16,8 +16,12 @@ public:
 
     void Refresh(const Horoscope &horoscope) override;
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     ViewHeading *heading_;
+    QWidget *content_ = nullptr;
     std::vector<QLabel *> texts_; ///< in the order of the fields' table
 };
 
