@@ -8,14 +8,16 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <array>
+#include <numeric>
 #include <optional>
 
 namespace kelvaro {
 
 namespace {
 
-constexpr int margin = 16;
-constexpr int listDistance = 18;
+constexpr int margin = 12;
+constexpr int listDistance = 10;
 constexpr std::size_t fromColumn = 1;
 constexpr std::size_t toColumn = 2;
 constexpr double largestFont = 1.8; // times the system's size
@@ -102,9 +104,6 @@ DasaView::DasaView(QWidget *parent)
     layout->addWidget(mshBukti_, 4, 1, Qt::AlignHCenter | Qt::AlignTop);
     layout->addWidget(mshAntra_, 4, 2, Qt::AlignHCenter | Qt::AlignTop);
     layout->setRowStretch(5, 1);
-    for (int column = 0; column < 3; ++column) {
-        layout->setColumnStretch(column, 1);
-    }
 
     connect(mshDasa_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &row) { ShowBhuktisOf(row.row()); });
@@ -219,20 +218,23 @@ void DasaView::resizeEvent(QResizeEvent *event) {
 }
 
 void DasaView::LayOut() {
-    const int width = (this->width() - 2 * margin - 2 * listDistance) / 3;
-    const double base = font().pointSizeF();
-    double points = base * largestFont;
-    const auto fits = [&] {
-        return std::ranges::all_of(std::array{mshDasa_, mshBukti_, mshAntra_}, [&](const TextGridView *list) {
-            return list->SizeAt(points).width() <= width;
+    const std::array lists{mshDasa_, mshBukti_, mshAntra_};
+    const int room = width() - 2 * margin - 2 * listDistance;
+    const auto naturalWidth = [&](double points) {
+        return std::accumulate(lists.begin(), lists.end(), 0, [&](int sum, const TextGridView *list) {
+            return sum + list->SizeAt(points).width();
         });
     };
-    while (points > base * smallestFont && !fits()) {
+    const double base = font().pointSizeF();
+    double points = base * largestFont;
+    while (points > base * smallestFont && naturalWidth(points) > room) {
         points -= base * fontStep;
     }
-    for (TextGridView *list : {mshDasa_, mshBukti_, mshAntra_}) {
-        list->LayOut(points, width);
-        list->setFixedHeight(list->SizeAt(points).height());
+    const double share = static_cast<double>(room) / naturalWidth(points);
+    for (TextGridView *list : lists) {
+        const QSize natural = list->SizeAt(points);
+        list->LayOut(points, static_cast<int>(natural.width() * share));
+        list->setFixedHeight(natural.height());
     }
 }
 

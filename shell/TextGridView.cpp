@@ -17,7 +17,7 @@ namespace kelvaro {
 namespace {
 
 constexpr double rowHeightInLines = 1.55;
-constexpr double paddingInLetters = 1; // of a column, beside that of the texts
+constexpr double paddingInLetters = 0.6; // of a column, beside that of the texts
 constexpr double widestStretch = 1.5;
 constexpr int frame = 2;
 

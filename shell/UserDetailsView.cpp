@@ -15,9 +15,10 @@ namespace {
 
 constexpr int margin = 16;
 constexpr int groupDistance = 14;
-constexpr double widestInLetters = 150;
-constexpr double linesOfContent = 36; // that the summary takes up, with its distances
-constexpr double largestFont = 2;     // times the system's size
+constexpr double widestInLetters = 170;
+constexpr double linesOfContent = 38;    // that the summary takes up, with its distances
+constexpr double lettersOfContent = 150; // that keep its longest texts on one line
+constexpr double largestFont = 2;        // times the system's size
 
 enum class Group { Person, Clock, Place, Almanac };
 
@@ -153,8 +154,10 @@ UserDetailsView::UserDetailsView(QWidget *parent)
 void UserDetailsView::resizeEvent(QResizeEvent *event) {
     HoroscopeView::resizeEvent(event);
     const double lines = static_cast<double>(height()) / fontMetrics().height();
+    const double letters = static_cast<double>(width()) / fontMetrics().averageCharWidth();
+    const double scale = std::min(lines / linesOfContent, letters / lettersOfContent);
     QFont larger = font();
-    larger.setPointSizeF(font().pointSizeF() * std::clamp(lines / linesOfContent, 1.0, largestFont));
+    larger.setPointSizeF(font().pointSizeF() * std::clamp(scale, 1.0, largestFont));
     content_->setFont(larger);
     content_->setMaximumWidth(qRound(QFontMetrics(larger).averageCharWidth() * widestInLetters));
 }
