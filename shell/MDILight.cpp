@@ -84,6 +84,8 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
         preferences.FnPreferences(connection_);
         PutPreferencesInForce(preferences, horoscope_.state);
         FNInitialize();
+        // A database that cannot be written would otherwise be told only when something is to be saved.
+        const store::Transaction trial(connection_);
     } catch (const std::exception &error) {
         ShowError(this, error);
     }

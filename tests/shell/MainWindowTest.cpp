@@ -1,12 +1,21 @@
 #include "shell/MDILight.h"
+#include "store/DatabaseFile.h"
+#include "tests/shell/MessageBoxAnswer.h"
+#include "tests/store/OrdinaryUser.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 
+#include <array>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 
 using namespace kelvaro;
@@ -30,6 +39,11 @@ private:
 
 } // namespace
 
+/// Places of the views in the tree.
+constexpr int rasiNode = 1;
+constexpr int navamsaNode = 2;
+constexpr int dasaNode = 8;
+
 class MainWindowTest : public QObject {
     Q_OBJECT
 
@@ -37,7 +51,11 @@ private slots:
     void init();
     void cleanup();
 
-    void StartShowsTheSampleChart();
+    void StartShowsTheSampleBirth();
+    void EveryViewShowsItsContents();
+    void DasaViewFindsTodayAndFollowsTheChoice();
+    void FaultyDatabaseIsReportedAndTheWindowStays_data();
+    void FaultyDatabaseIsReportedAndTheWindowStays();
     void TreeOpensViewsByMouseAndKeys();
     void OneFrameIsVisibleInEachStyle_data();
     void OneFrameIsVisibleInEachStyle();
@@ -59,22 +77,38 @@ private:
         QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, {}, row.center());
     }
 
+    std::filesystem::path Folder() const { return folder_->path().toStdString(); }
+
+    QTableView *Grid(const char *name) const {
+        return window_->findChild<QTableView *>(QString::fromLatin1(name));
+    }
+
+    QString CellOf(const char *grid, int row, int column) const {
+        return Grid(grid)->model()->index(row, column).data().toString();
+    }
+
+    std::unique_ptr<QTemporaryDir> folder_;
     std::unique_ptr<MDILight> window_;
 };
 
 void MainWindowTest::init() {
+    folder_ = std::make_unique<QTemporaryDir>();
+    std::filesystem::copy_file(KELVARO_SEED_DATABASE, Folder() / store::databaseFileName);
+    std::filesystem::permissions(Folder() / store::databaseFileName, std::filesystem::perms(0644));
     window_ = std::make_unique<MDILight>();
     window_->resize(1000, 700);
     window_->show();
     QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
-    window_->FNInitialize();
+    window_->Start(Folder(), Folder() / "user");
+    QVERIFY(Form("frm_UserDetails")->isVisible());
+    ClickNode(rasiNode);
 }
 
 void MainWindowTest::cleanup() {
     window_.reset();
 }
 
-void MainWindowTest::StartShowsTheSampleChart() {
+void MainWindowTest::StartShowsTheSampleBirth() {
     QCOMPARE(window_->windowTitle(), QStringLiteral("Kelvaro - Kelvaro Basic (Version 2.4)"));
     QVERIFY(Form("frm_rasi")->isVisible());
     QVERIFY(!Form("frm_Navamsa")->isVisible());
@@ -90,8 +124,110 @@ void MainWindowTest::StartShowsTheSampleChart() {
     QVERIFY(Form("Lab_GM_GirlHouse_2")->accessibleName().startsWith(QStringLiteral("Gemini: Sun 28.")));
 }
 
+void MainWindowTest::EveryViewShowsItsContents() {
+    const std::array<const char *, 9> forms{"frm_UserDetails", "frm_rasi",    "frm_Navamsa",
+                                            "frm_BhavaChart",  "frm_CBhava",  "Frm_PP",
+                                            "Frm_Vargas",      "Frm_AVargas", "Frm_Dasa"};
+    QCOMPARE(Tree()->topLevelItemCount(), static_cast<int>(forms.size()));
+    for (int node = 0; node < Tree()->topLevelItemCount(); ++node) {
+        ClickNode(node);
+        for (std::size_t i = 0; i < forms.size(); ++i) {
+            QCOMPARE(Form(forms.at(i))->isVisible(), static_cast<int>(i) == node);
+        }
+    }
+    QCOMPARE(window_->findChild<QLabel *>("txtgmt")->text(), QStringLiteral("14/Jul/1965 08:45 AM"));
+    QCOMPARE(window_->findChild<QLabel *>("txtTithi")->text(), QStringLiteral("Pratipada"));
+    QCOMPARE(CellOf("mshNirayana", 9, 0), QStringLiteral("Ket"));
+    QCOMPARE(Grid("mshNirayana")->model()->headerData(8, Qt::Horizontal).toString().trimmed(),
+             QStringLiteral("Karaka*"));
+    QCOMPARE(CellOf("mshAshtaVarga", 12, 10), QStringLiteral("337"));
+    QCOMPARE(Grid("mshVargas")->model()->rowCount(), 21);
+    QCOMPARE(Grid("msh_Bhava")->model()->rowCount(), 12);
+    // Nothing is scrolled away or cut at this size.
+    for (const char *grid : {"mshNirayana", "mshVargas", "mshAshtaVarga", "msh_Bhava"}) {
+        for (int column = 0; column < Grid(grid)->model()->columnCount(); ++column) {
+            QVERIFY2(Grid(grid)->columnWidth(column) >=
+                         Grid(grid)->sizeHintForIndex(Grid(grid)->model()->index(0, column)).width(),
+                     grid);
+        }
+    }
+}
+
+void MainWindowTest::DasaViewFindsTodayAndFollowsTheChoice() {
+    ClickNode(dasaNode);
+    QCOMPARE(Grid("mshDasa")->model()->rowCount(), 9);
+    QCOMPARE(window_->findChild<QLabel *>("Lab_DasaBalanceV")->text(),
+             QStringLiteral("Dasa Balance at Birth :Dasa  Sun 2-0- 17"));
+    // Born in 1965 with two years of the Sun's dasa left, the native has Jupiter's or Saturn's dasa from 2002
+    // to 2037, and Mercury's after it.
+    const int today = Grid("mshDasa")->currentIndex().row();
+    QVERIFY(today >= 4);
+    QVERIFY(window_->findChild<QLabel *>("todaysPeriods")
+                ->text()
+                .contains(QStringLiteral("Dasa ") + CellOf("mshDasa", today, 0)));
+
+    // The Moon's dasa, from 1967 on, and in it the second bhukti, of Mars.
+    QTest::mouseClick(Grid("mshDasa")->viewport(), Qt::LeftButton, {},
+                      Grid("mshDasa")->visualRect(Grid("mshDasa")->model()->index(1, 0)).center());
+    QCOMPARE(Grid("mshBukti")->model()->rowCount(), 9);
+    QCOMPARE(CellOf("mshBukti", 0, 0), QStringLiteral("Moon Dasa"));
+    QTest::mouseClick(Grid("mshBukti")->viewport(), Qt::LeftButton, {},
+                      Grid("mshBukti")->visualRect(Grid("mshBukti")->model()->index(1, 0)).center());
+    QCOMPARE(window_->findChild<QComboBox *>("antraSections")->currentText(),
+             QStringLiteral("Moon Dasa, Mars Bhukthi"));
+    QCOMPARE(Grid("mshAntra")->model()->rowCount(), 9);
+    QCOMPARE(CellOf("mshAntra", 0, 0), QStringLiteral("Mars"));
+
+    QTest::mouseClick(window_->findChild<QPushButton *>("cmdToday"), Qt::LeftButton);
+    QCOMPARE(Grid("mshDasa")->currentIndex().row(), today);
+}
+
+void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays_data() {
+    QTest::addColumn<QString>("fault");
+    QTest::addColumn<QString>("cause");
+    QTest::newRow("missing") << "missing"
+                             << "missing";
+    QTest::newRow("damaged") << "damaged"
+                             << "DBMirvaneBasic.mdb";
+    QTest::newRow("locked") << "locked"
+                            << "locked";
+    QTest::newRow("empty") << "empty"
+                           << "Preference";
+}
+
+void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays() {
+    QFETCH(QString, fault);
+    QFETCH(QString, cause);
+    const std::filesystem::path file = Folder() / store::databaseFileName;
+    window_ = std::make_unique<MDILight>();
+    window_->show();
+    store::Connection other;
+    std::filesystem::permissions(Folder(), std::filesystem::perms::all);
+    std::filesystem::permissions(file, std::filesystem::perms(0666));
+    if (fault == QStringLiteral("missing")) {
+        std::filesystem::remove(file);
+    } else if (fault == QStringLiteral("damaged")) {
+        std::ofstream(file, std::ios::binary) << "no database";
+    } else if (fault == QStringLiteral("read-only")) {
+        std::filesystem::permissions(file, std::filesystem::perms(0444));
+    } else {
+        other.Open(file);
+        other.Execute(fault == QStringLiteral("locked") ? "begin exclusive" : "delete from Preference");
+    }
+    MessageBoxAnswer answer;
+    {
+        const store::OrdinaryUser user;
+        window_->Start(Folder(), Folder() / "user");
+    }
+    QCOMPARE(answer.Count(), 1);
+    QVERIFY2(answer.Text().contains(cause), qPrintable(answer.Text()));
+    QCOMPARE(answer.Icon(), QMessageBox::Critical);
+    QVERIFY(window_->isVisible());
+    QVERIFY(!Form("PicMask")->isVisible());
+}
+
 void MainWindowTest::TreeOpensViewsByMouseAndKeys() {
-    ClickNode(1);
+    ClickNode(navamsaNode);
     QVERIFY(Form("frm_Navamsa")->isVisible());
     QVERIFY(!Form("frm_rasi")->isVisible());
     QCOMPARE(window_->HoroscopeInForce().CurrentView, std::string("Navamsa"));
@@ -164,7 +300,7 @@ void MainWindowTest::NothingStartsASecondRunInsideARun() {
         QVERIFY(Form("PicMask")->isVisible());
         QTest::mouseClick(&button, Qt::LeftButton);
         QTest::keyClick(&button, Qt::Key_Space);
-        ClickNode(1);
+        ClickNode(navamsaNode);
         QVERIFY(!Form("frm_Navamsa")->isVisible());
     });
     const ShowCounter runs(Form("PicMask"));

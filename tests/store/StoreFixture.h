@@ -3,6 +3,7 @@
 #include "store/Connection.h"
 #include "store/DatabaseFile.h"
 #include "store/Recordset.h"
+#include "tests/store/OrdinaryUser.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -35,26 +36,6 @@ public:
 
 private:
     std::filesystem::path path_;
-};
-
-/// Takes the rights of the super-user away while it lives, as they pass over write protection.
-class OrdinaryUser {
-public:
-    OrdinaryUser() {
-        if (wasRoot_ && seteuid(65534) != 0) {
-            throw std::runtime_error("The rights of the super-user cannot be laid down");
-        }
-    }
-    OrdinaryUser(const OrdinaryUser &) = delete;
-    OrdinaryUser &operator=(const OrdinaryUser &) = delete;
-    ~OrdinaryUser() {
-        if (wasRoot_ && seteuid(0) != 0) {
-            std::abort();
-        }
-    }
-
-private:
-    bool wasRoot_ = geteuid() == 0;
 };
 
 inline std::string BytesOf(const std::filesystem::path &file) {
