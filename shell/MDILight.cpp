@@ -85,7 +85,7 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
         PutPreferencesInForce(preferences, horoscope_.state);
         FNInitialize();
         // A database that cannot be written would otherwise be told only when something is to be saved.
-        const store::Transaction trial(connection_);
+        connection_.RequireWritable();
     } catch (const std::exception &error) {
         ShowError(this, error);
     }

@@ -6,6 +6,7 @@
 #include "shell/ui_PreferencesDialog.h"
 
 #include <QKeyEvent>
+#include <QLineEdit>
 
 #include <span>
 
@@ -57,6 +58,8 @@ void PreferencesDialog::Show(const PreferenceFields &fields) {
     controls_->txtZero->setText(TextOf(fields.txtZero));
     controls_->txtPogression->setText(TextOf(fields.txtPogression));
     showCustom(controls_->cbAyanamsa->currentText());
+    // What is typed first replaces the text and does not go on from its end.
+    controls_->cbAyanamsa->lineEdit()->selectAll();
 }
 
 PreferenceFields PreferencesDialog::Fields() const {

@@ -111,6 +111,12 @@ SQLite::Database &Connection::Database() {
     return *database_;
 }
 
+void Connection::RequireWritable() {
+    // The beginning of a transaction succeeds on a write-protected file too; only a change tells.
+    const Transaction undone(*this);
+    Execute("update Preference set PreID = PreID");
+}
+
 Transaction::Transaction(Connection &connection) : connection_(connection) {
     SQLite::Database &database = connection_.Database();
     isInner_ = HasTransaction(database);

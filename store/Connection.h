@@ -44,6 +44,9 @@ public:
     /// Undoes a transaction that is still running. Closing a closed connection does nothing.
     void Close();
 
+    /// Raises StoreError where the file or its folder is write-protected. Changes nothing.
+    void RequireWritable();
+
     /// Runs an insert, a delete or an update. Raises StoreError, with nothing changed, when it fails.
     void Execute(std::string_view statement);
 

@@ -193,6 +193,8 @@ void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays_data() {
                             << "locked";
     QTest::newRow("empty") << "empty"
                            << "Preference";
+    QTest::newRow("read-only") << "read-only"
+                               << "write-protected";
 }
 
 void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays() {

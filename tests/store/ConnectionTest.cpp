@@ -143,6 +143,7 @@ TEST_F(StoreTest, AWriteProtectedDatabaseIsReadAndRefusesTheFirstWrite) {
             connection_.Open(file_);
             EXPECT_EQ(First(zoneCount), "375");
             EXPECT_EQ(ErrorOf([&] { connection_.Execute(addZone); }), refusal);
+            EXPECT_EQ(ErrorOf([&] { connection_.RequireWritable(); }), refusal);
             EXPECT_EQ(First(zoneCount), "375");
         }
         fs::permissions(c.path, before);
