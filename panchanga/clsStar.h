@@ -5,11 +5,12 @@
 
 namespace kelvaro {
 
-/// Classifies a sidereal longitude into its star (nakshatra), quarter (pada) and the Navamsa sign of that quarter.
+/// Classifies a sidereal longitude into its star (nakshatra), quarter (pada) and the Navamsa sign of that
+/// quarter.
 ///
-/// Set the input, call `findstar`, read the results. What a call does not assign keeps its earlier value. The stars
-/// number 1 to 28, since the end of Uttarashada counts as Abijit, 22; from Shravana on the number is one above
-/// the star's place among the 27.
+/// Set the input, call `findstar`, read the results. What a call does not assign keeps its earlier value. The
+/// stars number 1 to 28, since the end of Uttarashada counts as Abijit, 22; from Shravana on the number is
+/// one above the star's place among the 27.
 class clsStar {
 public:
     double PlanetPosition = 0; ///< degrees, 0 to 360

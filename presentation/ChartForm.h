@@ -10,9 +10,9 @@ enum class ChartStyle { South, East, North };
 
 /// The contents of one chart window: twelve cell texts a style, of which one style's frame is visible.
 ///
-/// South and East cells belong to signs (Aries at index 0). North cells belong to houses counted from the Lagna
-/// (house 1 at index 0); `Lab_NHouseNo` has the sign number that stands at each of them. Bodies of a cell
-/// are separated as the window shows them, by CR LF or by blanks.
+/// South and East cells belong to signs (Aries at index 0). North cells belong to houses counted from the
+/// Lagna (house 1 at index 0); `Lab_NHouseNo` has the sign number that stands at each of them. Bodies of a
+/// cell are separated as the window shows them, by CR LF or by blanks.
 struct ChartForm {
     std::array<std::string, 12> South;
     std::array<std::string, 12> East;

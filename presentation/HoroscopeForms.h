@@ -33,7 +33,8 @@ struct DasaForm {
     std::string Lab_DasaBalanceV;
 };
 
-/// What the views of the horoscope show: plain values that the driver fills, windows display and reports read.
+/// What the views of the horoscope show: plain values that the driver fills, windows display and reports
+/// read.
 struct HoroscopeForms {
     UserDetailsForm frm_UserDetails;
     ChartForm frm_rasi;

@@ -4,10 +4,12 @@
 
 namespace kelvaro {
 
-/// The birth summary: person, clock times, place, and the almanac of the moment, each text as its field shows it.
+/// The birth summary: person, clock times, place, and the almanac of the moment, each text as its field shows
+/// it.
 struct UserDetailsForm {
     std::string txtGName, txtSex, Txt_BC_Date, txtTimeOfBirth;
-    std::string txtist, txtlmt, txtgmt, txtIshtaGhati; ///< clock, local mean and Greenwich time; ghatis since sunrise
+    std::string txtist, txtlmt, txtgmt,
+        txtIshtaGhati; ///< clock, local mean and Greenwich time; ghatis since sunrise
     std::string txtAyanamsa;
     std::string txtCity, txtCountry, txtLatutude, txtLongitude;
     std::string txtSunRise, txtSunSet;
