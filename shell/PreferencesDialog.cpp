@@ -3,7 +3,7 @@
 #include "horoscope/Horoscope.h"
 #include "shell/MessageBoxes.h"
 #include "shell/TypeAhead.h"
-#include "shell/ui_PreferencesDialog.h"
+#include "ui_PreferencesDialog.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
