@@ -242,7 +242,7 @@ TEST(HoroscopeJson, KeepsEveryDigit) {
                       .at("HoroscopeState")
                       .at("BirthMomentDate")
                       .get<double>(),
-                  23937 + (14 * 60 + minute) / 1440.0);
+                  23939 + (14 * 60 + minute) / 1440.0);
     }
 }
 
