@@ -2,6 +2,8 @@
 
 #include "shell/ChartColours.h"
 
+#include <utility>
+
 namespace kelvaro {
 
 ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
@@ -16,7 +18,7 @@ ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
             place.join(QStringLiteral(", "))};
 }
 
-ViewHeading::ViewHeading(const QString &title, QWidget *parent) : QLabel(parent), title_(title) {
+ViewHeading::ViewHeading(QString title, QWidget *parent) : QLabel(parent), title_(std::move(title)) {
     setTextFormat(Qt::RichText);
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);

@@ -13,7 +13,7 @@ ChartHeading HeadingOf(const HoroscopeState &state, const QString &title);
 /// The same as a line of text above a table.
 class ViewHeading : public QLabel {
 public:
-    explicit ViewHeading(const QString &title, QWidget *parent = nullptr);
+    explicit ViewHeading(QString title, QWidget *parent = nullptr);
 
     void Show(const HoroscopeState &state);
 
