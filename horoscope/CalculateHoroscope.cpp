@@ -47,6 +47,7 @@ void FillPlanetTable(Horoscope &horoscope) {
 void RefreshPlanetTable(Horoscope &horoscope) {
     FillPlanetTable(horoscope);
     LoadNamesForLanguage(horoscope.state);
+    horoscope.status.HideOpenChart();
 }
 
 void FillDasaTables(Horoscope &horoscope) {

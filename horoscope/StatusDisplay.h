@@ -22,6 +22,9 @@ public:
 
     virtual void HideHoroscopeForms() = 0;
 
+    /// Hides the form of birth details, which a run that has got as far as the planet table no longer needs.
+    virtual void HideOpenChart() {}
+
     /// Shows the view of that name, or the birth details for an empty name.
     virtual void ShowCurrentView(std::string_view currentView) = 0;
 

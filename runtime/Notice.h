@@ -6,7 +6,7 @@ namespace kelvaro {
 
 /// Something to tell the user: the text of a message box, and the control that takes the focus after it.
 struct Notice {
-    enum class Icon { Information, Critical };
+    enum class Icon { Information, Critical, None };
 
     std::string text;
     Icon icon = Icon::Information;

@@ -5,7 +5,8 @@
 #include "runtime/Now.h"
 
 #include <QGridLayout>
-#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -18,11 +19,17 @@ namespace {
 
 constexpr int margin = 12;
 constexpr int listDistance = 10;
+constexpr int lineDistance = 6;
 constexpr std::size_t fromColumn = 1;
 constexpr std::size_t toColumn = 2;
 constexpr double largestFont = 1.8; // times the system's size
 constexpr double smallestFont = 0.85;
 constexpr double fontStep = 0.05;
+constexpr double linesOfContent = 45; // of the window that leave all but the lists as it is
+constexpr double lettersOfContent = 140;
+constexpr double buttonWidth = 1.7; // times that of its word
+constexpr int linesAbove = 4;       // the lists
+constexpr int rowsOfList = 10;      // nine periods and the titles
 
 /// Where a section of a grid begins and how many rows it has.
 struct Rows {
@@ -73,8 +80,8 @@ TextGridView *NewList(const char *name) {
 
 DasaView::DasaView(QWidget *parent)
     : HoroscopeView(parent), heading_(new ViewHeading(tr("Vimshottari Dasa"))), balance_(new QLabel),
-      todayLine_(new QLabel), mshDasa_(NewList("mshDasa")), mshBukti_(NewList("mshBukti")),
-      mshAntra_(NewList("mshAntra")), sections_(new QComboBox) {
+      todayLine_(new QLabel), todayButton_(new QPushButton(tr("&Today"))), mshDasa_(NewList("mshDasa")),
+      mshBukti_(NewList("mshBukti")), mshAntra_(NewList("mshAntra")), sections_(new QComboBox) {
     setAccessibleName(tr("Dasa"));
     balance_->setObjectName(QStringLiteral("Lab_DasaBalanceV"));
     balance_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -82,20 +89,20 @@ DasaView::DasaView(QWidget *parent)
     todayLine_->setObjectName(QStringLiteral("todaysPeriods"));
     sections_->setObjectName(QStringLiteral("antraSections"));
     sections_->setAccessibleName(tr("Section of the antras"));
-    auto *today = new QPushButton(tr("&Today"));
-    today->setObjectName(QStringLiteral("cmdToday"));
+    todayButton_->setObjectName(QStringLiteral("cmdToday"));
 
     auto *line = new QHBoxLayout;
     line->addStretch();
     line->addWidget(todayLine_);
     line->addSpacing(margin);
-    line->addWidget(today);
+    line->addWidget(todayButton_);
     line->addStretch();
 
-    auto *layout = new QGridLayout(this);
+    auto *content = new QWidget;
+    auto *layout = new QGridLayout(content);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->setHorizontalSpacing(listDistance);
-    layout->setVerticalSpacing(margin / 2);
+    layout->setVerticalSpacing(lineDistance);
     layout->addWidget(heading_, 0, 0, 1, 3);
     layout->addWidget(balance_, 1, 0, 1, 3);
     layout->addLayout(line, 2, 0, 1, 3);
@@ -104,13 +111,20 @@ DasaView::DasaView(QWidget *parent)
     layout->addWidget(mshBukti_, 4, 1, Qt::AlignHCenter | Qt::AlignTop);
     layout->addWidget(mshAntra_, 4, 2, Qt::AlignHCenter | Qt::AlignTop);
     layout->setRowStretch(5, 1);
+    auto *scroll = new QScrollArea;
+    scroll->setWidget(content);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    auto *whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(scroll);
 
     connect(mshDasa_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &row) { ShowBhuktisOf(row.row()); });
     connect(mshBukti_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &row) { ShowAntrasOf(row.row()); });
     connect(sections_, &QComboBox::currentIndexChanged, this, &DasaView::ShowAntraSection);
-    connect(today, &QPushButton::clicked, this, &DasaView::ChooseToday);
+    connect(todayButton_, &QPushButton::clicked, this, &DasaView::ChooseToday);
 }
 
 void DasaView::Refresh(const Horoscope &horoscope) {
@@ -135,6 +149,9 @@ void DasaView::Refresh(const Horoscope &horoscope) {
 }
 
 QString DasaView::TodayText() const {
+    if (form_.mshDasa.rows.empty()) {
+        return {};
+    }
     QStringList lords;
     for (const auto &[name, grid] :
          {std::pair{tr("Dasa"), &form_.mshDasa}, std::pair{tr("Bhukthi"), &form_.mshBukti},
@@ -217,24 +234,41 @@ void DasaView::resizeEvent(QResizeEvent *event) {
     LayOut();
 }
 
+int DasaView::HeightOfLists() const {
+    const int lines = heading_->sizeHint().height() + balance_->sizeHint().height() +
+                      todayButton_->sizeHint().height() + sections_->sizeHint().height();
+    return height() - lines - 2 * margin - linesAbove * lineDistance;
+}
+
 void DasaView::LayOut() {
+    const QFont roomy = RoomyFont(linesOfContent, lettersOfContent);
+    for (QWidget *widget :
+         std::initializer_list<QWidget *>{heading_, balance_, todayLine_, todayButton_, sections_}) {
+        widget->setFont(roomy);
+    }
+    const int word = QFontMetrics(roomy).horizontalAdvance(todayButton_->text());
+    todayButton_->setMinimumWidth(qRound(word * buttonWidth));
     const std::array lists{mshDasa_, mshBukti_, mshAntra_};
-    const int room = width() - 2 * margin - 2 * listDistance;
+    const QSize room(width() - 2 * margin - 2 * listDistance, HeightOfLists());
     const auto naturalWidth = [&](double points) {
         return std::accumulate(lists.begin(), lists.end(), 0, [&](int sum, const TextGridView *list) {
             return sum + list->SizeAt(points).width();
         });
     };
+    const auto fits = [&](double points) {
+        const int rowHeight = mshDasa_->RowHeightAt(points, rowsOfList, 0);
+        return naturalWidth(points) <= room.width() && rowsOfList * rowHeight <= room.height();
+    };
     const double base = font().pointSizeF();
     double points = base * largestFont;
-    while (points > base * smallestFont && naturalWidth(points) > room) {
+    while (points > base * smallestFont && !fits(points)) {
         points -= base * fontStep;
     }
-    const double share = static_cast<double>(room) / naturalWidth(points);
+    // Too narrow a window is scrolled.
+    const double share = std::max(1.0, static_cast<double>(room.width()) / naturalWidth(points));
     for (TextGridView *list : lists) {
-        const QSize natural = list->SizeAt(points);
-        list->LayOut(points, static_cast<int>(natural.width() * share));
-        list->setFixedHeight(natural.height());
+        list->LayOut(points, static_cast<int>(list->SizeAt(points).width() * share),
+                     list->RowHeightAt(points, rowsOfList, room.height()));
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 
 namespace kelvaro {
 
@@ -32,6 +33,7 @@ private:
     void ShowAntrasOf(int bhukti);
     void ShowAntraSection(int section);
     void LayOut();
+    int HeightOfLists() const;
     QString TodayText() const;
 
     DasaForm form_;
@@ -39,6 +41,7 @@ private:
     ViewHeading *heading_;
     QLabel *balance_;
     QLabel *todayLine_;
+    QPushButton *todayButton_;
     TextGridView *mshDasa_;
     TextGridView *mshBukti_;
     TextGridView *mshAntra_;

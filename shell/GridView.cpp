@@ -4,6 +4,8 @@
 
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace kelvaro {
 
 namespace {
@@ -12,6 +14,8 @@ constexpr int margin = 16;
 constexpr int distance = 10;
 constexpr double largestFont = 2; // times the system's size
 constexpr double fontStep = 0.05;
+constexpr double linesOfContent = 45; // of the window that leave the heading and the notes as they are
+constexpr double lettersOfContent = 140;
 
 QLabel *CaptionLabel(const QString &text) {
     auto *label = new QLabel(text);
@@ -82,7 +86,7 @@ bool GridView::Fits(double points, const QSize &room) const {
     return height <= room.height();
 }
 
-void GridView::LayOut() {
+QSize GridView::RoomForGrids() const {
     const QLayout *rows = scroll_->widget()->layout();
     QSize room = size() - QSize(2 * margin, 2 * margin);
     int others = 0;
@@ -94,14 +98,27 @@ void GridView::LayOut() {
         }
     }
     room.rheight() -= others + rows->count() * distance;
+    return room;
+}
+
+void GridView::LayOut() {
+    scroll_->widget()->setFont(RoomyFont(linesOfContent, lettersOfContent));
+    const QSize room = RoomForGrids();
     const double base = font().pointSizeF();
     double points = base * largestFont;
     while (points > base && !Fits(points, room)) {
         points -= base * fontStep;
     }
+    int widest = 0;
+    int rows = 0;
+    for (const TextGridView *grid : grids_) {
+        widest = std::max(widest, grid->SizeAt(points).width());
+        rows += grid->model()->rowCount() + 1;
+    }
+    const int width =
+        std::max(widest, std::min(room.width(), static_cast<int>(widest * TextGridView::widestStretch)));
     for (TextGridView *grid : grids_) {
-        grid->LayOut(points, room.width());
-        grid->setFixedHeight(grid->SizeAt(points).height());
+        grid->LayOut(points, width, grid->RowHeightAt(points, rows, room.height()));
     }
 }
 

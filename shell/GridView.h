@@ -39,6 +39,7 @@ protected:
 private:
     void LayOut();
     bool Fits(double points, const QSize &room) const;
+    QSize RoomForGrids() const;
 
     GridWindow window_;
     ViewHeading *heading_;

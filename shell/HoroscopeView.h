@@ -1,7 +1,5 @@
 #pragma once
 
-#include "shell/ChartColours.h"
-
 #include <QWidget>
 
 namespace kelvaro {
@@ -11,16 +9,14 @@ struct Horoscope;
 /// A window of the horoscope: it shows contents that the driver filled and computes nothing.
 class HoroscopeView : public QWidget {
 public:
-    explicit HoroscopeView(QWidget *parent = nullptr) : QWidget(parent) {
-        QPalette colours = palette();
-        colours.setColor(QPalette::Window, parchmentColour);
-        colours.setColor(QPalette::WindowText, nameColour);
-        setPalette(colours);
-        setAutoFillBackground(true);
-    }
+    explicit HoroscopeView(QWidget *parent = nullptr);
 
     /// Shows the contents anew, as they stand after a run.
     virtual void Refresh(const Horoscope &horoscope) = 0;
+
+protected:
+    /// The font of the window, up to twice as large where so many lines of so many letters leave room.
+    QFont RoomyFont(double lines, double letters) const;
 };
 
 } // namespace kelvaro

@@ -16,9 +16,8 @@ namespace kelvaro {
 
 namespace {
 
-constexpr double rowHeightInLines = 1.55;
-constexpr double paddingInLetters = 0.6; // of a column, beside that of the texts
-constexpr double widestStretch = 1.5;
+constexpr double closeRow = 1.55; // lines
+constexpr double airyRow = 2.5;
 constexpr int frame = 2;
 
 /// Keeps texts off the lines of the grid; what is copied stays bare.
@@ -33,7 +32,7 @@ public:
     static QString Padded(const QString &text) { return blank + text + blank; }
 
 private:
-    static constexpr QChar blank = u'\u2002'; // as wide as half a letter's height
+    static constexpr QChar blank = u'\u2004'; // as wide as a third of a letter's height
 };
 
 QString TextOf(const std::string &text) {
@@ -46,8 +45,8 @@ QFont Sized(QFont font, double points, bool isBold) {
     return font;
 }
 
-int RowHeight(const QFontMetrics &metrics) {
-    return qRound(metrics.height() * rowHeightInLines);
+int RowHeight(const QFontMetrics &metrics, double lines) {
+    return qRound(metrics.height() * lines);
 }
 
 } // namespace
@@ -166,9 +165,9 @@ void TextGridView::Show(const TextGrid &grid, std::size_t firstRow, std::size_t 
     model_->Show(grid, firstRow, rowCount);
 }
 
-std::vector<int> TextGridView::ColumnWidths(const QFontMetrics &metrics,
-                                            const QFontMetrics &boldMetrics) const {
-    const int padding = qRound(metrics.averageCharWidth() * paddingInLetters);
+std::vector<int> TextGridView::ColumnWidths(const QFontMetrics &boldMetrics) const {
+    // What the style keeps free in a cell, and the line of the grid.
+    const int padding = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
     std::vector<int> widths;
     for (int column = 0; column < model_->columnCount(); ++column) {
         int width = boldMetrics.horizontalAdvance(
@@ -184,32 +183,36 @@ std::vector<int> TextGridView::ColumnWidths(const QFontMetrics &metrics,
 
 QSize TextGridView::SizeAt(double points) const {
     const QFontMetrics metrics(Sized(font(), points, false));
-    const QFontMetrics boldMetrics(Sized(font(), points, true));
-    const std::vector<int> widths = ColumnWidths(metrics, boldMetrics);
+    const std::vector<int> widths = ColumnWidths(QFontMetrics(Sized(font(), points, true)));
     return {std::accumulate(widths.begin(), widths.end(), frame),
-            (model_->rowCount() + 1) * RowHeight(metrics) + frame};
+            (model_->rowCount() + 1) * RowHeight(metrics, closeRow) + frame};
 }
 
-void TextGridView::LayOut(double points, int width) {
+int TextGridView::RowHeightAt(double points, int rows, int room) const {
+    const QFontMetrics metrics(Sized(font(), points, false));
+    return std::clamp((room - frame) / std::max(rows, 1), RowHeight(metrics, closeRow),
+                      RowHeight(metrics, airyRow));
+}
+
+void TextGridView::LayOut(double points, int width, int rowHeight) {
     setFont(Sized(font(), points, false));
     horizontalHeader()->setFont(Sized(font(), points, true));
-    const QFontMetrics metrics(font());
-    const int rowHeight = RowHeight(metrics);
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(rowHeight);
     horizontalHeader()->setFixedHeight(rowHeight);
 
-    const std::vector<int> widths = ColumnWidths(metrics, QFontMetrics(horizontalHeader()->font()));
+    const std::vector<int> widths = ColumnWidths(QFontMetrics(horizontalHeader()->font()));
     const int natural = std::accumulate(widths.begin(), widths.end(), 0);
     const double stretch =
         std::clamp(static_cast<double>(width - frame) / std::max(natural, 1), 1.0, widestStretch);
-    int total = frame;
+    int left = width - frame;
     for (std::size_t column = 0; column < widths.size(); ++column) {
         const int stretched = static_cast<int>(widths.at(column) * stretch);
-        setColumnWidth(static_cast<int>(column), stretched);
-        total += stretched;
+        const bool isLast = column + 1 == widths.size();
+        setColumnWidth(static_cast<int>(column), isLast ? std::max(stretched, left) : stretched);
+        left -= stretched;
     }
-    setFixedWidth(std::min(total, width));
+    setFixedSize(width, (model_->rowCount() + 1) * rowHeight + frame);
 }
 
 void TextGridView::keyPressEvent(QKeyEvent *event) {

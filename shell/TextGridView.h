@@ -44,6 +44,8 @@ private:
 /// copied.
 class TextGridView : public QTableView {
 public:
+    static constexpr double widestStretch = 1.75; ///< of columns, times what their contents need
+
     TextGridView(const QString &name, const QString &alignments, QWidget *parent = nullptr);
 
     void Show(const TextGrid &grid);
@@ -51,17 +53,21 @@ public:
 
     TextGridModel &Rows() { return *model_; }
 
-    /// The size at which every cell of the table is seen, in a font of that size in points.
+    /// The least size at which every cell of the table is seen, in a font of that size in points.
     QSize SizeAt(double points) const;
 
-    /// Lays the table out in that font. Columns share what the width leaves over, up to half as much again.
-    void LayOut(double points, int width);
+    /// The height of rows in that font when so many of them, with titles, share a room: from close to airy.
+    int RowHeightAt(double points, int rows, int room) const;
+
+    /// Lays the table out in that font and gives it its size. Columns share what the width leaves over, up
+    /// to `widestStretch`; what is left after that belongs to the last one.
+    void LayOut(double points, int width, int rowHeight);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    std::vector<int> ColumnWidths(const QFontMetrics &metrics, const QFontMetrics &boldMetrics) const;
+    std::vector<int> ColumnWidths(const QFontMetrics &boldMetrics) const;
 
     TextGridModel *model_;
 };

@@ -9,7 +9,8 @@ void TypeAhead::Serve(QComboBox *box) {
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
-    box->lineEdit()->installEventFilter(new TypeAhead(box));
+    // The keys come to the box, which hands them on to its line without passing the line's filters.
+    box->installEventFilter(new TypeAhead(box));
 }
 
 TypeAhead::TypeAhead(QComboBox *box) : QObject(box), box_(box) {}

@@ -1,8 +1,8 @@
 #include "shell/UserDetailsView.h"
 
 #include "horoscope/Horoscope.h"
+#include "shell/ChartColours.h"
 
-#include <QGridLayout>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -15,10 +15,12 @@ namespace {
 
 constexpr int margin = 16;
 constexpr int groupDistance = 14;
+constexpr int fieldDistance = 6;
 constexpr double widestInLetters = 170;
 constexpr double linesOfContent = 38;    // that the summary takes up, with its distances
 constexpr double lettersOfContent = 150; // that keep its longest texts on one line
-constexpr double largestFont = 2;        // times the system's size
+constexpr double lettersOfTwoColumns = 120;
+constexpr double linesAtMost = 50; // that it may be spread over
 
 enum class Group { Person, Clock, Place, Almanac };
 
@@ -34,11 +36,6 @@ constexpr std::array<Field, 30> fields{{
     {Group::Person, "Gender", "txtSex", &UserDetailsForm::txtSex},
     {Group::Person, "Date of Birth", "Txt_BC_Date", &UserDetailsForm::Txt_BC_Date},
     {Group::Person, "Time of Birth", "txtTimeOfBirth", &UserDetailsForm::txtTimeOfBirth},
-    {Group::Place, "City", "txtCity", &UserDetailsForm::txtCity},
-    {Group::Place, "Country", "txtCountry", &UserDetailsForm::txtCountry},
-    {Group::Place, "Latitude", "txtLatutude", &UserDetailsForm::txtLatutude},
-    {Group::Place, "Longitude", "txtLongitude", &UserDetailsForm::txtLongitude},
-    {Group::Place, "Time Zone", "txtTimeZone", &UserDetailsForm::txtTimeZone},
     {Group::Clock, "Standard Time", "txtist", &UserDetailsForm::txtist},
     {Group::Clock, "Local Mean Time", "txtlmt", &UserDetailsForm::txtlmt},
     {Group::Clock, "Greenwich Mean Time", "txtgmt", &UserDetailsForm::txtgmt},
@@ -46,6 +43,11 @@ constexpr std::array<Field, 30> fields{{
     {Group::Clock, "Sunset", "txtSunSet", &UserDetailsForm::txtSunSet},
     {Group::Clock, "Ishta Ghati", "txtIshtaGhati", &UserDetailsForm::txtIshtaGhati},
     {Group::Clock, "Ayanamsa", "txtAyanamsa", &UserDetailsForm::txtAyanamsa},
+    {Group::Place, "City", "txtCity", &UserDetailsForm::txtCity},
+    {Group::Place, "Country", "txtCountry", &UserDetailsForm::txtCountry},
+    {Group::Place, "Latitude", "txtLatutude", &UserDetailsForm::txtLatutude},
+    {Group::Place, "Longitude", "txtLongitude", &UserDetailsForm::txtLongitude},
+    {Group::Place, "Time Zone", "txtTimeZone", &UserDetailsForm::txtTimeZone},
     {Group::Almanac, "Lagna", "txtLagna", &UserDetailsForm::txtLagna},
     {Group::Almanac, "Rasi", "txtRasi", &UserDetailsForm::txtRasi},
     {Group::Almanac, "Star", "txtStar", &UserDetailsForm::txtStar},
@@ -74,6 +76,8 @@ QLabel *TextLabel(const char *name) {
     return label;
 }
 
+} // namespace
+
 /// A framed group of fields under its title.
 class FieldGroup : public QFrame {
 public:
@@ -83,15 +87,31 @@ public:
         QPalette colours = palette();
         colours.setColor(QPalette::Window, parchmentColour.lighter(105));
         setPalette(colours);
-        rows_->setContentsMargins(margin, margin / 2, margin, margin);
-        rows_->setHorizontalSpacing(margin);
-        rows_->setVerticalSpacing(margin / 2);
+        rows_->setVerticalSpacing(fieldDistance);
         rows_->setColumnStretch(1, 1);
         QLabel *caption = NewLabel(QString::fromLatin1(title), lineColour);
         QFont bold = caption->font();
         bold.setBold(true);
         caption->setFont(bold);
         rows_->addWidget(caption, 0, 0, 1, 2);
+    }
+
+    int FieldCount() const { return rows_->rowCount() - 1; }
+
+    int LabelWidth() const {
+        int width = 0;
+        for (int row = 1; row < rows_->rowCount(); ++row) {
+            width = std::max(width, rows_->itemAtPosition(row, 0)->widget()->sizeHint().width());
+        }
+        return width;
+    }
+
+    /// Makes the texts of all groups stand in line.
+    void LayOut(int labelWidth) {
+        const int space = fontMetrics().height();
+        rows_->setColumnMinimumWidth(0, labelWidth);
+        rows_->setContentsMargins(space, space / 2, space, space / 4);
+        rows_->setHorizontalSpacing(space);
     }
 
     QLabel *AddField(const char *title, const char *name) {
@@ -115,29 +135,28 @@ private:
     QGridLayout *rows_;
 };
 
-} // namespace
-
 UserDetailsView::UserDetailsView(QWidget *parent)
-    : HoroscopeView(parent), heading_(new ViewHeading(tr("Birth Details"))) {
+    : HoroscopeView(parent),
+      heading_(new ViewHeading(tr("Birth Details"))), groups_{new FieldGroup("Person"),
+                                                              new FieldGroup("Clock"),
+                                                              new FieldGroup("Place"),
+                                                              new FieldGroup("Almanac")} {
     setAccessibleName(tr("Birth Details"));
-    const std::array<FieldGroup *, 4> groups{new FieldGroup("Person"), new FieldGroup("Clock"),
-                                             new FieldGroup("Place"), new FieldGroup("Almanac")};
     for (const Field &field : fields) {
-        texts_.push_back(groups.at(static_cast<std::size_t>(field.group))->AddField(field.label, field.name));
+        texts_.push_back(
+            groups_.at(static_cast<std::size_t>(field.group))->AddField(field.label, field.name));
     }
 
     auto *content = new QWidget;
-    auto *layout = new QGridLayout(content);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setSpacing(groupDistance);
-    layout->addWidget(heading_, 0, 0, 1, 2);
-    layout->addWidget(groups.at(0), 1, 0);
-    layout->addWidget(groups.at(2), 2, 0);
-    layout->addWidget(groups.at(1), 3, 0);
-    layout->addWidget(groups.at(3), 1, 1, 3, 1);
-    layout->setColumnStretch(0, 1);
-    layout->setColumnStretch(1, 1);
-    layout->setRowStretch(4, 1);
+    rows_ = new QGridLayout(content);
+    rows_->setContentsMargins(margin, margin, margin, margin);
+    rows_->setSpacing(groupDistance);
+    rows_->addWidget(heading_, 0, 0, 1, 2);
+    for (int group = 0; group < 3; ++group) {
+        rows_->addWidget(groups_.at(static_cast<std::size_t>(group)), 1 + group, 0);
+        rows_->setRowStretch(1 + group, groups_.at(static_cast<std::size_t>(group))->FieldCount() + 1);
+    }
+    PlaceAlmanac();
 
     content_ = content;
     auto *scroll = new QScrollArea;
@@ -150,16 +169,31 @@ UserDetailsView::UserDetailsView(QWidget *parent)
     whole->addWidget(scroll);
 }
 
-/// A high window shows larger letters.
+/// The almanac stands beside the other groups, in a narrow window below them.
+void UserDetailsView::PlaceAlmanac() {
+    const bool isNarrow = width() < fontMetrics().averageCharWidth() * lettersOfTwoColumns;
+    rows_->removeWidget(groups_.back());
+    rows_->addWidget(groups_.back(), isNarrow ? 4 : 1, isNarrow ? 0 : 1, isNarrow ? 1 : 3, 1);
+    rows_->setColumnStretch(0, 1);
+    rows_->setColumnStretch(1, isNarrow ? 0 : 1);
+}
+
+/// A large window shows larger letters.
 void UserDetailsView::resizeEvent(QResizeEvent *event) {
     HoroscopeView::resizeEvent(event);
-    const double lines = static_cast<double>(height()) / fontMetrics().height();
-    const double letters = static_cast<double>(width()) / fontMetrics().averageCharWidth();
-    const double scale = std::min(lines / linesOfContent, letters / lettersOfContent);
-    QFont larger = font();
-    larger.setPointSizeF(font().pointSizeF() * std::clamp(scale, 1.0, largestFont));
-    content_->setFont(larger);
-    content_->setMaximumWidth(qRound(QFontMetrics(larger).averageCharWidth() * widestInLetters));
+    const QFont roomy = RoomyFont(linesOfContent, lettersOfContent);
+    const QFontMetrics metrics(roomy);
+    content_->setFont(roomy);
+    content_->setMaximumSize(qRound(metrics.averageCharWidth() * widestInLetters),
+                             qRound(metrics.height() * linesAtMost));
+    PlaceAlmanac();
+    int labelWidth = 0;
+    for (const FieldGroup *group : groups_) {
+        labelWidth = std::max(labelWidth, group->LabelWidth());
+    }
+    for (FieldGroup *group : groups_) {
+        group->LayOut(labelWidth);
+    }
 }
 
 void UserDetailsView::Refresh(const Horoscope &horoscope) {

@@ -3,11 +3,15 @@
 #include "shell/HoroscopeView.h"
 #include "shell/ViewHeading.h"
 
+#include <QGridLayout>
 #include <QLabel>
 
+#include <array>
 #include <vector>
 
 namespace kelvaro {
+
+class FieldGroup;
 
 /// The window of the birth summary: person, clock, place and almanac at a glance.
 class UserDetailsView : public HoroscopeView {
@@ -20,9 +24,13 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void PlaceAlmanac();
+
     ViewHeading *heading_;
     QWidget *content_ = nullptr;
-    std::vector<QLabel *> texts_; ///< in the order of the fields' table
+    QGridLayout *rows_ = nullptr;
+    std::array<FieldGroup *, 4> groups_; ///< person, clock, place, almanac
+    std::vector<QLabel *> texts_;        ///< in the order of the fields' table
 };
 
 } // namespace kelvaro

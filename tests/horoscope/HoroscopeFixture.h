@@ -25,6 +25,7 @@ public:
     }
     void CloseStatus() override { events.emplace_back("close"); }
     void HideHoroscopeForms() override { events.emplace_back("hide"); }
+    void HideOpenChart() override { events.emplace_back("hide birth"); }
     void ShowCurrentView(std::string_view view) override { events.emplace_back("show " + std::string(view)); }
     void RunFailed(std::string_view step, std::string_view cause) override {
         failedStep = step;

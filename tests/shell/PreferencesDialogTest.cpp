@@ -50,10 +50,9 @@ private:
     }
 
     static void Type(PreferencesDialog &dialog, const char *combo, const QString &keys) {
-        QLineEdit *line = Combo(dialog, combo)->lineEdit();
-        line->setFocus();
-        line->selectAll();
-        QTest::keyClicks(line, keys);
+        Combo(dialog, combo)->setFocus();
+        Combo(dialog, combo)->lineEdit()->selectAll();
+        QTest::keyClicks(dialog.focusWidget(), keys);
     }
 
     static void Press(PreferencesDialog &dialog, const char *button) {

@@ -19,8 +19,8 @@ namespace kelvaro::store {
 /// A folder of one test, gone with it.
 class TemporaryFolder {
 public:
-    TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "kelvaro-store-XXXXXX").string();
+    explicit TemporaryFolder(const std::filesystem::path &parent = std::filesystem::temp_directory_path()) {
+        std::string name = (parent / "kelvaro-store-XXXXXX").string();
         if (mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error("There is no place for a temporary folder");
         }

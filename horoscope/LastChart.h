@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kelvaro {
+
+struct BirthFields;
+struct HoroscopeState;
+
+/// The user's settings of the program, section "Horo".
+class SettingsStore {
+public:
+    SettingsStore() = default;
+    SettingsStore(const SettingsStore &) = delete;
+    SettingsStore &operator=(const SettingsStore &) = delete;
+    virtual ~SettingsStore() = default;
+
+    /// Nothing where the key has never been written.
+    virtual std::optional<std::string> Read(std::string_view key) = 0;
+    virtual void Write(std::string_view key, const std::string &value) = 0;
+};
+
+/// Puts the last saved chart in force, without computing; a key that is missing counts as that of the sample
+/// chart. Where a key cannot be read as a date, a time, a number or a letter, the sample chart as a whole
+/// comes in force, and the words for the status bar are returned; they are empty otherwise.
+std::string RestoreLastChart(SettingsStore &settings, HoroscopeState &state);
+
+/// Writes all eighteen keys. Raises ConversionError, with nothing written, for an hour that is no number.
+void KeepLastChart(const BirthFields &fields, SettingsStore &settings);
+
+} // namespace kelvaro

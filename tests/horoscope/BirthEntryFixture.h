@@ -1,0 +1,37 @@
+#pragma once
+
+#include "horoscope/BirthEntry.h"
+#include "tests/horoscope/HoroscopeFixture.h"
+#include "tests/horoscope/MemorySettings.h"
+#include "tests/store/StoreFixture.h"
+
+namespace kelvaro {
+
+constexpr std::int32_t indianZone = 181;
+
+/// Fields and a horoscope on a database file of their own.
+class BirthEntryTest : public store::StoreTest {
+protected:
+    /// A birth at Hyderabad, entered by the choices of the lists.
+    BirthFields Entered(const std::string &hour = "02", bool isPm = true) {
+        BirthFields fields = FieldsAtLoad(MomentOf({1965, 7, 4}, {0, 15, 0}));
+        fields.Txt_VC_ChartName = "Velnesh";
+        fields.cbHour = hour;
+        fields.Opt_PM = isPm;
+        ChooseCountry(fields, {"India", 101}, lists_, horoscope_.state);
+        fields.txt_VC_City = "Hyderabad (A.P)";
+        ChooseCity(fields, lists_);
+        return fields;
+    }
+
+    Notice Save(BirthFields &fields) { return SaveBirth(fields, connection_, settings_); }
+    OpenedBirth Open(const store::ListItem &row) { return OpenBirth(row, connection_, horoscope_.state); }
+    std::string HourStored() { return First("select ChartHour from ChartSave"); }
+
+    store::PlaceLists lists_{connection_};
+    RecordingDisplay display_;
+    Horoscope horoscope_{connection_, display_};
+    MemorySettings settings_;
+};
+
+} // namespace kelvaro

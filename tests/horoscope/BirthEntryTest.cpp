@@ -1,0 +1,301 @@
+#include "horoscope/BirthEntry.h"
+
+#include "runtime/MomentText.h"
+#include "store/ChartStore.h"
+#include "tests/horoscope/BirthEntryFixture.h"
+
+namespace kelvaro {
+namespace {
+
+TEST_F(BirthEntryTest, FieldsAtLoadShowThePresentMoment) {
+    const struct {
+        CivilClock clock;
+        const char *hour;
+        bool isPm;
+    } cases[] = {{{0, 5, 59}, "12", false},
+                 {{9, 5, 0}, "09", false},
+                 {{12, 5, 0}, "12", true},
+                 {{23, 5, 0}, "11", true}};
+    for (const auto &c : cases) {
+        const BirthFields fields = FieldsAtLoad(MomentOf({2026, 3, 1}, c.clock));
+        EXPECT_EQ(fields.txt_Date + fields.txt_Month + fields.txt_Year, "01Mar2026");
+        EXPECT_EQ(fields.cbHour + ":" + fields.cbMins, std::string(c.hour) + ":05");
+        EXPECT_EQ(fields.Opt_PM, c.isPm);
+        EXPECT_EQ(fields.cbGender, "Male");
+        EXPECT_EQ(fields.Txt_VC_ChartName + fields.txt_VC_Country + fields.cbTimeZone, "");
+    }
+}
+
+TEST_F(BirthEntryTest, TestsInTheirOrder) {
+    using Text = std::string BirthFields::*;
+    struct Row {
+        const char *message, *focus;
+        Text field;
+        std::vector<std::string> failing;
+    };
+    const std::vector<Row> rows{
+        {"Enter Name", "Txt_VC_ChartName", &BirthFields::Txt_VC_ChartName, {"", "  "}},
+        {"Enter Date of Birth", "txt_Date", &BirthFields::txt_Date, {""}},
+        {"Enter Month", "txt_Month", &BirthFields::txt_Month, {""}},
+        {"Enter Year", "txt_Year", &BirthFields::txt_Year, {""}},
+        {"Enter Year Between 1800 and 3000", "txt_Year", &BirthFields::txt_Year, {"1799", "3001", "-1965"}},
+        {"Enter Correct Date", "", &BirthFields::txt_Date, {"31", "0", "x"}},
+        {"Enter Correct Time", "cbHour", &BirthFields::cbHour, {""}},
+        {"Enter Correct Time", "cbMins", &BirthFields::cbMins, {""}},
+        {"Enter Correct Time", "cbHour", &BirthFields::cbHour, {"25", "-1"}},
+        {"Enter Correct Time", "cbMins", &BirthFields::cbMins, {"60", "-1"}},
+        {"Select Country", "txt_VC_Country", &BirthFields::txt_VC_Country, {""}},
+        {"Select City", "txt_VC_City", &BirthFields::txt_VC_City, {""}},
+        {"Select Timezone", "cbTimeZone", &BirthFields::cbTimeZone, {""}},
+        {"Select Country", "txt_VC_Country", &BirthFields::txt_VC_Country, {"Indi"}},
+        {"Select City", "txt_VC_City", &BirthFields::txt_VC_City, {"Delhi"}},
+        {"Select Timezone", "cbTimeZone", &BirthFields::cbTimeZone, {"IST"}},
+    };
+    BirthFields good = Entered();
+    good.txt_Month = "Jun"; // thirty days
+    BirthFields wrong = good;
+    // From the last test to the first, every field that has failed stays wrong: each test hides those after
+    // it.
+    for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
+        const BirthFields later = wrong;
+        for (const std::string &text : row->failing) {
+            wrong = later;
+            wrong.*row->field = text;
+            const auto notice = AcceptBirth(wrong, horoscope_);
+            ASSERT_TRUE(notice) << row->message;
+            EXPECT_EQ(notice->text, row->message) << text;
+            EXPECT_EQ(notice->focus, row->focus) << text;
+            EXPECT_EQ(Save(wrong).text, row->message);
+        }
+    }
+    EXPECT_TRUE(display_.events.empty());
+    EXPECT_EQ(horoscope_.state.BirthDay, "14");
+    EXPECT_TRUE(settings_.values.empty());
+
+    for (const char *year : {"1800", "3000"}) {
+        good.txt_Year = year;
+        EXPECT_FALSE(TestBirth(good)) << year;
+    }
+}
+
+TEST_F(BirthEntryTest, HourBecomesOneOfTwentyFour) {
+    const struct {
+        const char *hour;
+        bool isPm;
+        const char *text, *clock; ///< no clock where the time does not exist
+    } cases[] = {
+        {"12", false, "0", "00:15:00"},  {"12", true, "12", "12:15:00"}, {"2", true, "14", "14:15:00"},
+        {"02", false, "02", "02:15:00"}, {"11", true, "23", "23:15:00"}, {"13", false, "13", "13:15:00"},
+        {"13", true, "25", ""},          {"24", false, "24", ""},        {"012", false, "012", "12:15:00"},
+        {"012", true, "24", ""},         {"0", true, "12", "12:15:00"},
+    };
+    for (const auto &c : cases) {
+        BirthFields fields = Entered(c.hour, c.isPm);
+        EXPECT_EQ(HourText(fields), c.text);
+        HoroscopeState state;
+        if (*c.clock == '\0') {
+            EXPECT_THROW(HandOver(fields, state), ConversionError) << c.hour;
+            EXPECT_THROW(Save(fields), ConversionError) << c.hour;
+            EXPECT_EQ(state.BirthDay, "14") << "nothing may be handed over by halves";
+        } else {
+            HandOver(fields, state);
+            EXPECT_EQ(state.BirthHour, c.text);
+            EXPECT_EQ(TimingText(state.BirthMoment), c.clock);
+        }
+    }
+    for (const auto field : {&BirthFields::txt_Year, &BirthFields::cbHour, &BirthFields::cbMins}) {
+        BirthFields fields = Entered();
+        fields.*field = "abc";
+        EXPECT_THROW(AcceptBirth(fields, horoscope_), ConversionError);
+    }
+    EXPECT_TRUE(settings_.values.empty());
+}
+
+TEST_F(BirthEntryTest, AcceptedBirthIsHandedOverAndComputed) {
+    BirthFields fields = Entered();
+    fields.txt_VC_UserId = 7;
+    horoscope_.state.AyanamsaName = "Raman";
+    EXPECT_FALSE(AcceptBirth(fields, horoscope_));
+    const HoroscopeState &state = horoscope_.state;
+    EXPECT_EQ(display_.failure, "");
+    EXPECT_EQ(display_.Count("hide birth"), 1U);
+    EXPECT_EQ(horoscope_.chartNumber, 7);
+    EXPECT_EQ(MomentText(state.BirthMoment), "04/07/1965 02:15 PM");
+    EXPECT_EQ(state.BirthMoment, state.BirthMomentDate);
+    EXPECT_EQ(state.AyanamsaInForce, "Raman");
+    EXPECT_EQ(state.BirthTimeZoneName, "Indian Standard Time  (5.5 hrs E)");
+    EXPECT_EQ(state.LatDeg + state.LatMin / 100, 17.20);
+    EXPECT_EQ(state.LonDeg + state.LonMin / 100, 78.30);
+    EXPECT_EQ(state.LatNS + state.LonEW + state.TimeDiffEW, "NEE");
+    EXPECT_EQ(state.TimeDiff, 5.5);
+}
+
+TEST_F(BirthEntryTest, ChoicesFillTheFields) {
+    BirthFields fields = Entered();
+    EXPECT_EQ(fields.chosenZone, indianZone) << "the only zone is chosen unasked";
+    EXPECT_EQ(fields.txtLatDetails, "17 N 20");
+    EXPECT_EQ(fields.txtLonDetails, "78 E 30");
+    EXPECT_EQ(fields.txt_VC_Ayanamsa, "Lahiri");
+
+    const PlaceChoices brazil = ChooseCountry(fields, {"Brazil", 29}, lists_, horoscope_.state);
+    EXPECT_EQ(brazil.zones.size(), 8U);
+    EXPECT_EQ(brazil.cities.size(), lists_.CitiesOf(29).size());
+    EXPECT_EQ(fields.txt_VC_City + fields.cbTimeZone, "");
+    fields.txt_VC_City = "sao paulo";
+    ChooseCity(fields, lists_);
+    ChooseZone(fields, brazil.zones[1].number, lists_, horoscope_.state);
+    EXPECT_EQ(fields.txtLatDetails + ", " + fields.txtLonDetails, "23 S 33, 46 W 38");
+    EXPECT_EQ(fields.cbTimeZone, brazil.zones[1].text);
+    EXPECT_EQ(fields.txt_VC_TimeDiffEW, "W");
+    EXPECT_FALSE(TestBirth(fields));
+
+    fields.txt_VC_City = "No such place";
+    ChooseCity(fields, lists_);
+    EXPECT_EQ(TestBirth(fields)->text, "Select City");
+    const BirthFields before = fields;
+    ChooseCountry(fields, {}, lists_, horoscope_.state);
+    EXPECT_EQ(fields, before);
+}
+
+TEST_F(BirthEntryTest, SavedReopenedChangedAndDeleted) {
+    BirthFields fields = Entered("12", true);
+    settings_.atWrite = [this] { ASSERT_EQ(First("select count(*) from ChartSave"), "1"); };
+    EXPECT_EQ(Save(fields).text, "Chart Successfully Saved");
+    EXPECT_EQ(fields.txt_VC_UserId, 1);
+    EXPECT_EQ(settings_.values.size(), 18U);
+    EXPECT_EQ(horoscope_.state.ChartName + horoscope_.state.BirthDay, "Velnesh14") << "OK alone hands over";
+
+    // A restart: another connection to the file.
+    connection_.Close();
+    connection_.Open(file_);
+    const auto row = store::ChartStore(connection_).fnFillChart("All").List_VC_ChartName.at(0);
+    EXPECT_EQ(row, (store::ListItem{"Velnesh~4-Jul-1965", 1}));
+    OpenedBirth opened = Open(row);
+    EXPECT_EQ(opened.choices.cities.size(), 7248U);
+    BirthFields expected = fields;
+    expected.txt_Date = "4";
+    expected.Opt_PM = false; // noon comes back as 12 AM, and the form says so
+    expected.isOpenedFromNoon = true;
+    expected.chosenZone = 0;
+    expected.txt_VC_TimeDiffId = indianZone;
+    EXPECT_EQ(opened.fields, expected);
+    EXPECT_NE(RemarkOnTime(opened.fields), "");
+
+    // The settings come first, then the row.
+    settings_.atWrite = nullptr;
+    BirthFields changed = opened.fields;
+    changed.Opt_PM = true;
+    EXPECT_EQ(RemarkOnTime(changed), "");
+    changed.Txt_VC_ChartName = "O'Brien";
+    changed.txt_Date = "05";
+    changed.cbHour = "3";
+    const Notice updated = Save(changed);
+    EXPECT_EQ(updated.text, "Details are Sucessfully Updated");
+    EXPECT_EQ(updated.icon, Notice::Icon::None);
+    EXPECT_EQ(First("select ChartName || ChartDay || ChartHour || TimeDifference from ChartSave"),
+              "O'Brien~05-Jul-1965515181");
+    EXPECT_EQ(settings_.values["Name"], "O'Brien");
+
+    const Notice deleted = DeleteBirth(changed, connection_);
+    EXPECT_EQ(deleted.text, "Successfully Deleted");
+    EXPECT_EQ(deleted.focus, "Txt_VC_ChartName");
+    EXPECT_EQ(changed.txt_VC_UserId, 1) << "the number stays";
+    EXPECT_EQ(changed.txt_VC_Country + changed.cbHour + changed.cbGender + changed.txtLatDetails, "");
+    EXPECT_TRUE(CanDeleteFromMenu(changed));
+    EXPECT_FALSE(CanDeleteFromToolbar(changed));
+    EXPECT_EQ(First("select count(*) from ChartSave"), "0");
+
+    // The next save changes a row that is gone.
+    BirthFields next = Entered();
+    next.txt_VC_UserId = 1;
+    const auto before = settings_.values;
+    EXPECT_THROW(Save(next), store::StoreError);
+    EXPECT_EQ(settings_.values, before);
+}
+
+TEST_F(BirthEntryTest, HoursComeBackOnATwelveHourClock) {
+    BirthFields fields = Entered();
+    Save(fields);
+    const struct {
+        int stored;
+        const char *hour;
+        bool isPm, remarks;
+        const char *text;
+    } cases[] = {{0, "12", false, false, "0"}, {1, "1", false, false, "1"},  {11, "11", false, false, "11"},
+                 {12, "12", false, true, "0"}, {13, "1", true, false, "13"}, {23, "11", true, false, "23"}};
+    for (const auto &c : cases) {
+        connection_.Execute("update ChartSave set ChartHour = " + std::to_string(c.stored));
+        const BirthFields opened = Open({"Velnesh~4-Jul-1965", 1}).fields;
+        EXPECT_EQ(opened.cbHour, c.hour);
+        EXPECT_EQ(opened.Opt_PM, c.isPm);
+        EXPECT_EQ(HourText(opened), c.text);
+        EXPECT_EQ(RemarkOnTime(opened) != "", c.remarks) << c.stored;
+    }
+}
+
+TEST_F(BirthEntryTest, OpenedChartComputesAsItWasSaved) {
+    // Zones on both sides of Greenwich, one of them not the country's only one.
+    for (const store::ListItem &country : {store::ListItem{"India", 101}, store::ListItem{"Brazil", 29}}) {
+        BirthFields fields = Entered();
+        const PlaceChoices choices = ChooseCountry(fields, country, lists_, horoscope_.state);
+        fields.txt_VC_City = choices.cities.back().text;
+        ChooseCity(fields, lists_);
+        ChooseZone(fields, choices.zones.back().number, lists_, horoscope_.state);
+        Save(fields);
+        AcceptBirth(fields, horoscope_);
+        const double lagna = horoscope_.state.LagnaLon;
+        const BirthFields opened = Open({"Velnesh~4-Jul-1965", fields.txt_VC_UserId}).fields;
+        EXPECT_EQ(opened.txt_VC_TimeDiffEW, fields.txt_VC_TimeDiffEW);
+        AcceptBirth(Entered("5"), horoscope_);
+        EXPECT_FALSE(AcceptBirth(opened, horoscope_));
+        EXPECT_EQ(horoscope_.state.LagnaLon, lagna) << country.text;
+    }
+}
+
+TEST_F(BirthEntryTest, RefusedSavesLeaveEverythingAsItWas) {
+    BirthFields first = Entered();
+    Save(first);
+    const auto settings = settings_.values;
+    connection_.Execute("update ChartSave set ChartName = 'Uma'");
+
+    BirthFields quoted = Entered();
+    quoted.Txt_VC_ChartName = "O'Brien";
+    const BirthFields typed = quoted;
+    EXPECT_THROW(Save(quoted), store::StoreError);
+    EXPECT_EQ(quoted, typed);
+
+    BirthFields used = Entered();
+    used.Txt_VC_ChartName = "Uma";
+    const Notice notice = Save(used);
+    EXPECT_EQ(notice.text, "Chart Name Already Used , Enter Another Name");
+    EXPECT_EQ(notice.focus, "Txt_VC_ChartName");
+    EXPECT_EQ(used.txt_VC_UserId, 0) << "the number of another person's chart";
+
+    EXPECT_EQ(settings_.values, settings);
+    EXPECT_EQ(First("select count(*) from ChartSave"), "1");
+    // No transaction is left behind: the next save goes through.
+    EXPECT_EQ(Save(first).text, "Details are Sucessfully Updated");
+}
+
+TEST_F(BirthEntryTest, SettingsThatCannotBeWrittenKeepTheStoredRow) {
+    BirthFields fields = Entered();
+    Save(fields);
+    settings_.atWrite = [] { throw RuntimeError("no room"); };
+    fields.txt_VC_City = "Delhi";
+    ChooseCity(fields, lists_);
+    EXPECT_THROW(Save(fields), RuntimeError);
+    EXPECT_EQ(First("select City from ChartSave"), "Hyderabad (A.P)");
+}
+
+TEST_F(BirthEntryTest, CountryIsThePositionInTheList) {
+    BirthFields fields = Entered();
+    Save(fields);
+    connection_.Execute("delete from Country_Master where CountryID = 5");
+    EXPECT_EQ(Open({"Velnesh~4-Jul-1965", 1}).fields.countryId, 102) << "a gap moves the countries up";
+    connection_.Execute("update ChartSave set Country = 247");
+    EXPECT_THROW(Open({"Velnesh~4-Jul-1965", 1}), store::StoreError);
+    EXPECT_THROW(Open({"Velnesh~4-Jul-1965", 2}), store::StoreError);
+}
+
+} // namespace
+} // namespace kelvaro

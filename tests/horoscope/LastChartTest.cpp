@@ -1,0 +1,96 @@
+#include "horoscope/LastChart.h"
+
+#include "horoscope/BirthEntry.h"
+#include "horoscope/HoroscopeState.h"
+#include "runtime/MomentText.h"
+#include "runtime/Numbers.h"
+#include "tests/horoscope/MemorySettings.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace kelvaro {
+namespace {
+
+BirthFields BirthInRio() {
+    BirthFields fields;
+    fields.Txt_VC_ChartName = "Uma O'Brien";
+    fields.cbGender = "Female";
+    fields.txt_Date = "29";
+    fields.txt_Month = "Feb";
+    fields.txt_Year = "2000";
+    fields.cbHour = "12";
+    fields.cbMins = "05";
+    fields.txt_VC_Country = "Brazil";
+    fields.txt_VC_City = "Rio de Janeiro";
+    fields.cbTimeZone = "Brasilia Time  (3 hrs W)";
+    fields.txt_VC_LatDeg = 22;
+    fields.txt_VC_LatMin = 54.5;
+    fields.txt_VC_LatNS = std::string("S");
+    fields.txt_VC_LonDeg = 43;
+    fields.txt_VC_LonMin = 12;
+    fields.txt_VC_LonEW = std::string("W");
+    fields.txt_VC_TimeDiff = 3;
+    fields.txt_VC_TimeDiffEW = std::string("W");
+    return fields;
+}
+
+/// The birth as one line.
+std::string BirthIn(const HoroscopeState &state) {
+    return state.ChartName + ", " + state.BirthGender + ", " + state.BirthDay + " " + state.BirthMonth + " " +
+           state.BirthYear + " " + state.BirthHour + ":" + state.BirthMinute + " (" +
+           MomentText(state.BirthMoment) + "), " + state.BirthCity + ", " + state.BirthCountry + ", " +
+           NumberText(state.LatDeg) + state.LatNS + NumberText(state.LatMin) + ", " +
+           NumberText(state.LonDeg) + state.LonEW + NumberText(state.LonMin) + ", zone " +
+           state.BirthTimeZoneName + NumberText(state.TimeDiff) + state.TimeDiffEW;
+}
+
+constexpr const char *sampleBirth =
+    "Velnesh, Male, 14 Jul 1965 14:15 (14/07/1965 02:15 PM), Hyderabad (A.P), India, 17N20, 78E30, zone 5.5E";
+
+TEST(LastChartTest, NothingKeptGivesTheSampleChart) {
+    MemorySettings settings;
+    HoroscopeState state;
+    state.AyanamsaName = "Raman";
+    state.ChartName = "another";
+    EXPECT_EQ(RestoreLastChart(settings, state), "");
+    EXPECT_EQ(BirthIn(state), sampleBirth);
+    EXPECT_EQ(state.AyanamsaInForce, "Raman");
+
+    settings.values["Name"] = "Ravi";
+    EXPECT_EQ(RestoreLastChart(settings, state), "");
+    EXPECT_EQ(BirthIn(state), std::string("Ravi") + (sampleBirth + 7)) << "each key has a default of its own";
+}
+
+TEST(LastChartTest, ComesBackAsItWasKept) {
+    MemorySettings settings;
+    KeepLastChart(BirthInRio(), settings);
+    EXPECT_EQ(settings.values.size(), 18U);
+    EXPECT_EQ(settings.values["Hour"], "0");
+    EXPECT_EQ(settings.values["LatMin"], "54.5");
+    EXPECT_EQ(settings.values["TimeZone"], "Brasilia Time  (3 hrs W)");
+    HoroscopeState state;
+    EXPECT_EQ(RestoreLastChart(settings, state), "");
+    EXPECT_EQ(BirthIn(state), "Uma O'Brien, Female, 29 Feb 2000 0:05 (29/02/2000 12:05 AM), Rio de Janeiro, "
+                              "Brazil, 22S54.5, 43W12, zone 3W");
+}
+
+TEST(LastChartTest, UnreadableKeyGivesTheSampleChartAsAWhole) {
+    const char *const cases[][2] = {{"Day", "30"},           {"Day", ""},          {"Month", "Smarch"},
+                                    {"Year", "99999999999"}, {"Hour", "24"},       {"Min", "5x"},
+                                    {"LatDeg", "north"},     {"LatMin", ""},       {"LatNS", "NS"},
+                                    {"LonDeg", "nan"},       {"LonMin", "1e9999"}, {"LonEW", "e"},
+                                    {"TimeDiff", "3,5"},     {"TimeDiffEW", ""}};
+    for (const auto &[key, value] : cases) {
+        MemorySettings settings;
+        KeepLastChart(BirthInRio(), settings);
+        settings.values[key] = value;
+        HoroscopeState state;
+        EXPECT_NE(RestoreLastChart(settings, state), "") << key << value;
+        EXPECT_EQ(BirthIn(state), sampleBirth) << key << value;
+    }
+}
+
+} // namespace
+} // namespace kelvaro

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "horoscope/LastChart.h"
+
+#include <functional>
+#include <map>
+#include <string>
+
+namespace kelvaro {
+
+/// The settings of a test.
+class MemorySettings : public SettingsStore {
+public:
+    std::optional<std::string> Read(std::string_view key) override {
+        const auto found = values.find(key);
+        return found == values.end() ? std::nullopt : std::optional(found->second);
+    }
+    void Write(std::string_view key, const std::string &value) override {
+        if (atWrite) {
+            atWrite();
+        }
+        values.insert_or_assign(std::string(key), value);
+    }
+
+    std::map<std::string, std::string, std::less<>> values;
+    std::function<void()> atWrite;
+};
+
+} // namespace kelvaro

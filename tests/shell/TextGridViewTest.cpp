@@ -1,0 +1,129 @@
+#include "shell/TextGridView.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QScrollBar>
+#include <QTest>
+
+using namespace kelvaro;
+
+namespace {
+
+TextGrid Periods() {
+    TextGrid grid;
+    grid.header = "Lord   |  From  | Sub  Lord  |Age ";
+    grid.rows = {{"Sun", "14/Jul/1965", "Moon", "0 - 2"},
+                 {"A lord of a long name", "1", "", "12"},
+                 {"Mars", "31/Jul/1977", "Ketu"}};
+    grid.boldCells = {{1, 3}, {2, 0}};
+    return grid;
+}
+
+} // namespace
+
+class TextGridViewTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void TextsComeFromTheGrid();
+    void SomeRowsOfTheGridKeepTheirBoldCells();
+    void NothingIsCut_data();
+    void NothingIsCut();
+    void RowsShareTheRoomWithinBounds();
+    void SelectionIsCopied();
+
+private:
+    static QString TextAt(const TextGridView &view, int row, int column) {
+        return view.model()->index(row, column).data().toString();
+    }
+
+    static bool IsBoldAt(const TextGridView &view, int row, int column) {
+        return view.model()->index(row, column).data(Qt::FontRole).value<QFont>().bold();
+    }
+};
+
+void TextGridViewTest::TextsComeFromTheGrid() {
+    TextGridView view(QStringLiteral("grid"), QStringLiteral("lr"));
+    view.Show(Periods());
+    QStringList titles;
+    for (int column = 0; column < view.model()->columnCount(); ++column) {
+        titles << view.model()->headerData(column, Qt::Horizontal).toString().trimmed();
+    }
+    QCOMPARE(titles, (QStringList{"Lord", "From", "Sub Lord", "Age"}));
+    QCOMPARE(view.model()->rowCount(), 3);
+    QCOMPARE(TextAt(view, 0, 1), QStringLiteral("14/Jul/1965"));
+    QCOMPARE(TextAt(view, 2, 3), QString()); // a row may be shorter than the header
+    const auto alignment = [&](int column) {
+        return view.model()->index(0, column).data(Qt::TextAlignmentRole).toInt() & Qt::AlignHorizontal_Mask;
+    };
+    QCOMPARE(alignment(0), static_cast<int>(Qt::AlignLeft));
+    QCOMPARE(alignment(3), static_cast<int>(Qt::AlignRight)); // as the last letter says
+}
+
+void TextGridViewTest::SomeRowsOfTheGridKeepTheirBoldCells() {
+    TextGridView view(QStringLiteral("grid"), QStringLiteral("l"));
+    view.Show(Periods(), 1, 2);
+    QCOMPARE(view.model()->rowCount(), 2);
+    QCOMPARE(TextAt(view, 1, 0), QStringLiteral("Mars"));
+    QVERIFY(IsBoldAt(view, 0, 3));
+    QVERIFY(IsBoldAt(view, 1, 0));
+    QVERIFY(!IsBoldAt(view, 0, 0));
+    view.Rows().Mark(0);
+    QVERIFY(IsBoldAt(view, 0, 0));
+    QVERIFY(!IsBoldAt(view, 1, 1));
+    view.Show(Periods(), 0, 1);
+    QVERIFY(!IsBoldAt(view, 0, 0));
+}
+
+void TextGridViewTest::NothingIsCut_data() {
+    QTest::addColumn<double>("points");
+    QTest::addColumn<int>("extraWidth");
+    QTest::newRow("as wide as needed") << 9.0 << 0;
+    QTest::newRow("a little wider") << 14.0 << 40;
+    QTest::newRow("much wider") << 9.0 << 2000;
+}
+
+void TextGridViewTest::NothingIsCut() {
+    QFETCH(double, points);
+    QFETCH(int, extraWidth);
+    TextGridView view(QStringLiteral("grid"), QStringLiteral("lccr"));
+    view.Show(Periods());
+    for (int row = 0; row < 3; ++row) {
+        view.Rows().Mark(row); // bold texts are the widest
+        const QSize least = view.SizeAt(points);
+        view.LayOut(points, least.width() + extraWidth, view.RowHeightAt(points, 4, 0));
+        QCOMPARE(view.size(), least + QSize(extraWidth, 0));
+        view.show();
+        for (int column = 0; column < view.model()->columnCount(); ++column) {
+            QVERIFY(view.columnWidth(column) >=
+                    view.sizeHintForIndex(view.model()->index(row, column)).width());
+        }
+        QCOMPARE(view.horizontalScrollBar()->maximum(), 0);
+        QCOMPARE(view.verticalScrollBar()->maximum(), 0);
+    }
+}
+
+void TextGridViewTest::RowsShareTheRoomWithinBounds() {
+    TextGridView view(QStringLiteral("grid"), QStringLiteral("l"));
+    view.Show(Periods());
+    const int close = view.RowHeightAt(9, 4, 0);
+    const int airy = view.RowHeightAt(9, 4, 10000);
+    QVERIFY(close >= view.fontMetrics().height());
+    QVERIFY(airy > close);
+    const int between = (close + airy) / 2;
+    QCOMPARE(view.RowHeightAt(9, 4, 4 * between + 3), between);
+    QCOMPARE(view.RowHeightAt(18, 0, 0), view.RowHeightAt(18, 4, 0));
+}
+
+void TextGridViewTest::SelectionIsCopied() {
+    TextGridView view(QStringLiteral("grid"), QStringLiteral("l"));
+    view.Show(Periods());
+    view.selectAll();
+    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(),
+             QStringLiteral(
+                 "Sun\t14/Jul/1965\tMoon\t0 - 2\nA lord of a long name\t1\t\t12\nMars\t31/Jul/1977\tKetu\t"));
+}
+
+QTEST_MAIN(TextGridViewTest)
+#include "TextGridViewTest.moc"

@@ -1,0 +1,101 @@
+#include "store/ChartStore.h"
+
+#include "tests/store/StoreFixture.h"
+
+namespace kelvaro::store {
+namespace {
+
+ChartToSave SampleChart(const std::string &person, const std::string &gender = "Male") {
+    ChartToSave chart;
+    chart.Txt_SC_ChartName = person;
+    chart.SC_ChartName = person;
+    chart.SC_Gender = gender;
+    chart.SC_Country = "101";
+    chart.SC_City = "Hyderabad (A.P)";
+    chart.SC_Date = MomentOf({1965, 7, 4});
+    chart.SC_Time = MomentOf({1965, 7, 4}, {14, 5, 0});
+    chart.place = {17, 20, "N", 78, 30.5, "E"};
+    chart.SC_TimeDiff = 181;
+    return chart;
+}
+
+class ChartStoreTest : public StoreTest {
+protected:
+    std::vector<std::string> Names(std::string_view dataGen) {
+        std::vector<std::string> names;
+        for (const ListItem &row : charts_.fnFillChart(dataGen).List_VC_ChartName) {
+            names.push_back(row.text);
+        }
+        return names;
+    }
+
+    ChartStore charts_{connection_};
+};
+
+TEST_F(ChartStoreTest, SavesAWholeRow) {
+    EXPECT_EQ(charts_.NewestNumber(), 0);
+    const SavedOrNot saved = charts_.SC_SaveChart(SampleChart("Velnesh"));
+    EXPECT_TRUE(saved.isSaved);
+    EXPECT_EQ(saved.notice.text, "Chart Successfully Saved");
+    EXPECT_EQ(First("select Sno || '|' || ChartName || '|' || Gender || '|' || Country || '|' || City || '|' "
+                    "|| ChartDay || '|' || ChartMonth || '|' || ChartYear || '|' || ChartHour || '|' || "
+                    "ChartMinute || '|' || ChartSecond || '|' || LatitudeDegree || Latitude_NS || "
+                    "LatitudeMinute || '|' || LongitudeDegree || Longitude_EW || LongitudeMinute || '|' || "
+                    "TimeDifference from ChartSave"),
+              "1|Velnesh~4-Jul-1965|Male|101|Hyderabad (A.P)|4|7|1965|14|5|0|17.0N20.0|78.0E30.5|181");
+    EXPECT_EQ(charts_.NewestNumber(), 1);
+}
+
+TEST_F(ChartStoreTest, OnlyANameWithoutADateCanBeUsedAlready) {
+    EXPECT_TRUE(charts_.SC_SaveChart(SampleChart("Velnesh")).isSaved);
+    EXPECT_TRUE(charts_.SC_SaveChart(SampleChart("Velnesh")).isSaved);
+    connection_.Execute("update ChartSave set ChartName = 'Uma' where Sno = 2");
+    const SavedOrNot refused = charts_.SC_SaveChart(SampleChart(" Uma "));
+    EXPECT_FALSE(refused.isSaved);
+    EXPECT_EQ(refused.notice.text, "Chart Name Already Used , Enter Another Name");
+    EXPECT_EQ(refused.notice.focus, "Txt_SC_ChartName");
+    EXPECT_EQ(First("select count(*) from ChartSave"), "2");
+
+    EXPECT_EQ(charts_.SaveUnderNameOfBox(SampleChart("")).notice.text, "Enter Chart Name");
+    EXPECT_TRUE(charts_.SaveUnderNameOfBox(SampleChart(" Ravi ")).isSaved);
+    EXPECT_EQ(charts_.Read(3).ChartName, "Ravi~4-Jul-1965");
+}
+
+TEST_F(ChartStoreTest, TextOfTheUserIsNoPartOfTheStatement) {
+    charts_.SC_SaveChart(SampleChart("Velnesh"));
+    for (const char *name : {"O'Brien", "O''Brien", "'", "x'); delete from ChartSave; --",
+                             "x','Male',101,'c',1,1,1,1,1,1,1,'N',1,1,'E',1,1); --"}) {
+        EXPECT_NE(ErrorOf([&] { charts_.SC_SaveChart(SampleChart(name)); }), "") << name;
+        ChartToSave city = SampleChart("Uma");
+        city.SC_City = name;
+        EXPECT_NE(ErrorOf([&] { charts_.SC_SaveChart(city); }), "") << name;
+    }
+    EXPECT_EQ(Names("All"), std::vector<std::string>{"Velnesh~4-Jul-1965"});
+    EXPECT_TRUE(charts_.SC_SaveChart(SampleChart("x); delete from ChartSave; --")).isSaved);
+    EXPECT_EQ(Names("All").size(), 2U);
+}
+
+TEST_F(ChartStoreTest, ListsByNameAndGender) {
+    charts_.SC_SaveChart(SampleChart("uma", "Female"));
+    charts_.SC_SaveChart(SampleChart("Velnesh"));
+    charts_.SC_SaveChart(SampleChart("Anil"));
+    connection_.Execute("insert into GChartSave (ChartName) values ('Uma and Anil')");
+    const struct {
+        const char *dataGen, *heading;
+        std::vector<std::string> names;
+    } cases[] = {
+        {"All", "Select User Details", {"Anil~4-Jul-1965", "uma~4-Jul-1965", "Velnesh~4-Jul-1965"}},
+        {"Male", "Select Male Details", {"Anil~4-Jul-1965", "Velnesh~4-Jul-1965"}},
+        {"Female", "Select Female Details", {"uma~4-Jul-1965"}},
+        {"G", "Select Couple Details", {"Uma and Anil"}},
+        {"", "", {}},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(charts_.fnFillChart(c.dataGen).Lab_Details, c.heading);
+        EXPECT_EQ(Names(c.dataGen), c.names);
+    }
+    EXPECT_EQ(charts_.fnFillChart("All").List_VC_ChartName.front().key, 3);
+}
+
+} // namespace
+} // namespace kelvaro::store

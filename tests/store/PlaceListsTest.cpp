@@ -1,0 +1,63 @@
+#include "store/PlaceLists.h"
+
+#include "tests/store/StoreFixture.h"
+
+#include <strings.h>
+
+#include <algorithm>
+
+namespace kelvaro::store {
+namespace {
+
+class PlaceListsTest : public StoreTest {
+protected:
+    std::int32_t AddCountry(const std::string &zones) {
+        connection_.Execute("insert into Country_Master([CountryName],[TimeZoneID]) values ('Aaland','" +
+                            zones + "')");
+        return lists_.Countries().back().key;
+    }
+
+    PlaceLists lists_{connection_};
+};
+
+TEST_F(PlaceListsTest, CountriesAndZonesStandInTheirOwnOrder) {
+    connection_.Execute("insert into TimeZone([Place],[TimeDifference],[TimeZone]) values ('B',5.5,'E')");
+    connection_.Execute("insert into TimeZone([Place],[TimeDifference],[TimeZone]) values ('A',11,'W')");
+    connection_.Execute("insert into TimeZone([Place],[TimeDifference],[TimeZone]) values ('C',05.75,'E')");
+    const std::int32_t country = AddCountry("378,376,377,99999");
+    EXPECT_EQ(lists_.Countries()[100], (ListItem{"India", 101}));
+    EXPECT_EQ(lists_.Countries().back(), (ListItem{"Aaland", country}));
+    std::string texts;
+    for (const Zone &zone : lists_.ZonesOf(country)) {
+        texts += std::to_string(zone.number) + " " + zone.text + "\n";
+    }
+    EXPECT_EQ(texts, "378 C  (5.75 hrs E)\n376 B  (5.5 hrs E)\n377 A  (11 hrs W)\n");
+    const Zone zone = lists_.ZoneNumbered(377);
+    EXPECT_EQ(zone.hours, 11);
+    EXPECT_EQ(zone.direction, "W");
+    EXPECT_TRUE(lists_.ZonesOf(AddCountry("")).empty());
+    EXPECT_THROW(lists_.ZonesOf(9999), StoreError);
+    EXPECT_THROW(lists_.ZoneNumbered(9999), StoreError);
+}
+
+TEST_F(PlaceListsTest, CitiesStandByNameAndArePlacedByNameAlone) {
+    const std::vector<ListItem> cities = lists_.CitiesOf(101);
+    ASSERT_EQ(cities.size(), 7248U);
+    const auto comesBefore = [](const ListItem &left, const ListItem &right) {
+        return strcasecmp(left.text.c_str(), right.text.c_str()) < 0;
+    };
+    EXPECT_TRUE(std::ranges::is_sorted(cities, comesBefore));
+    const auto place = lists_.PlaceOfCity("hyderabad (a.p)");
+    ASSERT_TRUE(place);
+    EXPECT_EQ(place->latDeg, 17);
+    EXPECT_EQ(place->latMin, 20);
+    EXPECT_EQ(place->latNS, "N");
+    EXPECT_EQ(place->lonDeg, 78);
+    EXPECT_EQ(place->lonMin, 30);
+    EXPECT_EQ(place->lonEW, "E");
+    EXPECT_FALSE(lists_.PlaceOfCity("No such place"));
+    EXPECT_THROW(lists_.PlaceOfCity("L'Aquila"), StoreError);
+}
+
+} // namespace
+} // namespace kelvaro::store
