@@ -81,13 +81,6 @@ TEST_F(AshtakavargaTest, TotalsAreTheSameForEveryChart) {
     }
 }
 
-TEST_F(AshtakavargaTest, RahuAndKetuGiveNoPoints) {
-    Fill({1, 2, 3, 4, 5, 6, 7, 8, 9, 3});
-    const auto before = form_.mshAshtaVarga.rows;
-    Fill({1, 2, 3, 4, 5, 6, 7, 8, 12, 6});
-    EXPECT_EQ(form_.mshAshtaVarga.rows, before);
-}
-
 TEST_F(AshtakavargaTest, HeaderFollowsTheLanguage) {
     const std::string english = "Zodiac       | Sun    |Moon   |Mars |Mercury|Jupiter|Venus|Saturn|Asc   "
                                 "*|Rahu *|Total |Total With * ";

@@ -144,6 +144,15 @@ TEST_F(VargasTest, ALimitBelongsToTheBandThatStartsThere) {
     }
 }
 
+// The sizes of three charts fall short of the ninth, the seventh and the twenty-seventh of a rasi, so their
+// parts drift towards Aries.
+TEST_F(VargasTest, ShortSizesRunAhead) {
+    Fill({9.999999999999995, 359.9995});
+    EXPECT_EQ(Cell(1, 1), "Can") << "Navamsa, three parts of which end at 9.99999999999999";
+    EXPECT_EQ(Cell(7, 2), "Ari") << "Sapthamsha, 84 parts of which end at 359.9988";
+    EXPECT_EQ(Cell(15, 2), "Ari") << "Saptavimshamsha, 324 parts of which end at 359.9964";
+}
+
 TEST_F(VargasTest, SpeaksTheLanguageInForce) {
     Fill({});
     EXPECT_EQ(
