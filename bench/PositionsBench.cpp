@@ -1,24 +1,12 @@
 #include "astronomy/ClsPlanet.h"
 #include "astronomy/clsSunrise.h"
-#include "horoscope/CalculateHoroscope.h"
-#include "horoscope/Horoscope.h"
+#include "runtime/Moment.h"
 
 #include <benchmark/benchmark.h>
 
 namespace {
 
 using namespace kelvaro;
-
-/// A screen that shows nothing.
-class NoDisplay : public StatusDisplay {
-public:
-    void OpenStatus() override {}
-    void AdvanceStatusBar() override {}
-    void CloseStatus() override {}
-    void HideHoroscopeForms() override {}
-    void ShowCurrentView(std::string_view) override {}
-    void RunFailed(std::string_view, std::string_view) override {}
-};
 
 /// Moments of one after another, so that no run repeats the one before.
 Moment NextMoment(int &count) {
@@ -54,17 +42,5 @@ void BM_Sunrise(benchmark::State &state) {
     }
 }
 BENCHMARK(BM_Sunrise)->Unit(benchmark::kMicrosecond);
-
-void BM_WholeHoroscope(benchmark::State &state) {
-    NoDisplay display;
-    store::Connection connection;
-    connection.OpenCopyInMemory(KELVARO_SEED_DATABASE);
-    Horoscope horoscope(connection, display);
-    for ([[maybe_unused]] auto _ : state) {
-        CalculateHoroscope(horoscope);
-        benchmark::DoNotOptimize(horoscope.state.LagnaLon);
-    }
-}
-BENCHMARK(BM_WholeHoroscope)->Unit(benchmark::kMicrosecond);
 
 } // namespace
