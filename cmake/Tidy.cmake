@@ -6,7 +6,7 @@ function(kelvaro_add_tidy)
   endif()
   file(GLOB_RECURSE headers CONFIGURE_DEPENDS
     ${CMAKE_SOURCE_DIR}/runtime/*.h ${CMAKE_SOURCE_DIR}/store/*.h ${CMAKE_SOURCE_DIR}/astronomy/*.h ${CMAKE_SOURCE_DIR}/panchanga/*.h
-    ${CMAKE_SOURCE_DIR}/presentation/*.h ${CMAKE_SOURCE_DIR}/analysis/*.h
+    ${CMAKE_SOURCE_DIR}/presentation/*.h ${CMAKE_SOURCE_DIR}/analysis/*.h ${CMAKE_SOURCE_DIR}/report/*.h
     ${CMAKE_SOURCE_DIR}/horoscope/*.h ${CMAKE_SOURCE_DIR}/shell/*.h
     ${CMAKE_SOURCE_DIR}/tools/*.h)
   set(stamps)

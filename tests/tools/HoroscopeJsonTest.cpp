@@ -46,12 +46,13 @@ std::string SampleWithout(const char *key) {
 }
 
 /// The answers, line by line, to a stream given byte for byte.
-std::vector<std::string> AnswerLines(const std::string &births) {
+std::vector<std::string> AnswerLines(const std::string &births, const std::string &options = "") {
     const auto folder = std::filesystem::temp_directory_path();
     const std::string in = folder / ("births-" + std::to_string(getpid()));
     const std::string out = folder / ("answers-" + std::to_string(getpid()));
     std::ofstream(in, std::ios::binary) << births;
-    const int status = std::system(("'" HOROSCOPE_JSON "' < '" + in + "' > '" + out + "'").c_str());
+    const int status =
+        std::system(("'" HOROSCOPE_JSON "' " + options + " < '" + in + "' > '" + out + "'").c_str());
     std::ifstream answers(out, std::ios::binary);
     std::vector<std::string> lines;
     for (std::string line; std::getline(answers, line);) {
@@ -250,6 +251,17 @@ TEST(HoroscopeJson, AnswersNothingToAnEmptyStream) {
     EXPECT_TRUE(AnswerLines("").empty());
     EXPECT_EQ(AnswerLines(Sample().dump() + "\n").size(), 1U);
     EXPECT_EQ(AnswerLines(Sample().dump() + "\r\n\n").size(), 2U);
+}
+
+TEST(HoroscopeJson, WritesTheReportWhenAsked) {
+    const auto plain = json::parse(AnswerLines(Sample().dump()).at(0));
+    auto answer = json::parse(AnswerLines(Sample().dump(), "--report").at(0));
+    const std::string report = answer.at("report");
+    EXPECT_NE(report.find("     Name                  : Velnesh\r\n"), std::string::npos);
+    EXPECT_NE(report.find("\r\nAntra\r\n=====\r\n"), std::string::npos);
+    answer.erase("report");
+    EXPECT_EQ(answer, plain);
+    EXPECT_THROW(AnswerLines("", "--raport"), std::runtime_error);
 }
 
 /// Numbers within what two orders of arithmetic may differ by, all else to the letter.

@@ -1,7 +1,10 @@
-// Reads births as JSON lines and writes the horoscope of each as one JSON line.
+// Reads births as JSON lines and writes the horoscope of each as one JSON line, with "--report" also as the
+// text of the printed report, antras included.
 
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
+#include "report/HoroscopeReport.h"
+#include "runtime/RuntimeError.h"
 #include "store/DatabaseFile.h"
 #include "tools/horoscope-json/BirthReader.h"
 #include "tools/horoscope-json/HoroscopeWriter.h"
@@ -14,6 +17,7 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <string_view>
 
 namespace {
 
@@ -23,7 +27,18 @@ ordered_json ErrorJson(const std::string &cause) {
     return {{"error", cause}};
 }
 
-ordered_json Answer(const std::string &line, kelvaro::Horoscope &horoscope,
+ordered_json AnswerWithReport(const kelvaro::Horoscope &horoscope) {
+    ordered_json answer = kelvaro::HoroscopeJson(horoscope);
+    try {
+        answer["report"] = kelvaro::ComposeReport(horoscope.state, horoscope.forms, horoscope.connection,
+                                                  kelvaro::AntraSection::With);
+    } catch (const kelvaro::RuntimeError &error) {
+        return ErrorJson(std::string("Report: ").append(error.what()));
+    }
+    return answer;
+}
+
+ordered_json Answer(const std::string &line, bool withReport, kelvaro::Horoscope &horoscope,
                     const kelvaro::RunStatus &status) {
     try {
         kelvaro::ReadBirth(line, horoscope.state);
@@ -31,12 +46,16 @@ ordered_json Answer(const std::string &line, kelvaro::Horoscope &horoscope,
         return ErrorJson(error.what());
     }
     kelvaro::CalculateHoroscope(horoscope);
-    return status.Failure() ? ErrorJson(*status.Failure()) : kelvaro::HoroscopeJson(horoscope);
+    if (status.Failure()) {
+        return ErrorJson(*status.Failure());
+    }
+    return withReport ? AnswerWithReport(horoscope) : kelvaro::HoroscopeJson(horoscope);
 }
 
 /// One program state for the whole stream, as if the births were entered one after another. The database is a
 /// private copy in memory, so that a batch leaves the user's file alone.
-void AnswerStream(const std::filesystem::path &database, std::istream &births, std::ostream &answers) {
+void AnswerStream(const std::filesystem::path &database, bool withReport, std::istream &births,
+                  std::ostream &answers) {
     kelvaro::RunStatus status;
     kelvaro::store::Connection connection;
     connection.OpenCopyInMemory(database);
@@ -44,9 +63,9 @@ void AnswerStream(const std::filesystem::path &database, std::istream &births, s
     std::string line;
     while (answers && std::getline(births, line)) {
         // An error may quote bytes of the line that are no UTF-8.
-        answers
-            << Answer(line, horoscope, status).dump(-1, ' ', false, ordered_json::error_handler_t::replace)
-            << '\n';
+        answers << Answer(line, withReport, horoscope, status)
+                       .dump(-1, ' ', false, ordered_json::error_handler_t::replace)
+                << '\n';
     }
     answers.flush();
 }
@@ -54,14 +73,16 @@ void AnswerStream(const std::filesystem::path &database, std::istream &births, s
 } // namespace
 
 int main(int argc, char **argv) {
-    if (argc > 1) {
-        std::cerr << "usage: " << argv[0] << " < births.jsonl > horoscopes.jsonl\n";
+    const bool withReport = argc == 2 && std::string_view(argv[1]) == "--report";
+    if (argc > 1 && !withReport) {
+        std::cerr << "usage: " << argv[0] << " [--report] < births.jsonl > horoscopes.jsonl\n";
         return EXIT_FAILURE;
     }
     try {
         std::ios::sync_with_stdio(false);
         const auto program = std::filesystem::canonical("/proc/self/exe");
-        AnswerStream(program.parent_path() / kelvaro::store::databaseFileName, std::cin, std::cout);
+        AnswerStream(program.parent_path() / kelvaro::store::databaseFileName, withReport, std::cin,
+                     std::cout);
         if (!std::cout) {
             std::cerr << "horoscope-json: the answers could not be written\n";
             return EXIT_FAILURE;

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "horoscope/HoroscopeState.h"
+#include "presentation/HoroscopeForms.h"
+#include "report/ReportPages.h"
+#include "store/Connection.h"
+
+namespace kelvaro {
+
+// Charts are drawn in the preferred style, from the cells that the windows show. A style that is none of the
+// three words and a window that was never filled have no drawing. The cells come back from the database as
+// the one row of a literal select; both raise StoreError when that fails.
+
+/// The page of the Rasi and the Navamsa chart.
+void AddChartsPage(const HoroscopeState &state, const HoroscopeForms &forms, store::Connection &connection,
+                   ReportPages &pages);
+
+/// The page of the Bhava chart and the mid points of the houses.
+void AddBhavaPage(const HoroscopeState &state, const HoroscopeForms &forms, store::Connection &connection,
+                  ReportPages &pages);
+
+} // namespace kelvaro

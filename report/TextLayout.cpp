@@ -1,0 +1,98 @@
+#include "report/TextLayout.h"
+
+#include "runtime/RuntimeError.h"
+
+namespace kelvaro {
+
+namespace {
+
+bool IsContinuation(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// The bytes that a lead byte announces, itself included; 1 for a byte that leads nothing.
+std::size_t AnnouncedLength(char byte) {
+    const auto lead = static_cast<unsigned char>(byte);
+    if (lead >= 0xF0U && lead < 0xF8U) {
+        return 4;
+    }
+    if (lead >= 0xE0U && lead < 0xF0U) {
+        return 3;
+    }
+    return lead >= 0xC0U && lead < 0xE0U ? 2 : 1;
+}
+
+/// The bytes of the first character of a text that is not empty.
+std::size_t FirstCharacterLength(std::string_view text) {
+    const std::size_t length = AnnouncedLength(text.front());
+    if (length > text.size()) {
+        return 1;
+    }
+    for (const char byte : text.substr(1, length - 1)) {
+        if (!IsContinuation(byte)) {
+            return 1;
+        }
+    }
+    return length;
+}
+
+/// The text behind its first characters; empty where it has no more than these.
+std::string_view Behind(std::string_view text, std::size_t characters) {
+    for (; characters > 0 && !text.empty(); --characters) {
+        text.remove_prefix(FirstCharacterLength(text));
+    }
+    return text;
+}
+
+std::string Padded(std::size_t left, std::string_view text, std::size_t right) {
+    std::string padded(left, ' ');
+    padded.append(text).append(right, ' ');
+    return padded;
+}
+
+} // namespace
+
+std::size_t CharacterCount(std::string_view utf8) {
+    std::size_t count = 0;
+    for (; !utf8.empty(); ++count) {
+        utf8.remove_prefix(FirstCharacterLength(utf8));
+    }
+    return count;
+}
+
+std::string_view FirstCharacters(std::string_view text, std::size_t count) {
+    return text.substr(0, text.size() - Behind(text, count).size());
+}
+
+std::string Field(std::string_view text, std::size_t width) {
+    const std::string_view shown = FirstCharacters(text, width);
+    return Padded(0, shown, width - CharacterCount(shown));
+}
+
+std::string FieldFrom(std::string_view text, std::size_t start, std::size_t width) {
+    if (start == 0) {
+        throw OverflowError("Overflow: the characters of a text are counted from 1");
+    }
+    return Field(Behind(text, start - 1), width);
+}
+
+std::string RightField(std::string_view text, std::size_t width) {
+    const std::string_view shown = FirstCharacters(text, width);
+    return Padded(width - CharacterCount(shown), shown, 0);
+}
+
+std::string Centred(std::string_view text, std::size_t width) {
+    const std::string_view shown = FirstCharacters(text, width);
+    const std::size_t room = width - CharacterCount(shown);
+    return Padded(room / 2, shown, room - room / 2);
+}
+
+std::string_view TrimmedBlanks(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+} // namespace kelvaro

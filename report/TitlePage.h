@@ -1,0 +1,13 @@
+#pragma once
+
+#include "presentation/UserDetailsForm.h"
+#include "report/ReportPages.h"
+#include "store/Connection.h"
+
+namespace kelvaro {
+
+/// The first page: invocation, birth summary and the owner's letterhead, which is empty where none is stored.
+/// Raises StoreError when the letterhead cannot be read.
+void AddTitlePage(const UserDetailsForm &form, store::Connection &connection, ReportPages &pages);
+
+} // namespace kelvaro

@@ -1,0 +1,277 @@
+#include "report/HoroscopeReport.h"
+
+#include "horoscope/CalculateHoroscope.h"
+#include "report/ReportFile.h"
+#include "report/TextLayout.h"
+#include "runtime/RuntimeError.h"
+#include "tests/horoscope/HoroscopeFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <span>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <vector>
+
+namespace kelvaro {
+
+namespace {
+
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    for (std::size_t end = text.find(lineEnd); end != std::string_view::npos; end = text.find(lineEnd)) {
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(end + lineEnd.size());
+    }
+    EXPECT_TRUE(text.empty()) << "The last line has no end: " << text;
+    return lines;
+}
+
+/// The pages of a reference, whose lines end as the files of this repository do.
+std::vector<std::string> ReferencePages(const std::string &name) {
+    std::ifstream file(std::string(REPORT_REFERENCES "/") + name, std::ios::binary);
+    std::string text;
+    for (std::string line; std::getline(file, line);) {
+        text.append(line).append(lineEnd);
+    }
+    const auto pages = PagesOf(text);
+    return {pages.begin(), pages.end()};
+}
+
+/// A period of a block as its column shows it.
+using Period = std::array<std::string, 3>;
+struct Block {
+    std::string title;
+    std::vector<Period> periods;
+    bool operator==(const Block &) const = default;
+};
+
+std::string WithoutDasa(const std::string &text) {
+    return text.substr(0, text.find(" Dasa"));
+}
+
+/// The blocks of a section, read from the columns where its headings stand.
+std::vector<Block> BlocksIn(std::span<const std::string_view> pages, const std::string &titleEnd) {
+    std::vector<Block> blocks;
+    for (const std::string_view page : pages) {
+        for (const std::string &line : LinesOf(page)) {
+            if (line.ends_with(titleEnd)) {
+                blocks.push_back({std::string(TrimmedBlanks(line)), {}});
+            }
+            for (std::size_t column = 0; line.find(" => ", column) == column + 7; column += 37) {
+                blocks.back().periods.push_back({std::string(TrimmedBlanks(line.substr(column, 7))),
+                                                 line.substr(column + 11, 11), line.substr(column + 23, 11)});
+            }
+        }
+    }
+    return blocks;
+}
+
+std::vector<Block> BlocksOf(const TextGrid &grid, std::string (*title)(const std::string &section)) {
+    std::vector<Block> blocks;
+    std::size_t next = 0;
+    for (std::size_t row = 0; row < grid.rows.size(); ++row) {
+        if (next < grid.sections.size() && grid.sections[next].firstRow == row) {
+            blocks.push_back({title(grid.sections[next].title), {}});
+            ++next;
+        }
+        const auto &cells = grid.rows[row];
+        blocks.back().periods.push_back({WithoutDasa(cells[0]), cells[1], cells[2]});
+    }
+    return blocks;
+}
+
+class HoroscopeReport : public HoroscopeTest {
+protected:
+    std::string Report(AntraSection antra = AntraSection::Without) {
+        CalculateHoroscope(horoscope);
+        EXPECT_EQ(display.failure, "");
+        return ComposeReport(horoscope.state, horoscope.forms, connection, antra);
+    }
+
+    std::vector<std::string> LinesOfPage(std::size_t number) {
+        const std::string report = Report();
+        return LinesOf(PagesOf(report).at(number - 1));
+    }
+
+    /// The lines of the letterhead: what stands below the second rule of the title page.
+    std::vector<std::string> OwnerBlock() {
+        auto lines = LinesOfPage(1);
+        const auto rule = std::find(lines.rbegin(), lines.rend(), std::string(70, '_'));
+        return {rule.base(), lines.end()};
+    }
+
+    void SetRandomBirth(std::mt19937 &random) {
+        const auto upTo = [&random](unsigned largest) { return static_cast<int>(random() % (largest + 1)); };
+        const auto oneOf = [&random](const std::vector<std::string> &words) {
+            return words.at(random() % words.size());
+        };
+        HoroscopeState &state = horoscope.state;
+        SetBirth(DateAdd(Interval::Minute, upTo(1439),
+                         DateAdd(Interval::Day, upTo(109000), MomentOf({1800, 2, 1}, {0, 0, 0}))));
+        state.LatDeg = upTo(60);
+        state.LatNS = oneOf({"N", "S"});
+        state.LonDeg = upTo(179);
+        state.LonEW = state.TimeDiffEW = oneOf({"E", "W"});
+        state.TimeDiff = state.LonDeg / 15;
+        state.ChartStyle = oneOf({"South", "East", "North"});
+        state.Language = oneOf({"English", "Sanskrit"});
+        state.BhavaSystem = oneOf({"Equal", "Not Equal"});
+    }
+};
+
+// The references were read line by line; pages 2 and 3 are all that the style changes.
+TEST_F(HoroscopeReport, IsTheReferenceInEveryStyleAndLanguage) {
+    struct Edition {
+        const char *style, *language, *whole, *chartPages;
+        AntraSection antra;
+    };
+    const std::vector<Edition> editions{
+        {"South", "English", "English.txt", nullptr, AntraSection::With},
+        {"East", "English", "English.txt", "EnglishEast.txt", AntraSection::With},
+        {"North", "English", "English.txt", "EnglishNorth.txt", AntraSection::With},
+        {"South", "Sanskrit", "Sanskrit.txt", nullptr, AntraSection::Without},
+        {"East", "Sanskrit", "Sanskrit.txt", "SanskritEast.txt", AntraSection::Without},
+        {"North", "Sanskrit", "Sanskrit.txt", "SanskritNorth.txt", AntraSection::Without},
+    };
+    for (const Edition &edition : editions) {
+        SCOPED_TRACE(std::string(edition.style) + " " + edition.language);
+        horoscope.state.ChartStyle = edition.style;
+        horoscope.state.Language = edition.language;
+        const std::string report = Report(edition.antra);
+        const auto pages = PagesOf(report);
+        auto expected = ReferencePages(edition.whole);
+        if (edition.chartPages != nullptr) {
+            const auto chartPages = ReferencePages(edition.chartPages);
+            ASSERT_EQ(chartPages.size(), 2U);
+            std::copy(chartPages.begin(), chartPages.end(), expected.begin() + 1);
+        }
+        ASSERT_EQ(pages.size(), expected.size());
+        for (std::size_t i = 0; i < pages.size(); ++i) {
+            EXPECT_EQ(pages[i], expected[i]) << "page " << i + 1;
+        }
+    }
+}
+
+TEST_F(HoroscopeReport, KeepsLinesPagesAndPeriodsWholeForAnyBirth) {
+    std::mt19937 random(20);
+    for (int birth = 0; birth < 60; ++birth) {
+        SetRandomBirth(random);
+        const std::string report = Report(AntraSection::With);
+        const std::string without =
+            ComposeReport(horoscope.state, horoscope.forms, connection, AntraSection::Without);
+        const auto pages = PagesOf(report);
+        ASSERT_EQ(pages.size(), 15U);
+        for (std::size_t i = 0; i < pages.size(); ++i) {
+            const auto lines = LinesOf(pages[i]);
+            EXPECT_LE(lines.size(), 62U);
+            for (const std::string &line : lines) {
+                EXPECT_LE(CharacterCount(line), pageWidth) << line;
+            }
+            if (i > 0) {
+                EXPECT_EQ(lines.front(), std::string(38, ' ') + "www.kelvaro.example - Horoscope  Page " +
+                                             std::to_string(i + 1));
+            }
+        }
+        // The bhuktis of a life stay on page 6: printed without antras, the report ends there.
+        EXPECT_EQ(PagesOf(without).size(), 6U);
+        EXPECT_TRUE(report.starts_with(without));
+        const DasaForm &dasa = horoscope.forms.Frm_Dasa;
+        const std::span all(pages);
+        EXPECT_TRUE(
+            BlocksIn(all.subspan(5, 1), " - Bhukti") ==
+            BlocksOf(dasa.mshBukti, [](const std::string &s) { return WithoutDasa(s) + " - Bhukti"; }));
+        EXPECT_TRUE(BlocksIn(all.subspan(6), " - Antra") ==
+                    BlocksOf(dasa.mshAntra, [](const std::string &s) { return s + " - Antra"; }));
+    }
+}
+
+TEST_F(HoroscopeReport, JoinsTheFieldsOfTheLetterhead) {
+    const std::vector<std::tuple<std::string, std::vector<std::string>>> cases{
+        {"'A. Rao','12 Temple Road','Fort','Hyderabad','India','500001','040 123','rao@kelvaro.example'",
+         {"     A. Rao", "     12 Temple Road, Fort", "     Hyderabad - 500001, India, Phone : 040 123",
+          "     E-Mail : rao@kelvaro.example"}},
+        {"'  A. Rao ','','Fort','','','','040 123',NULL",
+         {"     A. Rao", "     Fort", "     Phone : 040 123"}},
+        {"'','','','','','','',''", {}},
+    };
+    EXPECT_TRUE(OwnerBlock().empty());
+    for (const auto &[values, expected] : cases) {
+        connection.Execute("delete from PersonalDetails");
+        connection.Execute(
+            "insert into PersonalDetails(Name,Address,Address2,City,Country,Zipcode,Phone,EMail) "
+            "values (" +
+            values + ")");
+        EXPECT_EQ(OwnerBlock(), expected) << values;
+    }
+}
+
+TEST_F(HoroscopeReport, ContinuesLongTextsUnderThemselves) {
+    std::string name; // 100 characters of two bytes
+    for (int i = 0; i < 100; ++i) {
+        name += "\xc3\xa9";
+    }
+    horoscope.state.ChartName = name;
+    horoscope.state.BirthCity = "Old\r\nTown\f";
+    const auto lines = LinesOfPage(1);
+    const auto first =
+        std::find(lines.begin(), lines.end(), "     Name                  : " + name.substr(0, 102));
+    ASSERT_NE(first, lines.end());
+    EXPECT_EQ(*(first + 1), std::string(29, ' ') + name.substr(102));
+    EXPECT_EQ(*(first + 2), "     Sex                   : Male");
+    EXPECT_NE(std::find(lines.begin(), lines.end(), "     Birth City            : Old  Town"), lines.end());
+}
+
+TEST_F(HoroscopeReport, LeavesAbijitOutWhereTheStarHasNoRoom) {
+    CalculateHoroscope(horoscope);
+    horoscope.forms.Frm_PP.mshNirayana.rows.at(0).at(4) = "Shravana - Abijit";
+    horoscope.forms.frm_CBhava.bhava_features.rows.at(0).at(4) = "Uttarashada - Abijit";
+    const std::string report =
+        ComposeReport(horoscope.state, horoscope.forms, connection, AntraSection::Without);
+    EXPECT_NE(report.find("\nAsc 25.14.50     Lib  Shravana    2 Jupiter Mercury --      ----\r"),
+              std::string::npos);
+    EXPECT_NE(report.find("\n1  205.14.50 Libra      Venus   Uttarashada - Abijit 2 Jupiter Mercury\r"),
+              std::string::npos);
+}
+
+TEST_F(HoroscopeReport, NamesTheHouseSystem) {
+    for (const auto &[system, title] : std::vector<std::tuple<std::string, std::string>>{
+             {"Equal", "Bhava Positions  (Equal Division of Houses From M.C)"},
+             {"Not Equal", "Bhava Positions  (Placidius Semi-Arc System)"}}) {
+        horoscope.state.BhavaSystem = system;
+        const auto lines = LinesOfPage(3);
+        EXPECT_NE(std::find(lines.begin(), lines.end(), title), lines.end()) << system;
+    }
+}
+
+TEST_F(HoroscopeReport, DrawsEmptyChartsWithoutTheRowOfCells) {
+    connection.Execute("delete from tempdasasandhi");
+    const auto lines = LinesOfPage(2);
+    EXPECT_EQ(lines.at(3), std::string(15, ' ') + "*           *           *           *           *");
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), std::string(15, ' ') + std::string(49, '*')), 8);
+}
+
+TEST_F(HoroscopeReport, LeavesOutWhatWasNeverFilled) {
+    horoscope.state.ChartStyle = "West";
+    EXPECT_EQ(Report().find('*', 0), Report().find("* Rah *")); // no drawing before the Ashtakavarga
+    horoscope.forms = {};
+    for (const char *style : {"South", "East", "North"}) {
+        horoscope.state.ChartStyle = style;
+        const std::string empty =
+            ComposeReport(horoscope.state, horoscope.forms, connection, AntraSection::With);
+        EXPECT_EQ(PagesOf(empty).size(), 7U) << style;
+    }
+    connection.Close();
+    EXPECT_THROW(ComposeReport(horoscope.state, horoscope.forms, connection, AntraSection::With),
+                 store::StoreError);
+}
+
+} // namespace
+
+} // namespace kelvaro

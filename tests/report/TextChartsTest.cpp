@@ -1,0 +1,243 @@
+#include "report/TextCharts.h"
+
+#include "report/TextLayout.h"
+#include "runtime/RuntimeError.h"
+#include "tests/store/StoreFixture.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+namespace kelvaro {
+namespace {
+
+// The drawings of the cells that `Fill` makes, North with the Lagna in sign 11. "|" shows where a line ends.
+
+constexpr std::string_view southReference = R"(
+               *************************************************|
+               *0123456789a*3456789abcd*6789abcdefg*9abcdefghij*|
+               *cdefghijklm*fghijklmnop*ijklmnopqrs*lmnopqrstuv*|
+               *opqrstuvwxy*rstuvwxyz01*uvwxyz01234*xyz01234567*|
+               *           *           *           *           *|
+               *************************************************|
+               *cdefghijklm*                       *fghijklmnop*|
+               *opqrstuvwxy*                       *rstuvwxyz01*|
+               *0123456789a*                       *3456789abcd*|
+               *           *                       *           *|
+               *************          Rasi         *************|
+               *ijklmnopqrs*                       *lmnopqrstuv*|
+               *uvwxyz01234*                       *xyz01234567*|
+               *6789abcdefg*                       *9abcdefghij*|
+               *           *                       *           *|
+               *************************************************|
+               *opqrstuvwxy*rstuvwxyz01*uvwxyz01234*xyz01234567*|
+               *0123456789a*3456789abcd*6789abcdefg*9abcdefghij*|
+               *cdefghijklm*fghijklmnop*ijklmnopqrs*lmnopqrstuv*|
+               *           *           *           *           *|
+               *************************************************|
+      Cells by row: Ari Tau Gem Can / Leo Vir / Lib Sco / Sag Cap Aqu Pis|
+)";
+
+constexpr std::string_view northReference = R"(
+                                    Navamsa|
+                   * * * * * * * * * * * * * * * * * * * * *|
+                   * * 3456789abcdefgh * 9abcdefghijklmn * * |
+                   *   * jklmnopqrst *   * pqrstuvwxyz *   *|
+                   * 012 * vwxyz01 *   678 * 1234567 * cde *|
+                   *456789a*  12 *  abcdefg  *   2 *ghijklm*|
+                   *cdefghi11* *  ijklmnopqrs  * * 3opqrstu*|
+                   *klmnopq  * *    uvwxyz0    * *  wxyz012*|
+                   *tuvwxyz*     *    234    *     *56789ab*|
+                   *     *   fgh   *       *   ijk   *     *|
+                   *   *   jklmnop   *  1*   mnopqrs   *   *|
+                   * *   rstuvwxyz01   *   uvwxyz01234   * *|
+                   * *     3456789    4* 5   6789abc     * *|
+                   *   *     bcd     *  8*     efg     *   *|
+                   * lmn *         *  rst  *         * xyz *|
+                   *pqrstuv*     *  vwxyz01  *     *1234567*|
+                   *xyz0123 6* *  3456789abcd  * *109abcdef*|
+                   *56789ab  * *    fghijkl    * *  hijklmn*|
+                   *defghij*   7 *    nop    *   9 *pqrstuv*|
+                   *     * opqrstu *       * uvwxyz0 *     *|
+                   *   * wxyz0123456 *   * 23456789abc *   *|
+                   * * 89abcdefghijklm * efghijklmnopqrs * *|
+                   * * * * * * * * * * * * * * * * * * * * *|
+)";
+
+constexpr std::string_view eastReference = R"(
+                                     Bhava|
+                  * * * * * * * * * * * * * * * * * * * * * *|
+                  * *3456789abcd* 6789abc     *9abcdefghij* *|
+                  *012*  fghijkl* efghijk     *lmnopqr  *cde*|
+                  *456  *nopqrst* ijklmno     *tuvwxyz*  ghi*|
+                  *89abcde*  vwx* uvwxyz0     *123  *klmnopq*|
+                  *ghijklm  *z01*   234       *567*  stuvwxy*|
+                  *opqrstuvwxy* *             * *0123456789a*|
+                  * * * * * * * * * * * * * * * * * * * * * *|
+                  * fghijklmnop *             * ijklmnopqrs *|
+                  * rstuvwxyz01 *             * uvwxyz01234 *|
+                  * 3456789abcd *             * 6789abcdefg *|
+                  *             *             *             *|
+                  *             *             *             *|
+                  *             *             *             *|
+                  * * * * * * * * * * * * * * * * * * * * * *|
+                  *lmnopqrstuv* *             * *xyz01234567*|
+                  *xyz0123  *opq*   rst       *uvw*  9abcdef*|
+                  *56789ab*  stu* vwxyz01     *yz0  *hijklmn*|
+                  *def  *wxyz012* 3456789     *2345678*  pqr*|
+                  *hij*  456789a* bcdefgh     *abcdefg  *tuv*|
+                  * *cdefghijklm* jklmnop     *ijklmnopqrs* *|
+                  * * * * * * * * * * * * * * * * * * * * * *|
+       Cells by row: Ari Tau Gem Can Leo / Vir Lib / Sco Sag Cap Aqu Pis|
+)";
+
+using Cells = std::array<std::string, 12>;
+
+/// Texts of 36 characters, in which each place of each cell can be told: cell 2 begins with "3456".
+Cells Fill() {
+    Cells cells;
+    std::string text("0123456789abcdefghijklmnopqrstuvwxyz");
+    for (std::string &cell : cells) {
+        cell = text;
+        std::rotate(text.begin(), text.begin() + 3, text.end());
+    }
+    return cells;
+}
+
+std::vector<std::string> LinesOf(std::string_view text) {
+    std::vector<std::string> lines;
+    for (std::size_t end = text.find(lineEnd); end != std::string_view::npos; end = text.find(lineEnd)) {
+        lines.emplace_back(text.substr(0, end));
+        text.remove_prefix(end + lineEnd.size());
+    }
+    EXPECT_EQ(text, "");
+    return lines;
+}
+
+std::string WithVisibleEnds(std::string_view text) {
+    std::string visible("\n");
+    for (const std::string &line : LinesOf(text)) {
+        visible += line + "|\n";
+    }
+    return visible;
+}
+
+const Cells signNames{"Aries", "Tau", "Gem", "Can", "Leo", "Vir", "Libra", "Sco", "Sag", "Cap", "Aqu", "Pis"};
+
+class TextChartsTest : public store::StoreTest {
+protected:
+    void Open(const Cells &cells, std::string_view rest = "") {
+        std::string statement("select ");
+        for (const std::string &cell : cells) {
+            statement += "'" + cell + "',";
+        }
+        statement.back() = ' ';
+        row_.Close();
+        row_.Open(statement.append(rest), connection_);
+    }
+
+    std::string South(std::string_view title) const {
+        std::string report;
+        SouthTextChart(row_, title, signNames, report);
+        return report;
+    }
+    std::string North(std::string_view title, int firstSign) const {
+        std::string report;
+        NorthTextChart(row_, title, firstSign, report);
+        return report;
+    }
+    std::string East(std::string_view title) const {
+        std::string report;
+        EastTextChart(row_, title, signNames, report);
+        return report;
+    }
+
+    store::Recordset row_;
+};
+
+TEST_F(TextChartsTest, DrawsEveryCellInItsPlace) {
+    Open(Fill());
+    EXPECT_EQ(WithVisibleEnds(South("Rasi")), southReference);
+    EXPECT_EQ(WithVisibleEnds(North("Navamsa", 11)), northReference);
+    EXPECT_EQ(WithVisibleEnds(East("Bhava")), eastReference);
+    std::string report("before\r\n");
+    EastTextChart(row_, "Bhava", signNames, report);
+    EXPECT_EQ(report, "before\r\n" + East("Bhava"));
+}
+
+TEST_F(TextChartsTest, TightensCellsAndCutsThemByCharacters) {
+    Cells cells;
+    cells[2] = "Sun   Moo Mar    Ven";
+    cells[5] = "राशिचक";
+    Open(cells);
+    const std::vector<std::string> lines = LinesOf(South("राशि"));
+    EXPECT_EQ(lines[1].substr(15), "*           *           *Sun Moo Mar*           *");
+    EXPECT_EQ(lines[2].substr(15), "*           *           * Ven       *           *");
+    EXPECT_EQ(lines[6].substr(15), "*           *                       *राशिचक     *");
+    EXPECT_EQ(lines[10].substr(15), "*************          राशि         *************");
+}
+
+TEST_F(TextChartsTest, PutsTheSouthTitleIntoTheCentre) {
+    struct Case {
+        const char *title;
+        const char *centre;
+    };
+    Open({});
+    for (const Case &entry : {
+             Case{"", "                       "},
+             Case{"abc", "          abc          "},
+             Case{"Bhava", "          Bhava        "},
+             Case{"Navamsa", "        Navamsa        "},
+             Case{"abcdefghijklmnopqrstuv", " abcdefghijklmnopqrstuv"},
+             Case{"abcdefghijklmnopqrstuvwxyz", "abcdefghijklmnopqrstuvw"},
+         }) {
+        EXPECT_EQ(LinesOf(South(entry.title))[10].substr(28, 23), entry.centre);
+    }
+    EXPECT_EQ(LinesOf(North(std::string(50, 'x'), 1))[0], std::string(19, ' ') + std::string(41, 'x'));
+}
+
+TEST_F(TextChartsTest, DrawsEmptyCellsWithoutARow) {
+    Open({});
+    const std::string south = South("Rasi");
+    const std::string north = North("Rasi", 12);
+    Open(Fill(), "where 1 = 0");
+    ASSERT_TRUE(row_.IsEndOfFile());
+    EXPECT_EQ(South("Rasi"), south);
+    EXPECT_EQ(North("Rasi", 12), north);
+    EXPECT_EQ(LinesOf(north)[5], std::string(19, ' ') + "*       *   1 *           *   3 *       *");
+}
+
+TEST_F(TextChartsTest, RefusesWhatIsNoChart) {
+    Open({});
+    EXPECT_THROW(North("Rasi", 0), OverflowError);
+    EXPECT_THROW(North("Rasi", 13), OverflowError);
+    row_.Close();
+    row_.Open("select 'a','b'", connection_);
+    EXPECT_THROW(East("Rasi"), store::StoreError);
+}
+
+TEST(CellReducerTest, KeepsThreeCharactersOfEachBody) {
+    struct Case {
+        std::string (*reduce)(std::string_view);
+        const char *label;
+        const char *reduced;
+    };
+    for (const Case &entry : {
+             Case{ReduceCellLines, "", ""},
+             Case{ReduceCellLines, "Sun  12.5", "Sun"},
+             Case{ReduceCellLines, "Sun  12.5\r\nMoo  3.40\r\n", "Sun Moo"},
+             Case{ReduceCellLines, "Sun      Moo  ", "Sun"},
+             Case{ReduceCellLines, "\r\n राशि\r\n\r\nMa", "राश  Ma"},
+             Case{ReduceCellPairs, "Lagna  Sun  Gul  ", "Lag Sun Gul"},
+             Case{ReduceCellPairs, "Sun     Moo", "Sun  Moo"},
+             Case{ReduceCellBlanks, "Asc Sun Moo ", "Asc Sun Moo"},
+             Case{ReduceCellBlanks, "Lagna  Sun", "Lag  Sun"},
+         }) {
+        EXPECT_EQ(entry.reduce(entry.label), entry.reduced) << entry.label;
+    }
+    EXPECT_EQ(TightenBlanks("a  b   c    d      e       "), "a  b c  d  e   ");
+}
+
+} // namespace
+} // namespace kelvaro
