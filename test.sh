@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds everything with warnings as errors and runs all tests: the layout of the code, the
-# core and the windows (under a virtual display), the core again with sanitizers, and the static checks.
+# core and the windows (under a virtual display), the core again with sanitizers, the static checks, and a minute of
+# fuzzing.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
@@ -24,6 +25,11 @@ cmake --build --preset checks --target tidy
 
 echo "== Core tests under the sanitizers"
 ctest --preset sanitizers
+
+echo "== Fuzzing"
+configure fuzz
+cmake --build --preset fuzz
+scripts/fuzz.sh 30
 
 echo "== All tests"
 xvfb-run -a -s "-screen 0 1920x1080x24" ctest --preset checks

@@ -145,7 +145,12 @@ Notice InsertBirth(BirthFields &fields, Moment birth, store::Connection &connect
     const std::int32_t number = charts.NewestNumber();
     transaction.Commit();
     fields.txt_VC_UserId = number;
-    KeepLastChart(fields, settings);
+    try {
+        KeepLastChart(fields, settings);
+    } catch (const RuntimeError &error) {
+        throw RuntimeError(std::string("The chart is saved, but it will not come back at the next start. ") +
+                           error.what());
+    }
     return outcome.notice;
 }
 

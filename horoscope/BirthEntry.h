@@ -104,7 +104,8 @@ std::optional<Notice> AcceptBirth(const BirthFields &fields, Horoscope &horoscop
 
 /// "&Save": tests the fields and stores them, as a new chart or over the saved one, and as the last chart in
 /// the settings. Returns what is to be told in either case. The horoscope in force stays. Raises StoreError
-/// or ConversionError with database, settings and fields as they were.
+/// or ConversionError with database, settings and fields as they were, and RuntimeError for settings that
+/// cannot be written: a saved chart then keeps its row, a new one is stored all the same.
 Notice SaveBirth(BirthFields &fields, store::Connection &connection, SettingsStore &settings);
 
 /// The fields for a row of the list of saved charts. Nothing is computed before "&OK". The country is the

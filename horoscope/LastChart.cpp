@@ -130,6 +130,7 @@ void KeepLastChart(const BirthFields &fields, SettingsStore &settings) {
     for (std::size_t i = 0; i < keys.size(); ++i) {
         settings.Write(keys[i].name, texts[i]);
     }
+    settings.Flush();
 }
 
 } // namespace kelvaro

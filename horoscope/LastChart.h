@@ -9,7 +9,8 @@ namespace kelvaro {
 struct BirthFields;
 struct HoroscopeState;
 
-/// The user's settings of the program, section "Horo".
+/// The user's settings of the program, section "Horo". What is written is kept with the next `Flush`, all of
+/// it or nothing.
 class SettingsStore {
 public:
     SettingsStore() = default;
@@ -20,6 +21,9 @@ public:
     /// Nothing where the key has never been written.
     virtual std::optional<std::string> Read(std::string_view key) = 0;
     virtual void Write(std::string_view key, const std::string &value) = 0;
+    /// Raises RuntimeError where the settings cannot be written. A store that keeps each text at once leaves
+    /// it as it is.
+    virtual void Flush() {}
 };
 
 /// Puts the last saved chart in force, without computing; a key that is missing counts as that of the sample
@@ -27,7 +31,8 @@ public:
 /// comes in force, and the words for the status bar are returned; they are empty otherwise.
 std::string RestoreLastChart(SettingsStore &settings, HoroscopeState &state);
 
-/// Writes all eighteen keys. Raises ConversionError, with nothing written, for an hour that is no number.
+/// Writes all eighteen keys together. Raises ConversionError for an hour that is no number, and RuntimeError
+/// where the settings cannot be written, with nothing written.
 void KeepLastChart(const BirthFields &fields, SettingsStore &settings);
 
 } // namespace kelvaro

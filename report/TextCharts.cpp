@@ -3,6 +3,7 @@
 #include "report/TextLayout.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Trimmed.h"
 
 #include <algorithm>
 #include <array>
@@ -231,10 +232,10 @@ std::string Reduced(std::string_view label, std::string_view separator) {
     std::string reduced;
     for (std::size_t end = 0; end != std::string_view::npos;) {
         end = label.find(separator);
-        reduced.append(FirstCharacters(TrimmedBlanks(label.substr(0, end)), nameLength)).append(" ");
+        reduced.append(FirstCharacters(Trimmed(label.substr(0, end)), nameLength)).append(" ");
         label.remove_prefix(end == std::string_view::npos ? label.size() : end + separator.size());
     }
-    return std::string(TrimmedBlanks(reduced));
+    return std::string(Trimmed(reduced));
 }
 
 } // namespace

@@ -87,12 +87,4 @@ std::string Centred(std::string_view text, std::size_t width) {
     return Padded(room / 2, shown, room - room / 2);
 }
 
-std::string_view TrimmedBlanks(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 } // namespace kelvaro

@@ -30,7 +30,4 @@ std::string RightField(std::string_view text, std::size_t width);
 /// The text cut to `width` characters, or padded to them on both sides; the odd blank goes to the right.
 std::string Centred(std::string_view text, std::size_t width);
 
-/// The text without the blanks at both ends.
-std::string_view TrimmedBlanks(std::string_view text);
-
 } // namespace kelvaro

@@ -1,6 +1,7 @@
 #include "report/TitlePage.h"
 
 #include "report/TextLayout.h"
+#include "runtime/Trimmed.h"
 #include "store/Recordset.h"
 
 #include <array>
@@ -126,7 +127,7 @@ void AddOwner(store::Connection &connection, ReportPages &pages) {
             endLine();
         }
         const std::string stored = owner.Text(field.field);
-        const std::string_view text = TrimmedBlanks(stored);
+        const std::string_view text = Trimmed(stored);
         if (!text.empty()) {
             line.append(line.empty() ? std::string_view() : field.separator).append(field.label).append(text);
         }

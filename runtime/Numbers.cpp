@@ -1,6 +1,7 @@
 #include "runtime/Numbers.h"
 
 #include "runtime/RuntimeError.h"
+#include "runtime/Trimmed.h"
 
 #include <array>
 #include <charconv>
@@ -21,14 +22,6 @@ template <typename Integer> Integer ToInteger(double value, const char *kind) {
         throw OverflowError("Overflow: " + NumberText(value) + " does not fit " + kind);
     }
     return static_cast<Integer>(rounded);
-}
-
-std::string_view TrimmedBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) {
-        return {};
-    }
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
 } // namespace
@@ -54,7 +47,7 @@ std::int32_t ToInt32(double value) {
 }
 
 double NumberFromText(std::string_view text) {
-    std::string_view digits = TrimmedBlanks(text);
+    std::string_view digits = Trimmed(text);
     if (digits.size() > 1 && digits.front() == '+' && digits[1] != '-') {
         digits.remove_prefix(1);
     }

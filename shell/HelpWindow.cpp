@@ -8,6 +8,12 @@
 #include <QTextBlock>
 #include <QVBoxLayout>
 
+/// The guide lies in a static library, whose resources the linker leaves out unless they are asked for. The
+/// macro wants to stand outside of all namespaces.
+static void LoadGuide() {
+    Q_INIT_RESOURCE(help);
+}
+
 namespace kelvaro {
 
 namespace {
@@ -33,6 +39,7 @@ HelpWindow::HelpWindow(QWidget *parent)
     headings_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     headings_->setSpacing(headingSpace);
 
+    LoadGuide();
     QFile guide(QStringLiteral(":/guide.md"));
     const bool isOpen = guide.open(QIODevice::ReadOnly);
     text_->setMarkdown(isOpen ? QString::fromUtf8(guide.readAll()) : guide.errorString());
@@ -69,10 +76,13 @@ void HelpWindow::ListHeadings() {
 }
 
 void HelpWindow::ShowSubject(const QString &subject) {
-    const auto found = headings_->findItems(subject, Qt::MatchContains);
-    QListWidgetItem *heading = found.isEmpty() || subject.isEmpty() ? headings_->item(0) : found.front();
-    headings_->setCurrentItem(heading);
-    ScrollTo(heading->data(Qt::UserRole).toInt());
+    QList<QListWidgetItem *> found = headings_->findItems(subject, Qt::MatchExactly);
+    found += headings_->findItems(subject, Qt::MatchContains);
+    found += headings_->findItems(QString(), Qt::MatchContains);
+    if (!found.isEmpty()) {
+        headings_->setCurrentItem(found.front());
+        ScrollTo(found.front()->data(Qt::UserRole).toInt());
+    }
 }
 
 void HelpWindow::ScrollTo(int position) {

@@ -3,6 +3,7 @@
 #include "shell/ChartView.h"
 #include "shell/DasaView.h"
 #include "shell/GridView.h"
+#include "shell/PrintView.h"
 #include "shell/UserDetailsView.h"
 
 namespace kelvaro {
@@ -68,6 +69,10 @@ HoroscopeView *MakeAshtakavargaView() {
 
 HoroscopeView *MakeDasaView() {
     return new DasaView;
+}
+
+HoroscopeView *MakePrintView() {
+    return new PrintView;
 }
 
 } // namespace kelvaro

@@ -24,9 +24,10 @@ HoroscopeView *MakePlanetPositionsView();
 HoroscopeView *MakeVargasView();
 HoroscopeView *MakeAshtakavargaView();
 HoroscopeView *MakeDasaView();
+HoroscopeView *MakePrintView();
 
 /// The views in the order of the tree.
-inline constexpr std::array<HoroscopeViewRow, 9> horoscopeViews{{
+inline constexpr std::array<HoroscopeViewRow, 10> horoscopeViews{{
     {"Birth Details", "User", "Details", "frm_UserDetails", MakeUserDetailsView},
     {"Rasi", "Rasi", "Rasi", "frm_rasi", MakeRasiView},
     {"Navamsa", "Navamsa", "Navamsa", "frm_Navamsa", MakeNavamsaView},
@@ -36,6 +37,7 @@ inline constexpr std::array<HoroscopeViewRow, 9> horoscopeViews{{
     {"Vargas", "Vargas", "Vargas", "Frm_Vargas", MakeVargasView},
     {"Ashta Vargas", "AshtaVargas", "AVargas", "Frm_AVargas", MakeAshtakavargaView},
     {"Dasa", "Dasa", "Dasa", "Frm_Dasa", MakeDasaView},
+    {"Print", "Print", "Print", "Frm_Print", MakePrintView},
 }};
 
 } // namespace kelvaro

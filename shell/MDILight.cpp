@@ -1,19 +1,35 @@
 #include "shell/MDILight.h"
 
 #include "horoscope/CalculateHoroscope.h"
+#include "horoscope/LastChart.h"
 #include "horoscope/PreferencesEntry.h"
+#include "shell/AboutBox.h"
+#include "shell/BirthDialog.h"
 #include "shell/ChartColours.h"
+#include "shell/CityDialog.h"
+#include "shell/CountryDialog.h"
+#include "shell/HelpWindow.h"
 #include "shell/MainHoroscope.h"
+#include "shell/MainMenu.h"
 #include "shell/MessageBoxes.h"
+#include "shell/PersonalInfoDialog.h"
 #include "shell/PreferencesDialog.h"
+#include "shell/ServerPane.h"
 #include "shell/StatusPanel.h"
+#include "shell/TimeZoneDialog.h"
+#include "shell/ViewWithPanes.h"
 #include "store/DatabaseFile.h"
+#include "store/PersonalDetails.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QMenuBar>
-#include <QMessageBox>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -23,6 +39,17 @@ namespace {
 
 constexpr int treeWidth = 190;
 constexpr int splitterWidth = 5;
+constexpr const char *geometryKey = "Window/Geometry";
+constexpr const char *serverKey = "Server/Address";
+
+/// The windows of the program in the order in which its end unloads them.
+constexpr std::array<const char *, 18> unloadOrder{
+    "frm_UserDetails",   "frm_rasi",        "frm_BhavaChart",
+    "frm_Navamsa",       "frm_CBhava",      "Frm_PP",
+    "Frm_Vargas",        "Frm_AVargas",     "Frm_Dasa",
+    "Frm_Print",         "frm_Add_Country", "frm_New_LatLon",
+    "frm_AddTimeZone",   "frm_Details",     "frm_IshtaghatikaToBirthTime",
+    "frm_MainHoroscope", "frm_Preferences", "Frm_RetriveBirthData"};
 
 /// A window of the area without a frame. It takes up the whole area and stays, whatever key is pressed.
 class FramelessSubWindow : public QMdiSubWindow {
@@ -48,7 +75,10 @@ QString TextOf(std::string_view text) {
 
 } // namespace
 
-MDILight::MDILight() : horoscope_(connection_, *this), area_(new QMdiArea), tree_(new MainHoroscope) {
+MDILight::MDILight(const QString &settingsFile)
+    : settings_(settingsFile.isEmpty() ? QSettings() : QSettings(settingsFile, QSettings::IniFormat)),
+      lastChart_(settingsFile), horoscope_(connection_, *this), area_(new QMdiArea), tree_(new MainHoroscope),
+      owner_(new QLabel) {
     setObjectName(QStringLiteral("MDILight"));
     setWindowTitle(QStringLiteral("Kelvaro - Kelvaro Basic (Version 2.4)"));
     area_->setBackground(parchmentColour);
@@ -71,9 +101,21 @@ MDILight::MDILight() : horoscope_(connection_, *this), area_(new QMdiArea), tree
     panel_ = new StatusPanel(this);
 
     BuildMenu();
+    FnDisable();
+    BuildShortcuts();
     BuildViews();
-    statusBar()->show();
+    owner_->setContentsMargins(splitterWidth, 0, splitterWidth, 0);
+    statusBar()->addPermanentWidget(owner_);
     connect(tree_, &MainHoroscope::ViewChosen, this, &MDILight::ChooseView);
+    RestoreWindowPlace();
+    qApp->installEventFilter(this);
+}
+
+MDILight::~MDILight() {
+    for (const char *name : unloadOrder) {
+        delete findChild<QWidget *>(QString::fromLatin1(name));
+    }
+    delete birthForm_;
 }
 
 void MDILight::Start(const std::filesystem::path &programFolder, const std::filesystem::path &userFolder) {
@@ -83,7 +125,9 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
         preferences.ClsPath = programFolder.string();
         preferences.FnPreferences(connection_);
         PutPreferencesInForce(preferences, horoscope_.state);
+        ReadLetterhead();
         FNInitialize();
+        FnEnable();
         // A database that cannot be written would otherwise be told only when something is to be saved.
         connection_.RequireWritable();
     } catch (const std::exception &error) {
@@ -91,39 +135,111 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
     }
 }
 
-/// The first horoscope is that of the record as it stands.
+void MDILight::ReadLetterhead() {
+    const store::PersonalDetails stored = store::ReadPersonalDetails(connection_);
+    Str_CompName = TextOf(stored.Name);
+    Str_CompAddress = TextOf(stored.Address);
+    Str_CompAddress2 = TextOf(stored.Address2);
+    Str_CompCity = TextOf(stored.City);
+    Str_CompCountry = TextOf(stored.Country);
+    Str_CompZipcode = TextOf(stored.Zipcode);
+    Str_CompPhone = TextOf(stored.Phone);
+    Str_CompEMail = TextOf(stored.EMail);
+    owner_->setText(Str_CompName);
+}
+
+/// The first horoscope is that of the chart that was saved last, or of the sample.
 void MDILight::FNInitialize() {
+    const std::string remark = RestoreLastChart(lastChart_, horoscope_.state);
     Calculate();
+    if (!remark.empty() && statusBar()->currentMessage().isEmpty()) {
+        statusBar()->showMessage(TextOf(remark));
+    }
 }
 
 void MDILight::Calculate() {
     CalculateHoroscope(horoscope_);
-    if (isCloseWanted_ && !horoscope_.isCalculating) {
-        close();
+}
+
+void MDILight::EnableMenus(bool areEnabled) {
+    for (const char *name : {"mnuBirthTime", "mnuTools", "mnuBirthDetails"}) {
+        findChild<QAction *>(QString::fromLatin1(name))->setEnabled(areEnabled);
     }
 }
 
 void MDILight::BuildMenu() {
-    QMenu *tools = menuBar()->addMenu(tr("&Tools"));
-    tools->menuAction()->setObjectName(QStringLiteral("mnuTools"));
-    QAction *preferences = tools->addAction(tr("&Preferences"), this, &MDILight::ShowPreferences);
-    preferences->setObjectName(QStringLiteral("mnuPreferences"));
-    QMenu *help = menuBar()->addMenu(tr("Help"));
-    help->menuAction()->setObjectName(QStringLiteral("mdiHelpmnu"));
-    QAction *about = help->addAction(tr("&About Us"), this, &MDILight::ShowAbout);
-    about->setObjectName(QStringLiteral("mnuAboutus"));
-    QAction *exit = help->addAction(tr("E&xit"), this, &QWidget::close);
-    exit->setObjectName(QStringLiteral("mnuExit"));
+    AddTopEntry(menuBar(), {"mnuBirthDetails", "&Enter Birth Details", [this] { ShownBirthForm(); }});
+    AddMenu(menuBar(), "mnuTools", "&Tools",
+            {{"mDI_Country", "&Country Master", [this] { ShowModally<CountryDialog>(connection_); }},
+             {"MDI_LAt_Lon", "Cit&y Master", [this] { ShowModally<CityDialog>(connection_); }},
+             {"MDI_ADD_TimeZone", "Time &Zone Master", [this] { ShowModally<TimeZoneDialog>(connection_); }},
+             {},
+             {"mnudetails", "Edit Personal &Info", [this] { ShowModally<PersonalInfoDialog>(connection_); }},
+             {"mnuPreferences", "&Preferences", [this] { ShowModally<PreferencesDialog>(horoscope_); }}});
+    AddMenu(menuBar(), "mnuBirthTime", "&Time Converter",
+            {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika", [] {}},
+             {},
+             {"mnu_BirthTime", "Ishta&Ghatika To BirthTime", [] {}}});
+    AddMenu(menuBar(), "mdiHelpmnu", "Help",
+            {{"mnuHelp", "&Help", [this] { ShowHelp(); }, QKeySequence::HelpContents},
+             {},
+             {"mnuAboutus", "&About Us", [this] { AboutBox(this).exec(); }},
+             {"mnuExit", "E&xit", [this] { close(); }, QKeySequence::Quit}});
+}
+
+/// The keys that users of desktop programs expect; the menus have no entries for them.
+void MDILight::BuildShortcuts() {
+    const auto onKeys = [this](const QKeySequence &keys, auto chosen) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, chosen] {
+            if (IsFree()) {
+                chosen();
+            }
+        });
+    };
+    onKeys(QKeySequence::New, [this] {
+        // "New" on a form that holds a saved chart would go on to change that chart.
+        if (birthForm_ != nullptr) {
+            ForgetBirthForm();
+        }
+        ShownBirthForm().New();
+    });
+    onKeys(QKeySequence::Open, [this] { ShownBirthForm().OpenList(); });
+    onKeys(QKeySequence::Save, [this] {
+        const bool isStated = birthForm_ != nullptr;
+        BirthDialog &form = ShownBirthForm();
+        if (isStated) {
+            form.Save();
+        }
+    });
+    onKeys(QKeySequence::Print, [this] {
+        ChooseView(ViewNamed("Print"));
+        findChild<QPushButton *>(QStringLiteral("CoPrt"))->setFocus();
+    });
+    for (std::size_t view = 0; view < horoscopeViews.size(); ++view) {
+        const auto digit = static_cast<int>((view + 1) % horoscopeViews.size());
+        onKeys(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + digit)),
+               [this, view] { ChooseView(view); });
+    }
 }
 
 void MDILight::BuildViews() {
+    const QUrl server = ServerAddress(settings_.value(serverKey).toString());
     for (std::size_t index = 0; index < horoscopeViews.size(); ++index) {
         HoroscopeView *view = horoscopeViews.at(index).make();
         view->setObjectName(QString::fromLatin1(horoscopeViews.at(index).form));
-        auto *window = new FramelessSubWindow(view);
+        ViewWithPanes *panes = server.isValid() ? new ViewWithPanes(view, server) : nullptr;
+        auto *window = new FramelessSubWindow(panes != nullptr ? static_cast<QWidget *>(panes) : view);
         area_->addSubWindow(window, window->windowFlags());
         window->hide();
-        views_.at(index) = {view, window, true};
+        views_.at(index) = {view, window, panes, true};
+    }
+}
+
+/// Where the window stood at its last end; the whole screen at first.
+void MDILight::RestoreWindowPlace() {
+    if (!restoreGeometry(settings_.value(geometryKey).toByteArray())) {
+        setGeometry(screen()->availableGeometry());
+        setWindowState(Qt::WindowMaximized);
     }
 }
 
@@ -135,27 +251,70 @@ void MDILight::ChooseView(std::size_t view) {
     }
 }
 
-void MDILight::ShowPreferences() {
-    if (horoscope_.isCalculating) {
+/// The form of birth details in front: as it was hidden by the last run, or a new one.
+BirthDialog &MDILight::ShownBirthForm() {
+    if (birthForm_ != nullptr) {
+        birthForm_->ReturnFromMaster();
+        return *birthForm_;
+    }
+    birthForm_ = new BirthDialog(horoscope_, lastChart_, this);
+    birthForm_->setModal(true);
+    connect(birthForm_, &BirthDialog::CityMasterWanted, this, &MDILight::ShowMasterForBirthForm<CityDialog>);
+    connect(birthForm_, &BirthDialog::TimeZoneMasterWanted, this,
+            &MDILight::ShowMasterForBirthForm<TimeZoneDialog>);
+    connect(birthForm_, &BirthDialog::Closed, this, &MDILight::ForgetBirthForm);
+    birthForm_->show();
+    return *birthForm_;
+}
+
+void MDILight::ForgetBirthForm() {
+    birthForm_->deleteLater();
+    birthForm_ = nullptr;
+    findChild<QAction *>(QStringLiteral("mnuPreferences"))->setEnabled(true);
+}
+
+template <class Dialog, class Subject> void MDILight::ShowModally(Subject &subject) {
+    if (!IsFree()) {
         return;
     }
     try {
-        PreferencesDialog(horoscope_, this).exec();
+        Dialog(subject, this).exec();
     } catch (const std::exception &error) {
         ShowError(this, error);
     }
 }
 
-void MDILight::ShowAbout() {
-    QMessageBox::about(this, tr("About Us"),
-                       tr("<h3>Kelvaro Basic</h3><p>Version 2.4</p>"
-                          "<p>Vedic astrology on the desktop: the whole horoscope of a birth, computed by "
-                          "the program itself.</p>"
-                          "<p>Place data: GeoNames (https://www.geonames.org), CC BY 4.0 "
-                          "(https://creativecommons.org/licenses/by/4.0/); names shortened and made unique, "
-                          "positions rounded to "
-                          "minutes.</p>"
-                          "<p>Zone offsets: the tz database, release 2025b, public domain.</p>"));
+template <class Master> void MDILight::ShowMasterForBirthForm() {
+    ShowModally<Master>(connection_);
+    birthForm_->ReturnFromMaster();
+}
+
+/// The guide in front, at the chapter of the dialog or the view that is in front.
+void MDILight::ShowHelp() {
+    QWidget *asking = QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this;
+    if (help_ != nullptr && help_->parentWidget() != asking) {
+        delete help_;
+    }
+    if (help_ == nullptr) {
+        // As a child of a modal dialog it can be read while the dialog is open.
+        help_ = new HelpWindow(asking);
+    }
+    help_->show();
+    help_->ShowSubject(asking == this
+                           ? QString::fromLatin1(horoscopeViews.at(ViewNamed(horoscope_.CurrentView)).text)
+                           : asking->windowTitle());
+    help_->raise();
+    help_->activateWindow();
+}
+
+/// A modal dialog keeps the keys of the menus to itself; F1 is wanted there, too.
+bool MDILight::eventFilter(QObject *watched, QEvent *event) {
+    if (event->type() == QEvent::KeyPress && QApplication::activeModalWidget() != nullptr &&
+        static_cast<QKeyEvent *>(event)->matches(QKeySequence::HelpContents)) { // NOLINT
+        ShowHelp();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MDILight::OpenStatus() {
@@ -169,12 +328,22 @@ void MDILight::AdvanceStatusBar() {
 
 void MDILight::CloseStatus() {
     panel_->Close();
+    if (isCloseWanted_) {
+        // When the run that is about to end has ended.
+        QTimer::singleShot(0, this, &QWidget::close);
+    }
 }
 
 void MDILight::HideHoroscopeForms() {
     for (ViewWindow &each : views_) {
         each.window->hide();
         each.isStale = true;
+    }
+}
+
+void MDILight::HideOpenChart() {
+    if (birthForm_ != nullptr) {
+        birthForm_->hide();
     }
 }
 
@@ -187,6 +356,9 @@ void MDILight::ShowCurrentView(std::string_view currentView) {
     }
     views_.at(shown).window->showMaximized();
     area_->setActiveSubWindow(views_.at(shown).window);
+    if (views_.at(shown).panes != nullptr) {
+        views_.at(shown).panes->Navigate();
+    }
     tree_->MarkView(shown);
     if (isInTree) {
         // The shown window drew the keys to itself, and the user is still on the way through the tree.
@@ -210,6 +382,9 @@ void MDILight::closeEvent(QCloseEvent *event) {
     // A run must come to its end before what it works on goes away.
     isCloseWanted_ = horoscope_.isCalculating;
     event->setAccepted(!isCloseWanted_);
+    if (event->isAccepted()) {
+        settings_.setValue(geometryKey, saveGeometry());
+    }
 }
 
 void MDILight::resizeEvent(QResizeEvent *event) {

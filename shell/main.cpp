@@ -1,7 +1,6 @@
 #include "shell/MDILight.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -10,8 +9,7 @@ int main(int argc, char **argv) {
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
     QApplication::setApplicationName(QStringLiteral("Kelvaro Basic"));
     kelvaro::MDILight window;
-    window.setGeometry(window.screen()->availableGeometry());
-    window.showMaximized();
+    window.show();
     // From within the event loop, where a window closed in the middle of the run ends the program.
     QTimer::singleShot(0, &window, [&window] {
         window.Start(QApplication::applicationDirPath().toStdString(),

@@ -2,6 +2,7 @@
 
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
+#include "runtime/Trimmed.h"
 #include "store/Recordset.h"
 #include "store/StatementText.h"
 
@@ -25,13 +26,6 @@ constexpr std::array<ListChoice, 4> listChoices{{
     {"All", "Select Sno,ChartName From ChartSave order by ChartName ", "Select User Details"},
     {"G", "Select Sno,ChartName From GChartSave order by ChartName ", "Select Couple Details"},
 }};
-
-std::string Trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(' ');
-    return first == std::string_view::npos
-               ? std::string()
-               : std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
 
 std::string MonthAbbreviation(Moment date) {
     return MonthNameDateText(date).substr(3, 3);

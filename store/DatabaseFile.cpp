@@ -20,11 +20,18 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view copiedMark = "DBMirvaneBasic.copied";
+constexpr std::string_view originalMark = "DBMirvaneBasic.original";
 constexpr int busyMilliseconds = 1000;
 
 /// A file name that no other start of the program uses.
 std::string PassingName() {
     return ".DBMirvaneBasic-" + std::to_string(std::random_device()());
+}
+
+/// The super-user could write into the folder of an installed program, but the charts would go with it.
+bool IsInstalled(const fs::path &programFolder) {
+    std::error_code unreadable;
+    return fs::exists(programFolder / originalMark, unreadable);
 }
 
 /// Only trying tells: permissions, access lists and write-protected media all have a say.
@@ -85,7 +92,7 @@ void CopyForUser(const fs::path &programFile, const fs::path &userFolder) {
 
 fs::path FindDatabaseFile(const fs::path &programFolder, const fs::path &userFolder) {
     fs::path programFile = programFolder / databaseFileName;
-    if (CanWriteInto(programFolder)) {
+    if (!IsInstalled(programFolder) && CanWriteInto(programFolder)) {
         return programFile;
     }
     fs::path userFile = userFolder / databaseFileName;

@@ -285,6 +285,10 @@ TEST_F(BirthEntryTest, SettingsThatCannotBeWrittenKeepTheStoredRow) {
     ChooseCity(fields, lists_);
     EXPECT_THROW(Save(fields), RuntimeError);
     EXPECT_EQ(First("select City from ChartSave"), "Hyderabad (A.P)");
+
+    BirthFields another = Entered();
+    EXPECT_THROW(Save(another), RuntimeError);
+    EXPECT_EQ(another.txt_VC_UserId, 2) << "stored, so that a second try does not store it twice";
 }
 
 TEST_F(BirthEntryTest, CountryIsThePositionInTheList) {

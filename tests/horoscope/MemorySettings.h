@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 
 namespace kelvaro {
 
@@ -19,11 +20,18 @@ public:
         if (atWrite) {
             atWrite();
         }
-        values.insert_or_assign(std::string(key), value);
+        written_.insert_or_assign(std::string(key), value);
+    }
+    void Flush() override {
+        written_.merge(values);
+        values = std::exchange(written_, {});
     }
 
     std::map<std::string, std::string, std::less<>> values;
     std::function<void()> atWrite;
+
+private:
+    std::map<std::string, std::string, std::less<>> written_;
 };
 
 } // namespace kelvaro

@@ -4,6 +4,7 @@
 #include "report/ReportFile.h"
 #include "report/TextLayout.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Trimmed.h"
 #include "tests/horoscope/HoroscopeFixture.h"
 
 #include <gtest/gtest.h>
@@ -62,10 +63,10 @@ std::vector<Block> BlocksIn(std::span<const std::string_view> pages, const std::
     for (const std::string_view page : pages) {
         for (const std::string &line : LinesOf(page)) {
             if (line.ends_with(titleEnd)) {
-                blocks.push_back({std::string(TrimmedBlanks(line)), {}});
+                blocks.push_back({std::string(Trimmed(line)), {}});
             }
             for (std::size_t column = 0; line.find(" => ", column) == column + 7; column += 37) {
-                blocks.back().periods.push_back({std::string(TrimmedBlanks(line.substr(column, 7))),
+                blocks.back().periods.push_back({std::string(Trimmed(line.substr(column, 7))),
                                                  line.substr(column + 11, 11), line.substr(column + 23, 11)});
             }
         }

