@@ -27,6 +27,9 @@ void ShowError(QWidget *parent, const std::exception &error) {
 void ShowNotice(QWidget *window, const Notice &notice) {
     const QString text = QString::fromStdString(notice.text);
     QMessageBox(IconOf(notice.icon), window->windowTitle(), text, QMessageBox::Ok, window).exec();
+    if (notice.focus.empty()) {
+        return;
+    }
     if (auto *control = window->findChild<QWidget *>(QString::fromStdString(notice.focus))) {
         control->setFocus();
     }

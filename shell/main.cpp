@@ -8,6 +8,9 @@ int main(int argc, char **argv) {
     const QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
     QApplication::setApplicationName(QStringLiteral("Kelvaro Basic"));
+    // So long may the letters be apart that are typed to find a name in a list.
+    constexpr int betweenLetters = 1000; // milliseconds
+    QApplication::setKeyboardInputInterval(betweenLetters);
     kelvaro::MDILight window;
     window.show();
     // From within the event loop, where a window closed in the middle of the run ends the program.
