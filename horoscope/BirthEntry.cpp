@@ -1,11 +1,13 @@
 #include "horoscope/BirthEntry.h"
 
 #include "horoscope/CalculateHoroscope.h"
+#include "horoscope/DateAndTimeTests.h"
 #include "horoscope/Horoscope.h"
 #include "horoscope/LastChart.h"
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Trimmed.h"
 #include "store/ChartStore.h"
 
 #include <algorithm>
@@ -16,37 +18,6 @@
 namespace kelvaro {
 
 namespace {
-
-bool IsBlank(std::string_view text) {
-    return text.find_first_not_of(" \t") == std::string_view::npos;
-}
-
-std::string DateTextOf(const BirthFields &fields) {
-    return fields.txt_Date + "/" + fields.txt_Month + "/" + fields.txt_Year;
-}
-
-Moment MomentOfBirth(const BirthFields &fields) {
-    return ReadMoment(DateTextOf(fields) + " " + HourText(fields) + ":" + fields.cbMins + ": 00");
-}
-
-bool IsNoYear(const BirthFields &fields) {
-    const double year = RoundHalfToEven(NumberFromText(fields.txt_Year));
-    return year < 1800 || year > 3000;
-}
-
-bool IsNoDate(const BirthFields &fields) {
-    try {
-        ReadMoment(DateTextOf(fields));
-        return false;
-    } catch (const ConversionError &) {
-        return true;
-    }
-}
-
-bool IsOutside(const std::string &number, double highest) {
-    const double whole = std::floor(NumberFromText(number));
-    return whole < 0 || whole > highest;
-}
 
 struct Test {
     bool (*fails)(const BirthFields &);
@@ -160,8 +131,7 @@ Notice UpdateBirth(const BirthFields &fields, Moment birth, store::Connection &c
     store::ChartStore(connection).Update(ChangedChart(fields, birth));
     // The settings come before the row, which stands only with the commit, but not before the database has
     // taken the row's values: a chart that has gone must not become the last chart.
-    KeepLastChart(fields, settings);
-    transaction.Commit();
+    KeepLastChartAround([&transaction] { transaction.Commit(); }, fields, settings);
     return {"Details are Sucessfully Updated", Notice::Icon::None};
 }
 
@@ -212,6 +182,10 @@ std::string HourText(const BirthFields &fields) {
         return fields.Opt_PM ? "12" : "0";
     }
     return fields.Opt_PM ? NumberText(NumberFromText(fields.cbHour) + 12) : fields.cbHour;
+}
+
+Moment MomentOfBirth(const BirthFields &fields) {
+    return ReadMoment(DateTextOf(fields) + " " + HourText(fields) + ":" + fields.cbMins + ": 00");
 }
 
 std::string RemarkOnTime(const BirthFields &fields) {

@@ -72,6 +72,9 @@ void ClearFields(BirthFields &fields);
 /// ConversionError for a PM hour that is no number.
 std::string HourText(const BirthFields &fields);
 
+/// Date and clock of the fields. Raises ConversionError where they do not exist.
+Moment MomentOfBirth(const BirthFields &fields);
+
 /// The words to stand beside the time, without a box: that a birth stored at noon now reads 12 AM. Empty
 /// where there is nothing to say, and so as soon as PM or another hour is chosen.
 std::string RemarkOnTime(const BirthFields &fields);

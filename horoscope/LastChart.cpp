@@ -60,6 +60,13 @@ KeyTexts TextsIn(SettingsStore &settings) {
     return texts;
 }
 
+void Write(const KeyTexts &texts, SettingsStore &settings) {
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        settings.Write(keys[i].name, texts[i]);
+    }
+    settings.Flush();
+}
+
 std::string LetterOf(const std::string &text, std::string_view choices) {
     if (text.size() != 1 || choices.find(text) == std::string_view::npos) {
         throw ConversionError("Type mismatch: \"" + text + "\" is no direction");
@@ -109,28 +116,27 @@ std::string RestoreLastChart(SettingsStore &settings, HoroscopeState &state) {
 }
 
 void KeepLastChart(const BirthFields &fields, SettingsStore &settings) {
-    const KeyTexts texts{fields.Txt_VC_ChartName,
-                         fields.txt_Date,
-                         fields.txt_Month,
-                         fields.txt_Year,
-                         HourText(fields),
-                         fields.cbMins,
-                         fields.cbTimeZone,
-                         fields.cbGender,
-                         fields.txt_VC_City,
-                         fields.txt_VC_Country,
-                         fields.txt_VC_LatNS,
-                         NumberText(fields.txt_VC_LatMin),
-                         NumberText(fields.txt_VC_LatDeg),
-                         fields.txt_VC_LonEW,
-                         NumberText(fields.txt_VC_LonMin),
-                         NumberText(fields.txt_VC_LonDeg),
-                         NumberText(fields.txt_VC_TimeDiff),
-                         fields.txt_VC_TimeDiffEW};
+    Write({fields.Txt_VC_ChartName, fields.txt_Date, fields.txt_Month, fields.txt_Year, HourText(fields),
+           fields.cbMins, fields.cbTimeZone, fields.cbGender, fields.txt_VC_City, fields.txt_VC_Country,
+           fields.txt_VC_LatNS, NumberText(fields.txt_VC_LatMin), NumberText(fields.txt_VC_LatDeg),
+           fields.txt_VC_LonEW, NumberText(fields.txt_VC_LonMin), NumberText(fields.txt_VC_LonDeg),
+           NumberText(fields.txt_VC_TimeDiff), fields.txt_VC_TimeDiffEW},
+          settings);
+}
+
+void KeepLastChartAround(const std::function<void()> &work, const BirthFields &fields,
+                         SettingsStore &settings) {
+    KeyTexts before = SampleTexts();
     for (std::size_t i = 0; i < keys.size(); ++i) {
-        settings.Write(keys[i].name, texts[i]);
+        before[i] = settings.Read(keys[i].name).value_or(before[i]);
     }
-    settings.Flush();
+    KeepLastChart(fields, settings);
+    try {
+        work();
+    } catch (...) {
+        Write(before, settings);
+        throw;
+    }
 }
 
 } // namespace kelvaro

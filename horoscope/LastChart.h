@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -34,5 +35,10 @@ std::string RestoreLastChart(SettingsStore &settings, HoroscopeState &state);
 /// Writes all eighteen keys together. Raises ConversionError for an hour that is no number, and RuntimeError
 /// where the settings cannot be written, with nothing written.
 void KeepLastChart(const BirthFields &fields, SettingsStore &settings);
+
+/// Does the same around some work that may fail: the keys are written first, and where the work raises they
+/// get back what they held, a missing key its part of the sample chart. Raises what the work raises.
+void KeepLastChartAround(const std::function<void()> &work, const BirthFields &fields,
+                         SettingsStore &settings);
 
 } // namespace kelvaro

@@ -1,7 +1,10 @@
 #include "panchanga/clsTithi.h"
 
+#include "runtime/RuntimeError.h"
+
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace kelvaro {
@@ -64,6 +67,14 @@ void clsTithi::FindTithi() {
         const double inTithi = elongation - (EndOf(*row) - tithiSize);
         Karnam = inTithi <= karanaSize ? row->firstHalf : row->secondHalf;
     }
+}
+
+Karanas KaranasOf(std::int16_t tithiNo) {
+    if (tithiNo < 1 || tithiNo > static_cast<std::int16_t>(tithis.size())) {
+        throw OverflowError("There is no tithi number " + std::to_string(tithiNo));
+    }
+    const TithiRow &row = tithis.at(static_cast<std::size_t>(tithiNo) - 1);
+    return {row.firstHalf, row.secondHalf};
 }
 
 } // namespace kelvaro

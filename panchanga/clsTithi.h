@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace kelvaro {
 
@@ -20,5 +21,13 @@ public:
 
     void FindTithi();
 };
+
+/// The karanas of the two halves of a tithi.
+struct Karanas {
+    std::string_view first, second;
+};
+
+/// Raises OverflowError for a number of a tithi outside 1 to 30.
+Karanas KaranasOf(std::int16_t tithiNo);
 
 } // namespace kelvaro

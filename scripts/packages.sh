@@ -6,11 +6,14 @@ build_packages=(
     libgtest-dev libbenchmark-dev nlohmann-json3-dev
 )
 display_packages=(
-    libqt6gui6 qt6-qpa-plugins fonts-dejavu-core fonts-liberation
+    libqt6gui6 libqt6svg6 qt6-qpa-plugins fonts-dejavu-core fonts-liberation
 )
 virtual_display_packages=(
     xvfb xauth xdotool imagemagick
 )
 check_packages=(
-    git clang-format clang-tidy
+    git clang libclang-rt-dev clang-format clang-tidy
+)
+package_packages=(
+    file dpkg-dev mmdebstrap
 )

@@ -291,6 +291,22 @@ TEST_F(BirthEntryTest, SettingsThatCannotBeWrittenKeepTheStoredRow) {
     EXPECT_EQ(another.txt_VC_UserId, 2) << "stored, so that a second try does not store it twice";
 }
 
+TEST_F(BirthEntryTest, ChangeThatCannotBeCommittedKeepsTheSettings) {
+    BirthFields fields = Entered();
+    Save(fields);
+    const auto kept = settings_.values;
+    fields.Txt_VC_ChartName = "Someone Else";
+    // Another program that is reading lets the row be changed, but not the change be committed.
+    store::Connection other;
+    other.Open(file_);
+    other.Execute("begin");
+    store::Recordset reader;
+    reader.Open("select * from ChartSave", other);
+    EXPECT_THROW(Save(fields), store::StoreError);
+    EXPECT_EQ(settings_.values, kept);
+    EXPECT_EQ(First("select ChartName from ChartSave"), "Velnesh~4-Jul-1965");
+}
+
 TEST_F(BirthEntryTest, CountryIsThePositionInTheList) {
     BirthFields fields = Entered();
     Save(fields);

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+namespace kelvaro {
+
+struct BirthFields;
+
+// Tests of the date and the time of a form, shared by the form of birth details and the time converters.
+
+/// Day, month and year joined by "/".
+std::string DateTextOf(const BirthFields &fields);
+
+/// Whether day, month and year are no date.
+bool IsNoDate(const BirthFields &fields);
+
+/// Whether the year is below 1800 or above 3000. Raises ConversionError for one that is no number.
+bool IsNoYear(const BirthFields &fields);
+
+/// Whether the whole part of a number is negative or above a bound. Raises ConversionError for a text that is
+/// no number.
+bool IsOutside(const std::string &number, double highest);
+
+} // namespace kelvaro

@@ -1,0 +1,186 @@
+// Saving charts until no more can be written: the error is told and all earlier charts are there.
+
+#include "horoscope/CalculateHoroscope.h"
+#include "store/ChartStore.h"
+#include "tests/horoscope/BirthEntryFixture.h"
+
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+
+#include <csignal>
+
+namespace kelvaro {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Lets this process write no file beyond a size.
+void LimitFileSize(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, bytes};
+    if (setrlimit(RLIMIT_FSIZE, &limit) != 0) {
+        throw std::runtime_error("File sizes cannot be limited");
+    }
+}
+
+/// Lets a process of an ordinary user mount for itself, under the user's own name.
+bool BecomeMaster() {
+    const auto line = [](auto id) { return std::to_string(id) + " " + std::to_string(id) + " 1"; };
+    const std::string users = line(geteuid());
+    const std::string groups = line(getegid());
+    if (unshare(CLONE_NEWUSER) != 0) {
+        return false;
+    }
+    store::WriteFile("/proc/self/setgroups", "deny");
+    store::WriteFile("/proc/self/uid_map", users);
+    store::WriteFile("/proc/self/gid_map", groups);
+    return true;
+}
+
+/// Puts a disk of that size in the place of a folder, seen by this process alone and gone with it. False
+/// where the machine does not let this user do so.
+bool MountSmallDisk(const fs::path &folder, std::size_t bytes) {
+    const std::string size = "size=" + std::to_string(bytes);
+    return (geteuid() == 0 || BecomeMaster()) && unshare(CLONE_NEWNS) == 0 &&
+           mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           mount("none", folder.c_str(), "tmpfs", 0, size.c_str()) == 0;
+}
+
+bool CanHaveSmallDisk(const fs::path &folder) {
+    const pid_t child = fork();
+    if (child == 0) {
+        _exit(MountSmallDisk(folder, 4096) ? 0 : 1);
+    }
+    int status = -1;
+    return waitpid(child, &status, 0) == child && status == 0;
+}
+
+/// The work is done in a process of its own, which ends with 0 where all went as it should.
+class FullDiskTest : public BirthEntryTest {
+protected:
+    FullDiskTest() {
+        Save(first_);
+        // Without the gazetteer the database is small.
+        connection_.Execute("delete from City_Master");
+        connection_.Execute("vacuum");
+        connection_.Close();
+    }
+
+    static void Require(bool holds, const std::string &what) {
+        if (!holds) {
+            fprintf(stderr, "Not so: %s\n", what.c_str());
+            _exit(1);
+        }
+    }
+
+    /// Saves new charts with long texts until one is refused; returns why.
+    static std::string SaveUntilRefused(const BirthFields &entered, store::Connection &connection,
+                                        SettingsStore &settings, int &saved) {
+        for (; saved < 2000; ++saved) {
+            BirthFields next = entered;
+            next.txt_VC_UserId = 0;
+            next.txt_VC_City = next.cityOfPlace = std::string(2000, 'x');
+            const BirthFields typed = next;
+            std::string refusal = store::ErrorOf([&] { SaveBirth(next, connection, settings); });
+            if (!refusal.empty()) {
+                Require(next == typed, "a refused save leaves the form as it was");
+                return refusal;
+            }
+        }
+        return {};
+    }
+
+    /// Fills the disk with charts, then tries everything else that writes.
+    [[noreturn]] void FillUp(const fs::path &file, const char *words) {
+        store::Connection connection;
+        connection.Open(file);
+        int saved = 0;
+        const std::string refusal = SaveUntilRefused(first_, connection, settings_, saved);
+        Require(refusal.find(words) != std::string::npos, "\"" + refusal + "\" tells: " + words);
+
+        BirthFields longer = first_;
+        longer.txt_VC_City = longer.cityOfPlace = std::string(100'000, 'y');
+        Require(!store::ErrorOf([&] { SaveBirth(longer, connection, settings_); }).empty(),
+                "a chart that grows is refused");
+        RecordingDisplay display;
+        Horoscope horoscope(connection, display);
+        for (int runs = 0; runs < 200 && display.failure.empty(); ++runs) {
+            CalculateHoroscope(horoscope);
+        }
+        Require(display.failedStep == "Dasa" && display.failure.find(words) != std::string::npos,
+                display.failedStep + ": " + display.failure);
+        Require(Charts(connection) == std::to_string(1 + saved), "what was saved is there");
+        connection.Close();
+        connection.Open(file);
+        Require(Charts(connection) == std::to_string(1 + saved), "what was saved is there after a new start");
+        Require(store::FirstText("pragma integrity_check", connection) == "ok", "the database is sound");
+        _exit(0);
+    }
+
+    static std::string Charts(store::Connection &connection) {
+        return store::FirstText("select count(*) from ChartSave where ChartName = 'Velnesh~4-Jul-1965' and "
+                                "City in ('Hyderabad (A.P)', replace(hex(zeroblob(1000)), '0', 'x'))",
+                                connection);
+    }
+
+    BirthFields first_ = Entered();
+};
+
+TEST_F(FullDiskTest, AFileThatMayNotGrowKeepsItsCharts) {
+    const std::size_t size = fs::file_size(file_);
+    // The smallest lets not even the journal be written.
+    for (const std::size_t limit :
+         {std::size_t{512}, std::size_t{6000}, size, size + 20'000, size + 300'000}) {
+        EXPECT_EXIT(
+            {
+                const fs::path file = folder_ / std::to_string(limit);
+                fs::copy_file(file_, file);
+                LimitFileSize(limit);
+                FillUp(file, "cannot be read or written");
+            },
+            testing::ExitedWithCode(0), "")
+            << limit;
+    }
+}
+
+TEST_F(FullDiskTest, AFullDiskIsToldAndKeepsItsCharts) {
+    const fs::path disk = folder_ / "disk";
+    fs::create_directory(disk);
+    if (!CanHaveSmallDisk(disk)) {
+        GTEST_SKIP() << "this machine lets the user mount no disk";
+    }
+    for (const std::size_t room : {8'000, 50'000, 500'000}) {
+        EXPECT_EXIT(
+            {
+                MountSmallDisk(disk, fs::file_size(file_) + room);
+                fs::copy_file(file_, disk / store::databaseFileName);
+                FillUp(disk / store::databaseFileName, "There is no room left");
+            },
+            testing::ExitedWithCode(0), "")
+            << room;
+    }
+}
+
+TEST_F(FullDiskTest, AFirstStartWithoutRoomLeavesNothing) {
+    const fs::path disk = folder_ / "disk";
+    fs::create_directory(disk);
+    if (!CanHaveSmallDisk(disk)) {
+        GTEST_SKIP() << "this machine lets the user mount no disk";
+    }
+    store::WriteFile(folder_ / "DBMirvaneBasic.original", "");
+    EXPECT_EXIT(
+        {
+            MountSmallDisk(disk, fs::file_size(file_) / 2);
+            const std::string refusal =
+                store::ErrorOf([&] { store::FindDatabaseFile(folder_.Path(), disk); });
+            Require(refusal.find("cannot be copied into the folder") != std::string::npos, refusal);
+            Require(fs::is_empty(disk), "nothing is left");
+            _exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+}
+
+} // namespace
+} // namespace kelvaro
