@@ -3,15 +3,14 @@
 #include "horoscope/Horoscope.h"
 #include "runtime/Now.h"
 #include "shell/ChartListDialog.h"
+#include "shell/FieldFocus.h"
 #include "shell/ListedChoice.h"
 #include "shell/MessageBoxes.h"
-#include "shell/TypeAhead.h"
 #include "ui_BirthDialog.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QListView>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QRegularExpressionValidator>
@@ -21,77 +20,19 @@
 
 #include <algorithm>
 #include <array>
-#include <span>
 
 namespace kelvaro {
 
 namespace {
 
 constexpr int placeColumns = 44; ///< characters of the longest zones
-constexpr int listedRows = 12;
 constexpr int remarkColumns = 30;
-
-/// "05" to "12", say: all of one width.
-QStringList NumbersFromTo(int first, int last, int width) {
-    QStringList numbers;
-    for (int number = first; number <= last; ++number) {
-        numbers << QStringLiteral("%1").arg(number, width, 10, QLatin1Char('0'));
-    }
-    return numbers;
-}
-
-QStringList TextsOf(std::span<const std::string_view> texts) {
-    QStringList list;
-    for (const std::string_view text : texts) {
-        list << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    }
-    return list;
-}
-
-std::vector<store::ListItem> RowsOf(const std::vector<store::Zone> &zones) {
-    std::vector<store::ListItem> rows;
-    rows.reserve(zones.size());
-    for (const store::Zone &zone : zones) {
-        rows.push_back({zone.text, zone.number});
-    }
-    return rows;
-}
 
 struct TextList {
     QComboBox *box;
     int columns; ///< characters that the box has room for
     QStringList texts;
 };
-
-/// A box of a fixed width, whatever stands in its list, which may be thousands of rows long.
-void Prepare(QComboBox *box, int columns) {
-    TypeAhead::Serve(box);
-    auto *view = new QListView(box);
-    view->setUniformItemSizes(true);
-    view->setSpacing(1);
-    box->setView(view);
-    box->setMaxVisibleItems(listedRows);
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(columns);
-}
-
-/// Chooses the row of that text; another text stands in the box without a row.
-void ShowText(QComboBox *box, const std::string &text) {
-    const QString shown = QString::fromStdString(text);
-    if (box->itemText(box->currentIndex()) != shown) {
-        box->setCurrentIndex(box->findText(shown, Qt::MatchFixedString | Qt::MatchCaseSensitive));
-    }
-    box->setEditText(shown);
-}
-
-/// Gives the focus, with the text of the field ready to be typed over.
-void FocusOn(QWidget *field) {
-    field->setFocus(Qt::TabFocusReason);
-    auto *box = qobject_cast<QComboBox *>(field);
-    if (auto *line = box != nullptr ? box->lineEdit() : qobject_cast<QLineEdit *>(field)) {
-        line->selectAll();
-    }
-}
 
 QIcon IconOf(const QStyle *style, const char *theme, QStyle::StandardPixmap otherwise) {
     return QIcon::fromTheme(QString::fromLatin1(theme), style->standardIcon(otherwise));
@@ -189,13 +130,13 @@ void BirthDialog::FillLists() {
         {controls_->cbMins, 2, NumbersFromTo(0, 59, 2)},
     }};
     for (const auto &[box, columns, texts] : boxes) {
-        Prepare(box, columns);
+        PrepareList(box, columns);
         FillList(box, texts);
     }
     static const QRegularExpression digits(QStringLiteral("[0-9]*"));
     controls_->txt_Year->setValidator(new QRegularExpressionValidator(digits, this));
     for (QComboBox *box : {controls_->txt_VC_Country, controls_->txt_VC_City, controls_->cbTimeZone}) {
-        Prepare(box, placeColumns);
+        PrepareList(box, placeColumns);
     }
     FillList(controls_->txt_VC_Country, lists_.Countries());
 }

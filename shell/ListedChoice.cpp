@@ -1,5 +1,9 @@
 #include "shell/ListedChoice.h"
 
+#include "shell/TypeAhead.h"
+
+#include <QListView>
+
 #include <memory>
 
 namespace kelvaro {
@@ -26,6 +30,43 @@ void ChooseRow(QComboBox *box, int row) {
 
 } // namespace
 
+void PrepareList(QComboBox *box, int columns) {
+    constexpr int listedRows = 12;
+    TypeAhead::Serve(box);
+    auto *view = new QListView(box);
+    view->setUniformItemSizes(true);
+    view->setSpacing(1);
+    box->setView(view);
+    box->setMaxVisibleItems(listedRows);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(columns);
+}
+
+QStringList NumbersFromTo(int first, int last, int width) {
+    QStringList numbers;
+    for (int number = first; number <= last; ++number) {
+        numbers << QStringLiteral("%1").arg(number, width, 10, QLatin1Char('0'));
+    }
+    return numbers;
+}
+
+QStringList TextsOf(std::span<const std::string_view> texts) {
+    QStringList list;
+    for (const std::string_view text : texts) {
+        list << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    }
+    return list;
+}
+
+std::vector<store::ListItem> RowsOf(const std::vector<store::Zone> &zones) {
+    std::vector<store::ListItem> rows;
+    rows.reserve(zones.size());
+    for (const store::Zone &zone : zones) {
+        rows.push_back({zone.text, zone.number});
+    }
+    return rows;
+}
+
 void FillList(QComboBox *box, const std::vector<store::ListItem> &items) {
     box->clear();
     // A box chooses the first row that it gets.
@@ -41,6 +82,14 @@ void FillList(QComboBox *box, const QStringList &texts) {
     const QSignalBlocker quiet(box);
     box->addItems(texts);
     ChooseRow(box, -1);
+}
+
+void ShowText(QComboBox *box, const std::string &text) {
+    const QString shown = QString::fromStdString(text);
+    if (box->itemText(box->currentIndex()) != shown) {
+        box->setCurrentIndex(box->findText(shown, Qt::MatchFixedString | Qt::MatchCaseSensitive));
+    }
+    box->setEditText(shown);
 }
 
 QString ChosenText(const QComboBox *box) {

@@ -16,6 +16,7 @@
 #include "shell/PreferencesDialog.h"
 #include "shell/ServerPane.h"
 #include "shell/StatusPanel.h"
+#include "shell/TimeConverterDialog.h"
 #include "shell/TimeZoneDialog.h"
 #include "shell/ViewWithPanes.h"
 #include "store/DatabaseFile.h"
@@ -177,9 +178,11 @@ void MDILight::BuildMenu() {
              {"mnudetails", "Edit Personal &Info", [this] { ShowModally<PersonalInfoDialog>(connection_); }},
              {"mnuPreferences", "&Preferences", [this] { ShowModally<PreferencesDialog>(horoscope_); }}});
     AddMenu(menuBar(), "mnuBirthTime", "&Time Converter",
-            {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika", [] {}},
+            {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika",
+              [this] { ShowModally<IshtaGhatiDialog>(horoscope_); }},
              {},
-             {"mnu_BirthTime", "Ishta&Ghatika To BirthTime", [] {}}});
+             {"mnu_BirthTime", "Ishta&Ghatika To BirthTime",
+              [this] { ShowModally<BirthTimeDialog>(horoscope_); }}});
     AddMenu(menuBar(), "mdiHelpmnu", "Help",
             {{"mnuHelp", "&Help", [this] { ShowHelp(); }, QKeySequence::HelpContents},
              {},

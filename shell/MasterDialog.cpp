@@ -1,5 +1,6 @@
 #include "shell/MasterDialog.h"
 
+#include "shell/FieldFocus.h"
 #include "shell/MessageBoxes.h"
 
 #include <QKeyEvent>
@@ -17,6 +18,7 @@ void MasterDialog::keyPressEvent(QKeyEvent *event) {
         button->click();
     } else {
         focusNextChild();
+        SelectText(focusWidget());
     }
 }
 
@@ -28,8 +30,8 @@ void MasterDialog::showEvent(QShowEvent *event) {
 
 void MasterDialog::Tell(const Notice &notice) {
     ShowNotice(this, notice);
-    if (auto *line = findChild<QLineEdit *>(QString::fromStdString(notice.focus))) {
-        line->selectAll();
+    if (!notice.focus.empty()) {
+        SelectText(findChild<QWidget *>(QString::fromStdString(notice.focus)));
     }
 }
 
