@@ -1,6 +1,7 @@
 #include "shell/MDILight.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QStandardPaths>
 #include <QTimer>
 
@@ -8,6 +9,8 @@ int main(int argc, char **argv) {
     const QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
     QApplication::setApplicationName(QStringLiteral("Kelvaro Basic"));
+    QApplication::setDesktopFileName(QStringLiteral("kelvaro-basic"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvaro-basic.svg")));
     // So long may the letters be apart that are typed to find a name in a list.
     constexpr int betweenLetters = 1000; // milliseconds
     QApplication::setKeyboardInputInterval(betweenLetters);
