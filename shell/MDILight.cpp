@@ -9,6 +9,7 @@
 #include "shell/CityDialog.h"
 #include "shell/CountryDialog.h"
 #include "shell/HelpWindow.h"
+#include "shell/HoroscopeViews.h"
 #include "shell/MainHoroscope.h"
 #include "shell/MainMenu.h"
 #include "shell/MessageBoxes.h"
@@ -18,7 +19,7 @@
 #include "shell/StatusPanel.h"
 #include "shell/TimeConverterDialog.h"
 #include "shell/TimeZoneDialog.h"
-#include "shell/ViewWithPanes.h"
+#include "shell/ViewArea.h"
 #include "store/DatabaseFile.h"
 #include "store/PersonalDetails.h"
 
@@ -33,6 +34,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <array>
 
 namespace kelvaro {
 
@@ -52,18 +54,6 @@ constexpr std::array<const char *, 18> unloadOrder{
     "frm_AddTimeZone",   "frm_Details",     "frm_IshtaghatikaToBirthTime",
     "frm_MainHoroscope", "frm_Preferences", "Frm_RetriveBirthData"};
 
-/// A window of the area without a frame. It takes up the whole area and stays, whatever key is pressed.
-class FramelessSubWindow : public QMdiSubWindow {
-public:
-    explicit FramelessSubWindow(QWidget *view) : QMdiSubWindow(nullptr, Qt::FramelessWindowHint) {
-        setWidget(view);
-        setAttribute(Qt::WA_DeleteOnClose, false);
-    }
-
-protected:
-    void closeEvent(QCloseEvent *event) override { event->ignore(); }
-};
-
 /// The place of a view among the views; the first for an empty or unknown name.
 std::size_t ViewNamed(std::string_view name) {
     const auto row = std::ranges::find(horoscopeViews, name, &HoroscopeViewRow::viewName);
@@ -78,18 +68,15 @@ QString TextOf(std::string_view text) {
 
 MDILight::MDILight(const QString &settingsFile)
     : settings_(settingsFile.isEmpty() ? QSettings() : QSettings(settingsFile, QSettings::IniFormat)),
-      lastChart_(settingsFile), horoscope_(connection_, *this), area_(new QMdiArea), tree_(new MainHoroscope),
+      lastChart_(settingsFile), horoscope_(connection_, *this),
+      views_(new ViewArea(ServerAddress(settings_.value(serverKey).toString()))), tree_(new MainHoroscope),
       owner_(new QLabel) {
     setObjectName(QStringLiteral("MDILight"));
     setWindowTitle(QStringLiteral("Kelvaro - Kelvaro Basic (Version 2.4)"));
-    area_->setBackground(parchmentColour);
-    area_->setFrameShape(QFrame::NoFrame);
-    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 
     auto *splitter = new QSplitter;
     splitter->addWidget(tree_);
-    splitter->addWidget(area_);
+    splitter->addWidget(views_);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({treeWidth, width()});
     splitter->setChildrenCollapsible(false);
@@ -104,7 +91,6 @@ MDILight::MDILight(const QString &settingsFile)
     BuildMenu();
     FnDisable();
     BuildShortcuts();
-    BuildViews();
     owner_->setContentsMargins(splitterWidth, 0, splitterWidth, 0);
     statusBar()->addPermanentWidget(owner_);
     connect(tree_, &MainHoroscope::ViewChosen, this, &MDILight::ChooseView);
@@ -225,19 +211,6 @@ void MDILight::BuildShortcuts() {
     }
 }
 
-void MDILight::BuildViews() {
-    const QUrl server = ServerAddress(settings_.value(serverKey).toString());
-    for (std::size_t index = 0; index < horoscopeViews.size(); ++index) {
-        HoroscopeView *view = horoscopeViews.at(index).make();
-        view->setObjectName(QString::fromLatin1(horoscopeViews.at(index).form));
-        ViewWithPanes *panes = server.isValid() ? new ViewWithPanes(view, server) : nullptr;
-        auto *window = new FramelessSubWindow(panes != nullptr ? static_cast<QWidget *>(panes) : view);
-        area_->addSubWindow(window, window->windowFlags());
-        window->hide();
-        views_.at(index) = {view, window, panes, true};
-    }
-}
-
 /// Where the window stood at its last end; the whole screen at first.
 void MDILight::RestoreWindowPlace() {
     if (!restoreGeometry(settings_.value(geometryKey).toByteArray())) {
@@ -338,10 +311,7 @@ void MDILight::CloseStatus() {
 }
 
 void MDILight::HideHoroscopeForms() {
-    for (ViewWindow &each : views_) {
-        each.window->hide();
-        each.isStale = true;
-    }
+    views_->HideViews();
 }
 
 void MDILight::HideOpenChart() {
@@ -353,27 +323,11 @@ void MDILight::HideOpenChart() {
 void MDILight::ShowCurrentView(std::string_view currentView) {
     const std::size_t shown = ViewNamed(currentView);
     const bool isInTree = tree_->isAncestorOf(focusWidget());
-    RefreshView(shown);
-    for (std::size_t index = 0; index < views_.size(); ++index) {
-        views_.at(index).window->setVisible(index == shown);
-    }
-    views_.at(shown).window->showMaximized();
-    area_->setActiveSubWindow(views_.at(shown).window);
-    if (views_.at(shown).panes != nullptr) {
-        views_.at(shown).panes->Navigate();
-    }
+    views_->ShowView(shown, horoscope_);
     tree_->MarkView(shown);
     if (isInTree) {
         // The shown window drew the keys to itself, and the user is still on the way through the tree.
         tree_->setFocus();
-    }
-}
-
-/// Fills a view at the first look at it after a run.
-void MDILight::RefreshView(std::size_t view) {
-    if (views_.at(view).isStale) {
-        views_.at(view).isStale = false;
-        views_.at(view).view->Refresh(horoscope_);
     }
 }
 

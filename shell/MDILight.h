@@ -2,17 +2,14 @@
 
 #include "horoscope/Horoscope.h"
 #include "horoscope/StatusDisplay.h"
-#include "shell/HoroscopeViews.h"
 #include "shell/UserSettings.h"
 
 #include <QLabel>
 #include <QMainWindow>
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QPointer>
 #include <QSettings>
 
-#include <array>
+#include <cstddef>
 #include <filesystem>
 
 namespace kelvaro {
@@ -21,7 +18,7 @@ class BirthDialog;
 class HelpWindow;
 class MainHoroscope;
 class StatusPanel;
-class ViewWithPanes;
+class ViewArea;
 
 /// The main window: the horoscope in force, its tree and its views, the menus and what they open.
 class MDILight : public QMainWindow, private StatusDisplay {
@@ -56,13 +53,6 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    struct ViewWindow {
-        HoroscopeView *view = nullptr;
-        QMdiSubWindow *window = nullptr;
-        ViewWithPanes *panes = nullptr; ///< none where no server is configured
-        bool isStale = true;            ///< not filled since the last run
-    };
-
     void OpenStatus() override;
     void AdvanceStatusBar() override;
     void CloseStatus() override;
@@ -79,10 +69,8 @@ private:
 
     void BuildMenu();
     void BuildShortcuts();
-    void BuildViews();
     void RestoreWindowPlace();
     void ChooseView(std::size_t view);
-    void RefreshView(std::size_t view);
 
     bool IsFree() const { return connection_.IsOpen() && !horoscope_.isCalculating; }
     BirthDialog &ShownBirthForm();
@@ -95,11 +83,10 @@ private:
     UserSettings lastChart_;
     store::Connection connection_;
     Horoscope horoscope_;
-    QMdiArea *area_;
+    ViewArea *views_;
     MainHoroscope *tree_;
     StatusPanel *panel_ = nullptr;
     QLabel *owner_; ///< whose program this is, in the status bar
-    std::array<ViewWindow, horoscopeViews.size()> views_;
     QPointer<BirthDialog> birthForm_;
     QPointer<HelpWindow> help_;
     bool isCloseWanted_ = false; ///< the window was closed in the middle of a run

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QMdiArea>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTableView>

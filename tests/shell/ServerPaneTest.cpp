@@ -2,6 +2,8 @@
 #include "store/DatabaseFile.h"
 
 #include <QDesktopServices>
+#include <QMdiSubWindow>
+#include <QNetworkAccessManager>
 #include <QPushButton>
 #include <QTcpServer>
 #include <QTcpSocket>
