@@ -22,7 +22,9 @@ public:
     Result IshtaGhatiOfBirthTime(const BirthFields &fields);
 
     /// "Birth Time : 02:15 PM" for the ghatis in `cbHour`, 0 to 60, and the vighatis in `cbMins`, 0 to 59,
-    /// after the sunrise of the date. The date itself is not tested.
+    /// after the sunrise of the date. The date itself is not tested. Both take decimals. A third part that is
+    /// entered so, 21:2:30 as 21 and 2.5, comes back to the minute; without it the clock, which shows no
+    /// seconds, can read a minute less.
     Result BirthTimeOfIshtaGhati(const BirthFields &fields);
 
 private:

@@ -27,6 +27,11 @@ TimeConverterDialog::TimeConverterDialog(const Kind &kind, Horoscope &horoscope,
         TakeGhatis();
     }
     OnChoice(controls_->Cmb_VP_Country, [this] { Guard([this] { TakeCountry(); }); });
+    // A result never stands beside fields that it does not belong to.
+    for (const QComboBox *box : findChildren<QComboBox *>()) {
+        connect(box, &QComboBox::currentTextChanged, controls_->result, &QLineEdit::clear);
+    }
+    connect(controls_->Opt_PM, &QRadioButton::toggled, controls_->result, &QLineEdit::clear);
     connect(controls_->cmdSubmit, &QPushButton::clicked, this, [this] { Guard([this] { Convert(); }); });
     connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &QDialog::reject);
     FocusOn(controls_->txt_Date);
@@ -109,6 +114,9 @@ void TimeConverterDialog::Convert() {
     const TimeConverters::Result result = (converters_.*kind_.convert)(fields_);
     if (const auto *notice = std::get_if<Notice>(&result)) {
         Tell(*notice);
+        if (const auto *box = findChild<QComboBox *>(QString::fromStdString(notice->focus))) {
+            box->lineEdit()->selectAll(); // ready to be typed over
+        }
         return;
     }
     controls_->result->setText(QString::fromStdString(std::get<std::string>(result)));

@@ -76,10 +76,10 @@ void TimeConvertersTest::BirthTimeBecomesIshtaGhatiAndComesBack() {
     BirthTimeDialog back(horoscope_);
     back.show();
     QVERIFY(QTest::qWaitForWindowExposed(&back));
-    for (const char *text : {"14", "jul", "1965", "21", "02", "india", "hyderabad (a", "", ""}) {
+    for (const char *text : {"14", "jul", "1965", "21", "2.5", "india", "hyderabad (a", "", ""}) {
         Enter(&back, text);
     }
-    QCOMPARE(ResultIn(back, "txtBirthTime"), QStringLiteral("Birth Time : 02:14 PM"));
+    QCOMPARE(ResultIn(back, "txtBirthTime"), QStringLiteral("Birth Time : 02:15 PM"));
 }
 
 void TimeConvertersTest::FaultsAreToldAndTheFieldWaits() {
