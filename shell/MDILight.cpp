@@ -31,7 +31,6 @@
 #include <QShortcut>
 #include <QSplitter>
 #include <QStatusBar>
-#include <QTimer>
 
 #include <algorithm>
 #include <array>
@@ -269,7 +268,8 @@ template <class Master> void MDILight::ShowMasterForBirthForm() {
 void MDILight::ShowHelp() {
     QWidget *asking = QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this;
     if (help_ != nullptr && help_->parentWidget() != asking) {
-        delete help_;
+        help_->deleteLater();
+        help_ = nullptr;
     }
     if (help_ == nullptr) {
         // As a child of a modal dialog it can be read while the dialog is open.
@@ -306,7 +306,7 @@ void MDILight::CloseStatus() {
     panel_->Close();
     if (isCloseWanted_) {
         // When the run that is about to end has ended.
-        QTimer::singleShot(0, this, &QWidget::close);
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
     }
 }
 
