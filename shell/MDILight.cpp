@@ -306,7 +306,7 @@ void MDILight::CloseStatus() {
     panel_->Close();
     if (isCloseWanted_) {
         // When the run that is about to end has ended.
-        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, "close", Qt::QueuedConnection);
     }
 }
 
