@@ -5,6 +5,8 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace kelvaro {
 
 namespace {
@@ -33,8 +35,8 @@ QSplitter *Divide(Qt::Orientation direction, QWidget *view, QWidget *pane) {
 
 } // namespace
 
-ViewWithPanes::ViewWithPanes(HoroscopeView *view, const QUrl &server)
-    : server_(server),
+ViewWithPanes::ViewWithPanes(HoroscopeView *view, QUrl server)
+    : server_(std::move(server)),
       right_(new ServerPane(QStringLiteral("WebMirvaneAdds_Right"), QStringLiteral("cmdMaximize1"))),
       bottom_(new ServerPane(QStringLiteral("WebMirvaneAdds_Bottom"), QStringLiteral("cmdMaximize2"))) {
     auto *layout = new QVBoxLayout(this);

@@ -12,7 +12,7 @@ class ServerPane;
 class ViewWithPanes : public QWidget {
 public:
     /// Takes the view over. The pages come from the server at this address.
-    ViewWithPanes(HoroscopeView *view, const QUrl &server);
+    ViewWithPanes(HoroscopeView *view, QUrl server);
 
     /// Fetches both pages anew; wanted each time the view is shown.
     void Navigate();

@@ -17,9 +17,12 @@ int main(int argc, char **argv) {
     kelvaro::MDILight window;
     window.show();
     // From within the event loop, where a window closed in the middle of the run ends the program.
-    QTimer::singleShot(0, &window, [&window] {
+    QTimer begin;
+    begin.setSingleShot(true);
+    QObject::connect(&begin, &QTimer::timeout, &window, [&window] {
         window.Start(QApplication::applicationDirPath().toStdString(),
                      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
     });
+    begin.start(0);
     return QApplication::exec();
 }
