@@ -268,6 +268,7 @@ template <class Master> void MDILight::ShowMasterForBirthForm() {
 void MDILight::ShowHelp() {
     QWidget *asking = QApplication::activeModalWidget() != nullptr ? QApplication::activeModalWidget() : this;
     if (help_ != nullptr && help_->parentWidget() != asking) {
+        help_->setParent(nullptr);
         help_->deleteLater();
         help_ = nullptr;
     }
