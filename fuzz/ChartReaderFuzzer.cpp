@@ -2,7 +2,7 @@
 // the saved charts with whatever values, opened, computed and saved again as the form does it.
 
 #include "fuzz/Require.h"
-#include "horoscope/BirthEntry.h"
+#include "horoscope/BirthStorage.h"
 #include "horoscope/Horoscope.h"
 #include "horoscope/LastChart.h"
 #include "store/ChartStore.h"

@@ -15,7 +15,6 @@ namespace kelvaro {
 
 struct Horoscope;
 struct HoroscopeState;
-class SettingsStore;
 
 inline constexpr std::array<std::string_view, 2> genderChoices{"Male", "Female"};
 inline constexpr std::array<std::string_view, 12> monthChoices{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
@@ -56,11 +55,6 @@ struct PlaceChoices {
     std::vector<store::Zone> zones;
 };
 
-struct OpenedBirth {
-    BirthFields fields;
-    PlaceChoices choices;
-};
-
 /// The fields at load: the first gender, date and time of the present moment, no place.
 BirthFields FieldsAtLoad(Moment present);
 
@@ -92,6 +86,12 @@ void ChooseCity(BirthFields &fields, const store::PlaceLists &lists);
 void ChooseZone(BirthFields &fields, std::int32_t zoneNumber, const store::PlaceLists &lists,
                 const HoroscopeState &state);
 
+/// Takes a place over, for the city that stands in the fields.
+void TakePlace(const store::Place &place, BirthFields &fields);
+
+/// Takes text, offset and direction of a zone over.
+void TakeZone(const store::Zone &zone, BirthFields &fields);
+
 /// The tests of the fields, in their order; the first that fails is told. Raises ConversionError for a year,
 /// an hour or a minute that is no number.
 std::optional<Notice> TestBirth(const BirthFields &fields);
@@ -104,31 +104,5 @@ void HandOver(const BirthFields &fields, HoroscopeState &state);
 /// Returns what is to be told when a test fails, with nothing changed. Does nothing while another horoscope
 /// is being computed. Raises like `TestBirth` and `HandOver`.
 std::optional<Notice> AcceptBirth(const BirthFields &fields, Horoscope &horoscope);
-
-/// "&Save": tests the fields and stores them, as a new chart or over the saved one, and as the last chart in
-/// the settings. Returns what is to be told in either case. The horoscope in force stays. Raises StoreError
-/// or ConversionError with database, settings and fields as they were, and RuntimeError for settings that
-/// cannot be written: a saved chart then keeps its row, a new one is stored all the same.
-Notice SaveBirth(BirthFields &fields, store::Connection &connection, SettingsStore &settings);
-
-/// The fields for a row of the list of saved charts. Nothing is computed before "&OK". The country is the
-/// one at the stored number's position in the list, counted from 1. Raises StoreError when the chart, its
-/// country or its zone is not found.
-OpenedBirth OpenBirth(const store::ListItem &chart, store::Connection &connection,
-                      const HoroscopeState &state);
-
-/// What is said when a chart is to be opened and none is chosen.
-Notice NoChartChosen();
-
-inline constexpr std::string_view deleteQuestion = "Are You Sure You want to delete ?";
-
-/// Whether the menu asks its question: a saved chart stands on the form.
-bool CanDeleteFromMenu(const BirthFields &fields);
-
-/// Whether the toolbar asks its question: a name stands on the form.
-bool CanDeleteFromToolbar(const BirthFields &fields);
-
-/// Deletes the saved chart on the form and clears the form.
-Notice DeleteBirth(BirthFields &fields, store::Connection &connection);
 
 } // namespace kelvaro

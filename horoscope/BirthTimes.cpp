@@ -25,6 +25,11 @@ struct TimeOfArc {
 };
 
 TimeOfArc TimeOf(double degrees) {
+    // A number so small is written with an exponent, and its first digit would count as minutes.
+    constexpr double smallestPlain = 1e-4;
+    if (degrees * 4 < smallestPlain) {
+        return {};
+    }
     const std::string text = NumberText(degrees * 4);
     const auto point = text.find('.');
     TimeOfArc time;

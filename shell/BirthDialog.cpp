@@ -1,5 +1,6 @@
 #include "shell/BirthDialog.h"
 
+#include "horoscope/BirthStorage.h"
 #include "horoscope/Horoscope.h"
 #include "runtime/Now.h"
 #include "shell/ChartListDialog.h"
@@ -121,8 +122,8 @@ void BirthDialog::BuildToolbar() {
 }
 
 void BirthDialog::FillLists() {
-    const std::array<TextList, 6> boxes{{
-        {controls_->cbGender, 7, TextsOf(genderChoices)},
+    FillList(controls_->cbGender, TextsOf(genderChoices)); // nothing can be typed into this one
+    const std::array<TextList, 5> boxes{{
         {controls_->txt_Date, 2, NumbersFromTo(1, 31, 2)},
         {controls_->txt_Month, 3, TextsOf(monthChoices)},
         {controls_->txt_Year, 4, NumbersFromTo(firstListedYear, lastListedYear, 4)},
@@ -161,8 +162,11 @@ void BirthDialog::ConnectFields() {
         connect(box->lineEdit(), &QLineEdit::editingFinished, this,
                 [this, take] { Guard([this, take] { (this->*take)(); }); });
     };
-    onPick(controls_->txt_VC_Country, [this] { TakeCountry(); });
     // Picking the row that stands there takes it anew: its master may have been changed since.
+    onPick(controls_->txt_VC_Country, [this] {
+        fields_.countryOfId.clear();
+        TakeCountry();
+    });
     onPick(controls_->txt_VC_City, [this] {
         fields_.cityOfPlace.clear();
         TakeCity();

@@ -18,6 +18,7 @@ class frm_OpenChart;
 namespace kelvaro {
 
 class ChartListDialog;
+class SettingsStore;
 
 /// The form of birth details: it gathers what is typed and hands it to the rules. Nothing starts while a
 /// horoscope is being computed.

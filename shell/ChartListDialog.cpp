@@ -1,6 +1,6 @@
 #include "shell/ChartListDialog.h"
 
-#include "horoscope/BirthEntry.h"
+#include "horoscope/BirthStorage.h"
 #include "shell/MessageBoxes.h"
 #include "store/ChartStore.h"
 #include "ui_ChartListDialog.h"

@@ -154,7 +154,8 @@ void MDILight::EnableMenus(bool areEnabled) {
 }
 
 void MDILight::BuildMenu() {
-    AddTopEntry(menuBar(), {"mnuBirthDetails", "&Enter Birth Details", [this] { ShownBirthForm(); }});
+    AddTopEntry(menuBar(),
+                {"mnuBirthDetails", "&Enter Birth Details", [this] { Guard([this] { ShownBirthForm(); }); }});
     AddMenu(menuBar(), "mnuTools", "&Tools",
             {{"mDI_Country", "&Country Master", [this] { ShowModally<CountryDialog>(connection_); }},
              {"MDI_LAt_Lon", "Cit&y Master", [this] { ShowModally<CityDialog>(connection_); }},
@@ -178,11 +179,7 @@ void MDILight::BuildMenu() {
 /// The keys that users of desktop programs expect; the menus have no entries for them.
 void MDILight::BuildShortcuts() {
     const auto onKeys = [this](const QKeySequence &keys, auto chosen) {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, chosen] {
-            if (IsFree()) {
-                chosen();
-            }
-        });
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, [this, chosen] { Guard(chosen); });
     };
     onKeys(QKeySequence::New, [this] {
         // "New" on a form that holds a saved chart would go on to change that chart.
@@ -248,20 +245,25 @@ void MDILight::ForgetBirthForm() {
     findChild<QAction *>(QStringLiteral("mnuPreferences"))->setEnabled(true);
 }
 
-template <class Dialog, class Subject> void MDILight::ShowModally(Subject &subject) {
-    if (!IsFree()) {
+/// Does some work, but not in the middle of a run, and shows the error that breaks it off.
+void MDILight::Guard(const std::function<void()> &work) {
+    if (!connection_.IsOpen() || horoscope_.isCalculating) {
         return;
     }
     try {
-        Dialog(subject, this).exec();
+        work();
     } catch (const std::exception &error) {
         ShowError(this, error);
     }
 }
 
+template <class Dialog, class Subject> void MDILight::ShowModally(Subject &subject) {
+    Guard([this, &subject] { Dialog(subject, this).exec(); });
+}
+
 template <class Master> void MDILight::ShowMasterForBirthForm() {
     ShowModally<Master>(connection_);
-    birthForm_->ReturnFromMaster();
+    Guard([this] { birthForm_->ReturnFromMaster(); });
 }
 
 /// The guide in front, at the chapter of the dialog or the view that is in front.

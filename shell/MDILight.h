@@ -11,6 +11,7 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 
 namespace kelvaro {
 
@@ -72,7 +73,7 @@ private:
     void RestoreWindowPlace();
     void ChooseView(std::size_t view);
 
-    bool IsFree() const { return connection_.IsOpen() && !horoscope_.isCalculating; }
+    void Guard(const std::function<void()> &work);
     BirthDialog &ShownBirthForm();
     void ForgetBirthForm();
     template <class Dialog, class Subject> void ShowModally(Subject &subject);

@@ -34,16 +34,15 @@ std::string MonthAbbreviation(Moment date) {
 std::string InsertOf(const ChartToSave &chart) {
     const CivilDate date = Split(chart.SC_Date).date;
     const CivilClock clock = Split(chart.SC_Time).clock;
-    const Place &place = chart.place;
     const std::string name = NameWithDate(chart.SC_ChartName, std::to_string(date.day),
                                           MonthAbbreviation(chart.SC_Date), std::to_string(date.year));
     std::string values = Quoted(name);
     for (const std::string &value :
          {Quoted(chart.SC_Gender), Quoted(chart.SC_Country), Quoted(chart.SC_City), std::to_string(date.day),
           std::to_string(date.month), std::to_string(date.year), std::to_string(clock.hour),
-          std::to_string(clock.minute), std::to_string(clock.second), NumberText(place.latDeg),
-          Quoted(place.latNS), NumberText(place.latMin), NumberText(place.lonDeg), Quoted(place.lonEW),
-          NumberText(place.lonMin), NumberText(chart.SC_TimeDiff)}) {
+          std::to_string(clock.minute), std::to_string(clock.second), NumberText(chart.SC_LatDeg),
+          Quoted(chart.SC_LatNS), NumberText(chart.SC_LatMin), NumberText(chart.SC_LonDeg),
+          Quoted(chart.SC_LonEW), NumberText(chart.SC_LonMin), NumberText(chart.SC_TimeDiff)}) {
         values.append(",").append(value);
     }
     return "insert into ChartSave (ChartName,Gender,Country,City,ChartDay,ChartMonth,ChartYear,ChartHour,"

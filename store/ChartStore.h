@@ -21,7 +21,12 @@ struct ChartToSave {
     std::string SC_Country; ///< a CountryID
     std::string SC_City;
     Moment SC_Date, SC_Time;
-    Place place;
+    double SC_LatDeg = 0;
+    std::string SC_LatNS;
+    double SC_LatMin = 0;
+    double SC_LonDeg = 0;
+    std::string SC_LonEW;
+    double SC_LonMin = 0;
     double SC_TimeDiff = 0; ///< the number of a zone, no hours
 };
 

@@ -1,6 +1,6 @@
 #include "shell/MDILight.h"
 #include "store/DatabaseFile.h"
-#include "store/PersonalDetails.h"
+#include "tests/shell/MessageBoxAnswer.h"
 
 #include <QDialog>
 #include <QMenu>
@@ -52,6 +52,7 @@ private slots:
     void MenusWaitForTheDatabase();
     void EveryEntryOpensItsWindow_data();
     void EveryEntryOpensItsWindow();
+    void LockedDatabaseIsToldByTheBirthForm();
     void HelpOpensAtTheSubjectInFront();
     void KeysServeTheForms();
     void WindowComesBackWhereItWas();
@@ -174,6 +175,21 @@ void MenuTest::EveryEntryOpensItsWindow() {
     }
     QVERIFY(window_->isVisible());
     QVERIFY(Action("mnuPreferences")->isEnabled());
+}
+
+void MenuTest::LockedDatabaseIsToldByTheBirthForm() {
+    Start();
+    store::Connection other;
+    other.Open(DatabaseFile());
+    other.Execute("begin exclusive");
+    const MessageBoxAnswer answer;
+    Choose("mnuBirthDetails", nullptr);
+    QCOMPARE(answer.Icon(), QMessageBox::Critical);
+    QVERIFY2(answer.Text().contains(QStringLiteral("locked")), qPrintable(answer.Text()));
+    QVERIFY(window_->findChild<QDialog *>(QStringLiteral("frm_OpenChart")) == nullptr);
+    other.Close();
+    Choose("mnuBirthDetails", nullptr);
+    QVERIFY(window_->findChild<QDialog *>(QStringLiteral("frm_OpenChart"))->isVisible());
 }
 
 void MenuTest::HelpOpensAtTheSubjectInFront() {

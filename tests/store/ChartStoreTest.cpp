@@ -14,7 +14,12 @@ ChartToSave SampleChart(const std::string &person, const std::string &gender = "
     chart.SC_City = "Hyderabad (A.P)";
     chart.SC_Date = MomentOf({1965, 7, 4});
     chart.SC_Time = MomentOf({1965, 7, 4}, {14, 5, 0});
-    chart.place = {17, 20, "N", 78, 30.5, "E"};
+    chart.SC_LatDeg = 17;
+    chart.SC_LatMin = 20;
+    chart.SC_LatNS.assign(1, 'N');
+    chart.SC_LonDeg = 78;
+    chart.SC_LonMin = 30.5;
+    chart.SC_LonEW.assign(1, 'E');
     chart.SC_TimeDiff = 181;
     return chart;
 }
