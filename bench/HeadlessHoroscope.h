@@ -1,19 +1,9 @@
 #pragma once
 
 #include "horoscope/Horoscope.h"
+#include "horoscope/NoDisplay.h"
 
 namespace kelvaro {
-
-/// A screen that shows nothing.
-class NoDisplay : public StatusDisplay {
-public:
-    void OpenStatus() override {}
-    void AdvanceStatusBar() override {}
-    void CloseStatus() override {}
-    void HideHoroscopeForms() override {}
-    void ShowCurrentView(std::string_view) override {}
-    void RunFailed(std::string_view, std::string_view) override {}
-};
 
 /// The horoscope of the sample birth on a private copy of the database.
 struct HeadlessHoroscope {

@@ -1,6 +1,7 @@
 #include "shell/BirthDialog.h"
 
 #include "horoscope/Horoscope.h"
+#include "horoscope/NoDisplay.h"
 #include "runtime/MomentText.h"
 #include "runtime/RuntimeError.h"
 #include "shell/ChartListDialog.h"
@@ -30,18 +31,14 @@ using namespace kelvaro;
 namespace {
 
 /// A screen of which only the form of birth details is there.
-class FormOnly : public StatusDisplay {
+class FormOnly : public NoDisplay {
 public:
-    void OpenStatus() override {}
     void AdvanceStatusBar() override {
         if (atEachAdvance) {
             atEachAdvance();
         }
     }
-    void CloseStatus() override {}
-    void HideHoroscopeForms() override {}
     void HideOpenChart() override { form->hide(); }
-    void ShowCurrentView(std::string_view /*currentView*/) override {}
     void RunFailed(std::string_view step, std::string_view cause) override {
         failure.append(step).append(": ").append(cause);
     }

@@ -1,10 +1,13 @@
+#include "horoscope/Horoscope.h"
+#include "horoscope/NoDisplay.h"
+#include "shell/BirthDialog.h"
 #include "shell/CityDialog.h"
 #include "shell/CountryDialog.h"
 #include "shell/MasterGrid.h"
 #include "shell/PersonalInfoDialog.h"
 #include "shell/TimeZoneDialog.h"
+#include "shell/UserSettings.h"
 #include "store/DatabaseFile.h"
-#include "store/PlaceLists.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
 #include <QClipboard>
@@ -105,6 +108,10 @@ void MastersTest::init() {
 
 void MastersTest::ANewPlaceServesAtOnce() {
     MessageBoxAnswer answer;
+    NoDisplay display;
+    Horoscope horoscope(connection_, display);
+    UserSettings settings(folder_->filePath(QStringLiteral("settings.ini")));
+    BirthDialog birth(horoscope, settings);
     const auto countries = Open<CountryDialog>();
     QCOMPARE(countries->windowTitle(), QStringLiteral("Country"));
     Type(*countries, "txtAddName", "Zubrowka");
@@ -145,12 +152,19 @@ void MastersTest::ANewPlaceServesAtOnce() {
     QCOMPARE(Cell(Grid(*cities, "mshCity"), 0, 0), QStringLiteral("Nebelsbad"));
     QCOMPARE(Cell(Grid(*cities, "mshCity"), 0, 6), QStringLiteral("36"));
 
-    const store::PlaceLists lists(connection_);
-    const store::ListItem country = lists.Countries().back();
-    QCOMPARE(country.text, std::string("Zubrowka"));
-    QCOMPARE(lists.ZonesOf(country.key).front().text, std::string("Alpine Time  (5.75 hrs E)"));
-    QCOMPARE(lists.CitiesOf(country.key).front().text, std::string("Nebelsbad"));
-    QCOMPARE(lists.PlaceOfCity("Nebelsbad")->lonMin, 36.0);
+    // The form was filled before any of this was there.
+    birth.ReturnFromMaster();
+    Type(birth, "Txt_VC_ChartName", "Zero");
+    for (const Entry &entry : {Entry{"txt_VC_Country", "zub"}, Entry{"txt_VC_City", "neb"}}) {
+        Type(birth, entry.field, entry.keys);
+        QTest::keyClick(birth.focusWidget(), Qt::Key_Return);
+    }
+    QCOMPARE(Combo(birth, "cbTimeZone")->currentText(), QStringLiteral("Alpine Time  (5.75 hrs E)"));
+    Press(birth, "cmdSave");
+    QCOMPARE(horoscope.state.BirthCountry, std::string("Zubrowka"));
+    QCOMPARE(horoscope.state.LonMin, 36.0);
+    QCOMPARE(horoscope.forms.frm_UserDetails.txtTimeZone, std::string("Alpine Time  (5.75 hrs E)"));
+    QVERIFY(!horoscope.forms.Frm_Dasa.mshAntra.rows.empty());
 }
 
 void MastersTest::EditedPlacesShowAsTold() {

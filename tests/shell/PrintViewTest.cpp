@@ -2,6 +2,7 @@
 
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
+#include "horoscope/NoDisplay.h"
 #include "horoscope/StatusDisplay.h"
 #include "shell/ReportPrinter.h"
 #include "tests/shell/MessageBoxAnswer.h"
@@ -30,16 +31,6 @@
 using namespace kelvaro;
 
 namespace {
-
-class NoDisplay : public StatusDisplay {
-    void OpenStatus() override {}
-    void AdvanceStatusBar() override {}
-    void CloseStatus() override {}
-    void HideHoroscopeForms() override {}
-    void HideOpenChart() override {}
-    void ShowCurrentView(std::string_view /*view*/) override {}
-    void RunFailed(std::string_view /*step*/, std::string_view /*cause*/) override {}
-};
 
 /// A printer that notes where texts stand, and that fails at a step.
 class NotingPrinter : public QPrinter {

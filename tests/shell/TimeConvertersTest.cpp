@@ -1,4 +1,5 @@
 #include "horoscope/Horoscope.h"
+#include "horoscope/NoDisplay.h"
 #include "shell/TimeConverterDialog.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
@@ -13,16 +14,6 @@
 using namespace kelvaro;
 
 namespace {
-
-class NoDisplay : public StatusDisplay {
-public:
-    void OpenStatus() override {}
-    void AdvanceStatusBar() override {}
-    void CloseStatus() override {}
-    void HideHoroscopeForms() override {}
-    void ShowCurrentView(std::string_view /*currentView*/) override {}
-    void RunFailed(std::string_view /*step*/, std::string_view /*cause*/) override {}
-};
 
 /// Types a text into the control with the focus and goes on with Enter.
 void Enter(QWidget *dialog, const char *text) {

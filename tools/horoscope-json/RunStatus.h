@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/StatusDisplay.h"
+#include "horoscope/NoDisplay.h"
 
 #include <optional>
 #include <string>
@@ -9,16 +9,12 @@
 namespace kelvaro {
 
 /// A status display without a screen: it keeps how the run ended.
-class RunStatus final : public StatusDisplay {
+class RunStatus final : public NoDisplay {
 public:
     /// "<step>: <cause>" of the step that ended the last run, nothing when the run came to its end.
     const std::optional<std::string> &Failure() const { return failure_; }
 
     void OpenStatus() override { failure_.reset(); }
-    void AdvanceStatusBar() override {}
-    void CloseStatus() override {}
-    void HideHoroscopeForms() override {}
-    void ShowCurrentView(std::string_view /*currentView*/) override {}
     void RunFailed(std::string_view step, std::string_view cause) override {
         failure_ = std::string(step) + ": " + std::string(cause);
     }
