@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
@@ -56,6 +57,7 @@ private slots:
     void HelpOpensAtTheSubjectInFront();
     void KeysServeTheForms();
     void WindowComesBackWhereItWas();
+    void LastChartComesBack();
     void ExitUnloadsTheWindowsInOrder();
 
 private:
@@ -232,6 +234,23 @@ void MenuTest::WindowComesBackWhereItWas() {
     QVERIFY(window_->close());
     Open();
     QTRY_COMPARE(window_->geometry(), place);
+}
+
+void MenuTest::LastChartComesBack() {
+    QSettings settings(folder_->filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    settings.setValue(QStringLiteral("Horo/Name"), QStringLiteral("Ananda"));
+    settings.sync();
+    Open();
+    Start();
+    QCOMPARE(window_->HoroscopeInForce().state.ChartName, std::string("Ananda"));
+    QVERIFY(window_->statusBar()->currentMessage().isEmpty());
+
+    settings.setValue(QStringLiteral("Horo/Year"), QStringLiteral("no year"));
+    settings.sync();
+    Open();
+    Start();
+    QCOMPARE(window_->HoroscopeInForce().state.ChartName, std::string("Velnesh"));
+    QVERIFY(window_->statusBar()->currentMessage().contains(QStringLiteral("sample chart")));
 }
 
 void MenuTest::ExitUnloadsTheWindowsInOrder() {
