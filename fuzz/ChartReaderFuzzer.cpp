@@ -4,9 +4,9 @@
 #include "fuzz/Require.h"
 #include "horoscope/BirthStorage.h"
 #include "horoscope/Horoscope.h"
-#include "horoscope/LastChart.h"
 #include "store/ChartStore.h"
 #include "store/Recordset.h"
+#include "tests/horoscope/MemorySettings.h"
 #include "tools/horoscope-json/BirthReader.h"
 #include "tools/horoscope-json/RunStatus.h"
 
@@ -50,13 +50,6 @@ constexpr std::array<Column, 17> columns{{
     {"TimeDifference", 375},
 }};
 
-/// Settings that keep nothing.
-class NoSettings : public SettingsStore {
-public:
-    std::optional<std::string> Read(std::string_view /*key*/) override { return std::nullopt; }
-    void Write(std::string_view /*key*/, const std::string & /*value*/) override {}
-};
-
 /// A horoscope on a copy of the database in memory, whose table of charts takes values of any type.
 struct Program {
     Program() {
@@ -72,7 +65,7 @@ struct Program {
     store::Connection connection;
     RunStatus status;
     Horoscope horoscope{connection, status};
-    NoSettings settings;
+    MemorySettings settings;
 };
 
 store::Value AnyValue(FuzzedDataProvider &input) {

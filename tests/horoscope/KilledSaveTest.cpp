@@ -21,13 +21,6 @@ struct Progress {
     std::atomic<int> saved = 0;
 };
 
-/// A folder in memory where the machine has one: on a disk nearly all of a save is waiting for the disk, and
-/// few kills would fall between two writes.
-std::filesystem::path QuickFolder() {
-    const std::filesystem::path memory = "/dev/shm";
-    return std::filesystem::exists(memory) ? memory : std::filesystem::temp_directory_path();
-}
-
 class KilledSaveTest : public BirthEntryTest {
 protected:
     KilledSaveTest() {
@@ -101,7 +94,8 @@ protected:
         return charts;
     }
 
-    store::TemporaryFolder quick_{QuickFolder()};
+    // On a disk nearly all of a save is waiting for the disk, and few kills would fall between two writes.
+    store::TemporaryFolder quick_{store::QuickFolder()};
     std::filesystem::path killedFile_ = quick_ / store::databaseFileName;
     BirthFields entered_ = Entered();
     Progress &progress_ = *new (

@@ -23,12 +23,6 @@ namespace {
 
 using store::Connection;
 
-/// The folder of memory where the machine has one: every damage wants a file of its own.
-std::filesystem::path QuickFolder() {
-    const std::filesystem::path memory = "/dev/shm";
-    return std::filesystem::exists(memory) ? memory : std::filesystem::temp_directory_path();
-}
-
 struct Use {
     const char *name;
     void (*run)(Connection &);
@@ -94,7 +88,7 @@ constexpr std::array<Use, 9> uses{{
 class DamagedDatabaseTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        folder_ = std::make_unique<store::TemporaryFolder>(QuickFolder());
+        folder_ = std::make_unique<store::TemporaryFolder>(store::QuickFolder());
         std::filesystem::copy_file(KELVARO_SEED_DATABASE, Sound());
         Damage(Sound(), "delete from City_Master where CityID % 600 <> 0 and CityName <> 'Hyderabad (A.P)'; "
                         "insert into GChartSave (ChartName) values ('Uma and Anil'); "
@@ -130,22 +124,9 @@ protected:
 
     /// Statements that make a table anew without its types and keys, so that it takes any value.
     static std::string Loosened(const std::string &table) {
-        Connection connection;
-        connection.Open(Sound());
-        const std::string named = "sqlite_schema where tbl_name = '" + table + "' and type = ";
-        std::string anew = store::FirstText("select replace(replace(replace(sql, 'STRICT', ''), "
-                                            "'AUTOINCREMENT', ''), 'PRIMARY KEY', '') from " +
-                                                named + "'table'",
-                                            connection);
-        std::string statements = "alter table " + table + " rename to Strict; ";
-        statements.append(anew).append("; insert into ").append(table).append(" select * from Strict; ");
-        statements += "drop table Strict; ";
-        store::Recordset indices;
-        indices.Open("select sql from " + named + "'index' and sql is not null", connection);
-        for (; !indices.IsEndOfFile(); indices.MoveNext()) {
-            statements += indices.Text(std::size_t{0}) + "; ";
-        }
-        return statements;
+        std::string statements = "create table Loose as select * from " + table;
+        statements.append("; drop table ").append(table);
+        return statements.append("; alter table Loose rename to ").append(table).append("; ");
     }
 
     /// Uses the damaged database in every way; returns the names of the uses that were refused.

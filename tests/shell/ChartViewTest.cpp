@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <numeric>
 
 using namespace kelvaro;
 
@@ -78,8 +77,6 @@ class ChartViewTest : public QObject {
 
 private slots:
     void CellsStandWhereAnAstrologerLooksForThem();
-    void CellsFillTheDrawing_data();
-    void CellsFillTheDrawing();
     void TextIsCentredInASquare();
     void FlowKeepsEveryWordInOrder();
     void TextKeepsInsideItsCell_data();
@@ -94,71 +91,29 @@ void ChartViewTest::CellsStandWhereAnAstrologerLooksForThem() {
     };
     const std::array<Drawing, 3> drawings{{
         {ChartStyle::South,
-         {{{.37, .12},
-           {.62, .12},
-           {.87, .12},
-           {.87, .37},
-           {.87, .62},
-           {.87, .87},
-           {.62, .87},
-           {.37, .87},
-           {.12, .87},
-           {.12, .62},
-           {.12, .37},
-           {.12, .12}}}},
+         {QPointF(.37, .12), QPointF(.62, .12), QPointF(.87, .12), QPointF(.87, .37), QPointF(.87, .62),
+          QPointF(.87, .87), QPointF(.62, .87), QPointF(.37, .87), QPointF(.12, .87), QPointF(.12, .62),
+          QPointF(.12, .37), QPointF(.12, .12)}},
         {ChartStyle::East,
-         {{{.5, .17},
-           {.2, .1},
-           {.1, .2},
-           {.17, .5},
-           {.1, .8},
-           {.2, .9},
-           {.5, .83},
-           {.8, .9},
-           {.9, .8},
-           {.83, .5},
-           {.9, .2},
-           {.8, .1}}}},
+         {QPointF(.5, .17), QPointF(.2, .1), QPointF(.1, .2), QPointF(.17, .5), QPointF(.1, .8),
+          QPointF(.2, .9), QPointF(.5, .83), QPointF(.8, .9), QPointF(.9, .8), QPointF(.83, .5),
+          QPointF(.9, .2), QPointF(.8, .1)}},
         {ChartStyle::North,
-         {{{.5, .25},
-           {.25, .1},
-           {.1, .25},
-           {.25, .5},
-           {.1, .75},
-           {.25, .9},
-           {.5, .75},
-           {.75, .9},
-           {.9, .75},
-           {.75, .5},
-           {.9, .25},
-           {.75, .1}}}},
+         {QPointF(.5, .25), QPointF(.25, .1), QPointF(.1, .25), QPointF(.25, .5), QPointF(.1, .75),
+          QPointF(.25, .9), QPointF(.5, .75), QPointF(.75, .9), QPointF(.9, .75), QPointF(.75, .5),
+          QPointF(.9, .25), QPointF(.75, .1)}},
     }};
-    for (const Drawing &drawing : drawings) {
-        const auto outlines = CellOutlines(drawing.style);
+    for (const auto &[style, inside] : drawings) {
+        const auto outlines = CellOutlines(style);
+        double area = OpenCentre(style).width() * OpenCentre(style).height();
         for (std::size_t index = 0; index < outlines.size(); ++index) {
             for (std::size_t point = 0; point < outlines.size(); ++point) {
-                QCOMPARE(outlines.at(index).containsPoint(drawing.inside.at(point), Qt::OddEvenFill),
-                         index == point);
+                QCOMPARE(outlines.at(index).containsPoint(inside.at(point), Qt::OddEvenFill), index == point);
             }
+            area += AreaOf(outlines.at(index));
         }
+        QVERIFY2(std::abs(area - 1) < 1e-12, "the cells fill the drawing");
     }
-}
-
-void ChartViewTest::CellsFillTheDrawing_data() {
-    QTest::addColumn<int>("style");
-    QTest::newRow("South") << static_cast<int>(ChartStyle::South);
-    QTest::newRow("East") << static_cast<int>(ChartStyle::East);
-    QTest::newRow("North") << static_cast<int>(ChartStyle::North);
-}
-
-void ChartViewTest::CellsFillTheDrawing() {
-    QFETCH(int, style);
-    const auto outlines = CellOutlines(static_cast<ChartStyle>(style));
-    const QRectF centre = OpenCentre(static_cast<ChartStyle>(style));
-    const double area =
-        std::accumulate(outlines.begin(), outlines.end(), centre.width() * centre.height(),
-                        [](double sum, const QPolygonF &outline) { return sum + AreaOf(outline); });
-    QVERIFY(std::abs(area - 1) < 1e-12);
 }
 
 void ChartViewTest::TextIsCentredInASquare() {
@@ -193,18 +148,21 @@ void ChartViewTest::TextKeepsInsideItsCell_data() {
     QTest::addColumn<int>("style");
     QTest::addColumn<QString>("figure");
     QTest::addColumn<QString>("divider");
-    QTest::newRow("South Rasi") << static_cast<int>(ChartStyle::South) << "  29.60"
-                                << "\r\n";
-    QTest::newRow("South Navamsa") << static_cast<int>(ChartStyle::South) << "  "
-                                   << "\r\n";
-    QTest::newRow("East Rasi") << static_cast<int>(ChartStyle::East) << ""
-                               << "    ";
-    QTest::newRow("East Navamsa") << static_cast<int>(ChartStyle::East) << "  "
-                                  << "\r\n";
-    QTest::newRow("North") << static_cast<int>(ChartStyle::North) << "  "
-                           << "";
-    QTest::newRow("North, one below the other") << static_cast<int>(ChartStyle::North) << ""
-                                                << "\r\n";
+    const struct {
+        const char *name;
+        ChartStyle style;
+        const char *figure, *divider;
+    } rows[] = {
+        {"South Rasi", ChartStyle::South, "  29.60", "\r\n"},
+        {"South Navamsa", ChartStyle::South, "  ", "\r\n"},
+        {"East Rasi", ChartStyle::East, "", "    "},
+        {"East Navamsa", ChartStyle::East, "  ", "\r\n"},
+        {"North", ChartStyle::North, "  ", ""},
+        {"North, one below the other", ChartStyle::North, "", "\r\n"},
+    };
+    for (const auto &row : rows) {
+        QTest::newRow(row.name) << static_cast<int>(row.style) << row.figure << row.divider;
+    }
 }
 
 void ChartViewTest::TextKeepsInsideItsCell() {

@@ -26,7 +26,7 @@ private slots:
     void TwoChangesInARowRunTheDriverAnew();
     void ApplyLeavesTheDatabaseAsItWas();
     void FaultyCustomAyanamsaIsToldAndKept();
-    void ChoicesAndHints();
+    void AnotherBhavaThanTheChoiceIsKept();
 
 private:
     /// Opens the dialog from the real menu and works in it.
@@ -136,7 +136,6 @@ void PreferencesDialogTest::FaultyCustomAyanamsaIsToldAndKept() {
         QVERIFY(dialog.findChild<QWidget *>("FRAMECUSTOM")->isVisible());
         auto *zero = dialog.findChild<QLineEdit *>("txtZero");
         auto *progression = dialog.findChild<QLineEdit *>("txtPogression");
-        zero->setFocus();
         zero->selectAll();
         QTest::keyClicks(zero, QStringLiteral("2004"));
         QTest::keyClick(zero, Qt::Key_Return);
@@ -146,7 +145,6 @@ void PreferencesDialogTest::FaultyCustomAyanamsaIsToldAndKept() {
         Press(dialog, "cmdSave");
         QCOMPARE(answer.Text(), QStringLiteral("Enter Zero Year Less than current Year "));
         QCOMPARE(answer.Title(), QStringLiteral("Preferences"));
-        QCOMPARE(answer.Icon(), QMessageBox::Information);
         QVERIFY(dialog.isVisible());
         QCOMPARE(zero->text(), QStringLiteral("2004"));
         QCOMPARE(dialog.focusWidget(), static_cast<QWidget *>(zero));
@@ -159,20 +157,13 @@ void PreferencesDialogTest::FaultyCustomAyanamsaIsToldAndKept() {
     QCOMPARE(Stored().clsProgress, 50.0);
 }
 
-void PreferencesDialogTest::ChoicesAndHints() {
+void PreferencesDialogTest::AnotherBhavaThanTheChoiceIsKept() {
     window_->HoroscopeInForce().connection.Execute("update Preference set Bhava = 'Not Equal'");
     InDialog([](PreferencesDialog &dialog) {
         const QComboBox *bhava = Combo(dialog, "cbBhava");
         QCOMPARE(bhava->count(), 1);
         QCOMPARE(bhava->itemText(0), QStringLiteral("Equal House"));
         QCOMPARE(bhava->currentText(), QStringLiteral("Placidius"));
-        QStringList labels;
-        for (const QLabel *label : dialog.findChildren<QLabel *>()) {
-            labels << label->text();
-        }
-        QVERIFY(labels.contains(
-            QStringLiteral("(Planets and House Names Will be displayed in the Language Selected )")));
-        QVERIFY(labels.contains(QStringLiteral("(Days Selected will be used to calculate vimsottari dasa)")));
         Press(dialog, "cmdSave");
     });
     QCOMPARE(State().BhavaSystem, std::string("Not Equal"));

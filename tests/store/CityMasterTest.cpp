@@ -1,16 +1,10 @@
 #include "store/CityMaster.h"
 
+#include "tests/store/MasterSteps.h"
 #include "tests/store/StoreFixture.h"
 
 namespace kelvaro::store {
 namespace {
-
-/// What a test tells and the text that passes it.
-struct Step {
-    const char *message, *focus;
-    std::string CityFields::*field;
-    const char *mended;
-};
 
 class CityMasterTest : public StoreTest {
 protected:
@@ -35,31 +29,27 @@ TEST_F(CityMasterTest, AddTestsComeInTheirOrder) {
     Notice notice = master_.Add(fields).notice;
     EXPECT_EQ(notice.text + notice.focus, "Select Country cbAddCountry");
     fields.countryId = 101;
-    for (const Step &step : {
-             Step{"Enter City ", "txtAddCity", &CityFields::city, " hyderabad (a.p) "},
-             Step{"Enter Lat Deg", "txtAddLatDeg", &CityFields::latDeg, "x"},
-             Step{"Enter Lat Min", "txtAddLAtMin", &CityFields::latMin, "x"},
-             Step{"Add Lat Zone", "cbAddNS", &CityFields::latNS, "N"},
-             Step{"Enter Lon Deg", "txtAddLonDeg", &CityFields::lonDeg, "x"},
-             Step{"Enter Lon Min", "txtAddLonMin", &CityFields::lonMin, "x"},
-             Step{"Add Lon Zone", "cbAddEW", &CityFields::lonEW, "E"},
-             Step{"Enter Number ", "txtAddLatDeg", &CityFields::latDeg, "90"},
-             Step{"Enter Number ", "txtAddLAtMin", &CityFields::latMin, "60"},
-             Step{"Enter Number ", "txtAddLonDeg", &CityFields::lonDeg, "181"},
-             Step{"Enter Number ", "txtAddLonMin", &CityFields::lonMin, "60"},
-             Step{"City Details Already Exists", "txtAddCity", &CityFields::city, "Upper Hill Town"},
-             Step{"Minutes run from 0 to 59.", "txtAddLAtMin", &CityFields::latMin, "1"},
-             Step{"Latitude runs from 0 to 90 degrees.", "txtAddLatDeg", &CityFields::latMin, "0"},
-             Step{"Minutes run from 0 to 59.", "txtAddLonMin", &CityFields::lonMin, "59"},
-             Step{"Longitude runs from 0 to 180 degrees.", "txtAddLonDeg", &CityFields::lonDeg, "-1"},
-             Step{"Longitude runs from 0 to 180 degrees.", "txtAddLonDeg", &CityFields::lonDeg, "179"},
-         }) {
-        const Outcome outcome = master_.Add(fields);
-        EXPECT_EQ(outcome.notice.text, step.message);
-        EXPECT_EQ(outcome.notice.focus, step.focus);
-        EXPECT_FALSE(outcome.isStored);
-        fields.*step.field = step.mended;
-    }
+    ExpectSteps(fields,
+                {
+                    {"Enter City ", "txtAddCity", &CityFields::city, " hyderabad (a.p) "},
+                    {"Enter Lat Deg", "txtAddLatDeg", &CityFields::latDeg, "x"},
+                    {"Enter Lat Min", "txtAddLAtMin", &CityFields::latMin, "x"},
+                    {"Add Lat Zone", "cbAddNS", &CityFields::latNS, "N"},
+                    {"Enter Lon Deg", "txtAddLonDeg", &CityFields::lonDeg, "x"},
+                    {"Enter Lon Min", "txtAddLonMin", &CityFields::lonMin, "x"},
+                    {"Add Lon Zone", "cbAddEW", &CityFields::lonEW, "E"},
+                    {"Enter Number ", "txtAddLatDeg", &CityFields::latDeg, "90"},
+                    {"Enter Number ", "txtAddLAtMin", &CityFields::latMin, "60"},
+                    {"Enter Number ", "txtAddLonDeg", &CityFields::lonDeg, "181"},
+                    {"Enter Number ", "txtAddLonMin", &CityFields::lonMin, "60"},
+                    {"City Details Already Exists", "txtAddCity", &CityFields::city, "Upper Hill Town"},
+                    {"Minutes run from 0 to 59.", "txtAddLAtMin", &CityFields::latMin, "1"},
+                    {"Latitude runs from 0 to 90 degrees.", "txtAddLatDeg", &CityFields::latMin, "0"},
+                    {"Minutes run from 0 to 59.", "txtAddLonMin", &CityFields::lonMin, "59"},
+                    {"Longitude runs from 0 to 180 degrees.", "txtAddLonDeg", &CityFields::lonDeg, "-1"},
+                    {"Longitude runs from 0 to 180 degrees.", "txtAddLonDeg", &CityFields::lonDeg, "179"},
+                },
+                [&] { return master_.Add(fields); });
     EXPECT_TRUE(master_.Add(fields).isStored);
 }
 
@@ -85,27 +75,23 @@ TEST_F(CityMasterTest, UpdateTestsComeInTheirOrder) {
     notice = master_.Update(fields).notice;
     EXPECT_EQ(notice.text + notice.focus, "Select CItycbEditCity");
     fields.cityId = 1;
-    for (const Step &step : {
-             // The latitude degree stays empty: it is not asked for here.
-             Step{"Enter City ", "txtEditCity", &CityFields::city, "Adraskan"},
-             Step{"Enter Lat Min", "txtEditLatMIn", &CityFields::latMin, "x"},
-             Step{"Add Lat Zone", "cbEditNS", &CityFields::latNS, "S"},
-             Step{"Enter Lon Deg", "txtEditLonDeg", &CityFields::lonDeg, "x"},
-             Step{"Enter Lon Min", "txtEditLonMin", &CityFields::lonMin, "x"},
-             Step{"Add Lon Zone", "cbEditEW", &CityFields::lonEW, "W"},
-             Step{"Enter Number ", "txtEditLatDeg", &CityFields::latDeg, "95"},
-             Step{"Enter Number ", "txtEditLatMIn", &CityFields::latMin, "7"},
-             Step{"Enter Number ", "txtEditLonDeg", &CityFields::lonDeg, "8"},
-             Step{"Enter Number ", "txtEditLonMin", &CityFields::lonMin, "60"},
-             Step{"Latitude runs from 0 to 90 degrees.", "txtEditLatDeg", &CityFields::latDeg, "6"},
-             Step{"Minutes run from 0 to 59.", "txtEditLonMin", &CityFields::lonMin, "9"},
-         }) {
-        const Outcome outcome = master_.Update(fields);
-        EXPECT_EQ(outcome.notice.text, step.message);
-        EXPECT_EQ(outcome.notice.focus, step.focus);
-        EXPECT_FALSE(outcome.isStored);
-        fields.*step.field = step.mended;
-    }
+    ExpectSteps(fields,
+                {
+                    // The latitude degree stays empty: it is not asked for here.
+                    {"Enter City ", "txtEditCity", &CityFields::city, "Adraskan"},
+                    {"Enter Lat Min", "txtEditLatMIn", &CityFields::latMin, "x"},
+                    {"Add Lat Zone", "cbEditNS", &CityFields::latNS, "S"},
+                    {"Enter Lon Deg", "txtEditLonDeg", &CityFields::lonDeg, "x"},
+                    {"Enter Lon Min", "txtEditLonMin", &CityFields::lonMin, "x"},
+                    {"Add Lon Zone", "cbEditEW", &CityFields::lonEW, "W"},
+                    {"Enter Number ", "txtEditLatDeg", &CityFields::latDeg, "95"},
+                    {"Enter Number ", "txtEditLatMIn", &CityFields::latMin, "7"},
+                    {"Enter Number ", "txtEditLonDeg", &CityFields::lonDeg, "8"},
+                    {"Enter Number ", "txtEditLonMin", &CityFields::lonMin, "60"},
+                    {"Latitude runs from 0 to 90 degrees.", "txtEditLatDeg", &CityFields::latDeg, "6"},
+                    {"Minutes run from 0 to 59.", "txtEditLonMin", &CityFields::lonMin, "9"},
+                },
+                [&] { return master_.Update(fields); });
     fields.city = "L'Aquila East"; // no statement holds the text, so a quote does no harm here
     EXPECT_EQ(master_.Update(fields).notice.text, "Successfully Updated");
     EXPECT_EQ(RowOf("L''Aquila East"), "L'Aquila East/1/6.0S7.0/8.0W9.0");

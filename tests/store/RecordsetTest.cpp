@@ -5,12 +5,6 @@
 namespace kelvaro::store {
 namespace {
 
-constexpr const char *addChart =
-    "insert into ChartSave (ChartName,Gender,Country,City,ChartDay,ChartMonth,ChartYear,ChartHour,"
-    "ChartMinute,ChartSecond,LatitudeDegree,Latitude_NS,LatitudeMinute,LongitudeDegree,Longitude_EW,"
-    "LongitudeMinute,TimeDifference) values  ('Velnesh~14-Jul-1965','Male','101','Hyderabad (A.P)',14,7,"
-    "1965,14,15,0,17,'N',20,78,'E',30,155)";
-
 class RecordsetTest : public StoreTest {
 protected:
     Recordset rows_;
@@ -27,20 +21,6 @@ TEST_F(RecordsetTest, ReadsFieldsInAnyCase) {
     EXPECT_NE(ErrorOf([&] { rows_.Text("Nothing"); }).find("Nothing"), std::string::npos);
     EXPECT_THROW(rows_.Text(std::size_t{8}), StoreError);
     EXPECT_THROW(rows_.Number("Ayanamsa"), ConversionError);
-}
-
-TEST_F(RecordsetTest, ComparesAndSortsTextsInAnyCase) {
-    for (const char *name : {"beta", "Gamma", "ALPHA"}) {
-        connection_.Execute(std::string("insert into ChartSave (ChartName,Gender) values ('") + name +
-                            "','FEMALE')");
-    }
-    rows_.Open("Select Sno,ChartName From ChartSave where gender = 'Female' order by ChartName ",
-               connection_);
-    std::string names;
-    for (; !rows_.IsEndOfFile(); rows_.MoveNext()) {
-        names += rows_.Text("chartname") + rows_.Text("SNO") + " ";
-    }
-    EXPECT_EQ(names, "ALPHA3 beta1 Gamma2 ");
 }
 
 TEST_F(RecordsetTest, TellsNullFromNoRow) {
@@ -85,9 +65,10 @@ TEST_F(RecordsetTest, MustBeClosedBeforeItIsOpenedAgain) {
 }
 
 TEST_F(RecordsetTest, UpdatesOneRowInPlace) {
-    connection_.Execute(addChart);
-    connection_.Execute(addChart);
-    connection_.Execute(addChart);
+    for (int chart = 0; chart < 3; ++chart) {
+        connection_.Execute("insert into ChartSave (ChartName,Gender,Country,City,LatitudeDegree,"
+                            "TimeDifference) values  ('Velnesh','Male','101','Hyderabad (A.P)',17,155)");
+    }
     rows_.Open("select * from ChartSave where Sno = 2", connection_);
     rows_.Assign("chartname", std::string("O'Hara~1-Jan-2000"));
     rows_.Assign("CITY", std::string("Poona"));
@@ -106,7 +87,7 @@ TEST_F(RecordsetTest, UpdatesOneRowInPlace) {
     for (const int number : {1, 2, 3}) {
         const bool isChanged = number == 2;
         EXPECT_EQ(stored.Integer("Sno"), number);
-        EXPECT_EQ(stored.Text("ChartName"), isChanged ? "O'Hara~1-Jan-2000" : "Velnesh~14-Jul-1965");
+        EXPECT_EQ(stored.Text("ChartName"), isChanged ? "O'Hara~1-Jan-2000" : "Velnesh");
         EXPECT_EQ(stored.Text("City"), isChanged ? "Pune" : "Hyderabad (A.P)");
         EXPECT_EQ(stored.Number("LatitudeDegree"), isChanged ? 18.5 : 17);
         EXPECT_EQ(stored.Integer("Country"), isChanged ? 7 : 101);
@@ -149,16 +130,6 @@ TEST_F(RecordsetTest, OnlyWholeRowsCanBeChanged) {
             << statement;
         rows_.Close();
     }
-}
-
-TEST_F(RecordsetTest, TurnsLiteralsIntoOneRow) {
-    rows_.Open("select '1: Su','','','Mo Ma','','','','','','','','12' from tempdasasandhi", connection_);
-    EXPECT_EQ(rows_.FieldCount(), 12U);
-    EXPECT_EQ(rows_.Text(std::size_t{0}), "1: Su");
-    EXPECT_EQ(rows_.Text(std::size_t{2}), "");
-    EXPECT_EQ(rows_.Text(std::size_t{11}), "12");
-    rows_.MoveNext();
-    EXPECT_TRUE(rows_.IsEndOfFile());
 }
 
 } // namespace

@@ -38,6 +38,12 @@ private:
     std::filesystem::path path_;
 };
 
+/// The folder in memory where the machine has one, for tests that write many files.
+inline std::filesystem::path QuickFolder() {
+    const std::filesystem::path memory = "/dev/shm";
+    return std::filesystem::exists(memory) ? memory : std::filesystem::temp_directory_path();
+}
+
 inline std::string BytesOf(const std::filesystem::path &file) {
     std::ifstream stream(file, std::ios::binary);
     return {std::istreambuf_iterator<char>(stream), {}};

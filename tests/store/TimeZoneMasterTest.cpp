@@ -1,16 +1,10 @@
 #include "store/TimeZoneMaster.h"
 
+#include "tests/store/MasterSteps.h"
 #include "tests/store/StoreFixture.h"
 
 namespace kelvaro::store {
 namespace {
-
-/// What a test tells and the text that passes it.
-struct Step {
-    const char *message, *focus;
-    std::string ZoneFields::*field;
-    const char *mended;
-};
 
 class TimeZoneMasterTest : public StoreTest {
 protected:
@@ -43,22 +37,19 @@ TEST_F(TimeZoneMasterTest, AddTestsComeInTheirOrder) {
     Notice notice = master_.Add(fields, Keep()).notice;
     EXPECT_EQ(notice.text + notice.focus, "Select Country cbAddCountry");
     fields.countryId = 101;
-    for (const Step &step : {
-             Step{"Enter City ", "txtAddCity", &ZoneFields::place, "Hill Time"},
-             Step{"Enter Time Hours", "txtAddLatDeg", &ZoneFields::hours, "x"},
-             Step{"Enter Time Min", "txtAddLAtMin", &ZoneFields::minutes, "x"},
-             Step{"Enter Zone", "cbAddEW", &ZoneFields::direction, "E"},
-             Step{"Enter Number ", "txtAddLatDeg", &ZoneFields::hours, "15"},
-             Step{"Enter Number ", "txtAddLAtMin", &ZoneFields::minutes, "60"},
-             Step{"Time zones run from 0 to 14 hours.", "txtAddLatDeg", &ZoneFields::hours, "14"},
-             Step{"Minutes run from 0 to 59.", "txtAddLAtMin", &ZoneFields::minutes, "0"},
-         }) {
-        const Outcome outcome = master_.Add(fields, Keep());
-        EXPECT_EQ(outcome.notice.text, step.message);
-        EXPECT_EQ(outcome.notice.focus, step.focus);
-        EXPECT_EQ(announced_, "");
-        fields.*step.field = step.mended;
-    }
+    ExpectSteps(fields,
+                {
+                    {"Enter City ", "txtAddCity", &ZoneFields::place, "Hill Time"},
+                    {"Enter Time Hours", "txtAddLatDeg", &ZoneFields::hours, "x"},
+                    {"Enter Time Min", "txtAddLAtMin", &ZoneFields::minutes, "x"},
+                    {"Enter Zone", "cbAddEW", &ZoneFields::direction, "E"},
+                    {"Enter Number ", "txtAddLatDeg", &ZoneFields::hours, "15"},
+                    {"Enter Number ", "txtAddLAtMin", &ZoneFields::minutes, "60"},
+                    {"Time zones run from 0 to 14 hours.", "txtAddLatDeg", &ZoneFields::hours, "14"},
+                    {"Minutes run from 0 to 59.", "txtAddLAtMin", &ZoneFields::minutes, "0"},
+                },
+                [&] { return master_.Add(fields, Keep()); });
+    EXPECT_EQ(announced_, "");
     EXPECT_TRUE(master_.Add(fields, Keep()).isStored);
 }
 
@@ -70,21 +61,18 @@ TEST_F(TimeZoneMasterTest, UpdateTestsComeInTheirOrder) {
     notice = master_.Update(fields, Keep()).notice;
     EXPECT_EQ(notice.text + notice.focus, "Select Time ZonecbEditCity");
     fields.zoneId = 1;
-    for (const Step &step : {
-             Step{"Enter Time Zone ", "txtEditCity", &ZoneFields::place, "Hill Time"},
-             Step{"Enter Hours", "txtEditLatDeg", &ZoneFields::hours, "x"},
-             Step{"Enter Minutes", "txtEditLatMIn", &ZoneFields::minutes, "x"},
-             Step{"Add Zone", "cbEditEW", &ZoneFields::direction, "E"},
-             Step{"Enter Number ", "txtEditLatDeg", &ZoneFields::hours, "15"},
-             Step{"Enter Number ", "txtEditLatMIn", &ZoneFields::minutes, "75"},
-             Step{"Time zones run from 0 to 14 hours.", "txtEditLatDeg", &ZoneFields::hours, "5"},
-         }) {
-        const Outcome outcome = master_.Update(fields, Keep());
-        EXPECT_EQ(outcome.notice.text, step.message);
-        EXPECT_EQ(outcome.notice.focus, step.focus);
-        EXPECT_EQ(announced_, "");
-        fields.*step.field = step.mended;
-    }
+    ExpectSteps(fields,
+                {
+                    {"Enter Time Zone ", "txtEditCity", &ZoneFields::place, "Hill Time"},
+                    {"Enter Hours", "txtEditLatDeg", &ZoneFields::hours, "x"},
+                    {"Enter Minutes", "txtEditLatMIn", &ZoneFields::minutes, "x"},
+                    {"Add Zone", "cbEditEW", &ZoneFields::direction, "E"},
+                    {"Enter Number ", "txtEditLatDeg", &ZoneFields::hours, "15"},
+                    {"Enter Number ", "txtEditLatMIn", &ZoneFields::minutes, "75"},
+                    {"Time zones run from 0 to 14 hours.", "txtEditLatDeg", &ZoneFields::hours, "5"},
+                },
+                [&] { return master_.Update(fields, Keep()); });
+    EXPECT_EQ(announced_, "");
     EXPECT_TRUE(master_.Update(fields, Keep()).isStored);
     EXPECT_EQ(First("select TimeDifference from TimeZone where SNo = 1"), "6.25") << "5 hours 75 minutes";
 }
