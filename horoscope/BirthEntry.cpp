@@ -5,13 +5,9 @@
 #include "horoscope/Horoscope.h"
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
-#include "runtime/RuntimeError.h"
 #include "runtime/Trimmed.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstddef>
-#include <utility>
 
 namespace kelvaro {
 
