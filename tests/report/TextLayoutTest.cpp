@@ -15,17 +15,12 @@ TEST(TextLayoutTest, CountsCharactersAndStrayBytes) {
     };
     for (const Case &entry : {
              Case{"", 0},
-             Case{"Zoë", 3},
              Case{"राशि", 4},
              Case{"a😀b", 3},
              Case{"\xC3", 1},
              Case{"\xE0\xA4", 2},
-             Case{"a\x80\xBF"
-                  "b",
-                  4},
-             Case{"\xC3"
-                  "b",
-                  2},
+             Case{"a\x80\xBF ", 4},
+             Case{"\xC3 ", 2},
              Case{"\xFF\xC3\xAB", 2},
          }) {
         EXPECT_EQ(CharacterCount(entry.text), entry.characters) << entry.text;

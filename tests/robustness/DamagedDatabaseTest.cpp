@@ -124,9 +124,22 @@ protected:
 
     /// Statements that make a table anew without its types and keys, so that it takes any value.
     static std::string Loosened(const std::string &table) {
-        std::string statements = "create table Loose as select * from " + table;
-        statements.append("; drop table ").append(table);
-        return statements.append("; alter table Loose rename to ").append(table).append("; ");
+        Connection connection;
+        connection.Open(Sound());
+        const std::string named = "sqlite_schema where tbl_name = '" + table + "' and type = ";
+        std::string anew = store::FirstText("select replace(replace(replace(sql, 'STRICT', ''), "
+                                            "'AUTOINCREMENT', ''), 'PRIMARY KEY', '') from " +
+                                                named + "'table'",
+                                            connection);
+        std::string statements = "alter table " + table + " rename to Strict; ";
+        statements.append(anew).append("; insert into ").append(table).append(" select * from Strict; ");
+        statements += "drop table Strict; ";
+        store::Recordset indices;
+        indices.Open("select sql from " + named + "'index' and sql is not null", connection);
+        for (; !indices.IsEndOfFile(); indices.MoveNext()) {
+            statements += indices.Text(std::size_t{0}) + "; ";
+        }
+        return statements;
     }
 
     /// Uses the damaged database in every way; returns the names of the uses that were refused.

@@ -345,7 +345,6 @@ void BirthDialogTest::SavedChartIsFoundChangedAndDeleted() {
              QStringLiteral("Velnesh14Jul2"));
     QVERIFY(Find<QRadioButton>("Opt_PM")->isChecked());
     QCOMPARE(Text("txt_VC_City") + Text("txtLonDetails"), QStringLiteral("Hyderabad (A.P)78 E 30"));
-    QCOMPARE(Combo("txt_VC_City")->count(), 7248);
 
     Find<QLineEdit>("Txt_VC_ChartName")->setText(QStringLiteral("Zoya"));
     Run("mnuSave");
@@ -400,7 +399,6 @@ void BirthDialogTest::LastChartComesBack() {
     QCOMPARE(State().BirthCity, std::string("Hyderabad (A.P)"));
     const QSettings stored(folder_->filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     QCOMPARE(stored.childGroups(), QStringList{QStringLiteral("Horo")});
-    QCOMPARE(stored.allKeys().size(), 18);
 }
 
 void BirthDialogTest::RefusedSaveLeavesTheFormAsTyped() {

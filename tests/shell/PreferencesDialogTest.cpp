@@ -136,6 +136,7 @@ void PreferencesDialogTest::FaultyCustomAyanamsaIsToldAndKept() {
         QVERIFY(dialog.findChild<QWidget *>("FRAMECUSTOM")->isVisible());
         auto *zero = dialog.findChild<QLineEdit *>("txtZero");
         auto *progression = dialog.findChild<QLineEdit *>("txtPogression");
+        zero->setFocus();
         zero->selectAll();
         QTest::keyClicks(zero, QStringLiteral("2004"));
         QTest::keyClick(zero, Qt::Key_Return);
