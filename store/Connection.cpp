@@ -20,7 +20,7 @@ namespace kelvaro::store {
 
 namespace {
 
-constexpr int busyMilliseconds = 1000;
+constexpr int busyMilliseconds = 3000;
 
 constexpr std::array<std::string_view, 11> neededTables = {
     "ChartSave",           "GChartSave",   "Country_Master", "City_Master",    "TimeZone",       "Preference",
