@@ -1,8 +1,8 @@
 #pragma once
 
-#include "horoscope/HoroscopeState.h"
+#include "horoscope/record/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeState.h"
 #include "panchanga/clsStar.h"
-#include "presentation/HoroscopeForms.h"
 
 namespace kelvaro {
 

@@ -1,6 +1,6 @@
 #include "analysis/BhavaSystem.h"
 
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 #include "panchanga/RasiOfLongitude.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"

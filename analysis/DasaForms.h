@@ -1,10 +1,10 @@
 #pragma once
 
 #include "astronomy/ClsFindPlanetPosition.h"
-#include "horoscope/HoroscopeState.h"
+#include "horoscope/record/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeState.h"
 #include "panchanga/clsStar.h"
-#include "presentation/HoroscopeForms.h"
-#include "store/Connection.h"
+#include "store/database/Connection.h"
 
 namespace kelvaro {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/HoroscopeState.h"
+#include "horoscope/record/HoroscopeState.h"
 
 #include <cstdint>
 #include <string>

@@ -3,7 +3,7 @@
 #include "analysis/Karakas.h"
 #include "analysis/LongitudeCells.h"
 #include "analysis/SayanadiAvastha.h"
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 #include "panchanga/PlacePositions.h"
 #include "panchanga/RasiOfLongitude.h"
 #include "presentation/AngleText.h"

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "astronomy/ClsFindPlanetPosition.h"
-#include "horoscope/HoroscopeState.h"
+#include "horoscope/record/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeState.h"
 #include "panchanga/clsStar.h"
-#include "presentation/HoroscopeForms.h"
 
 #include <string_view>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/HoroscopeState.h"
+#include "horoscope/record/HoroscopeState.h"
 #include "panchanga/clsStar.h"
 
 #include <cstdint>

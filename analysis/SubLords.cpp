@@ -1,6 +1,6 @@
 #include "analysis/SubLords.h"
 
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 #include "panchanga/RasiOfLongitude.h"
 #include "presentation/AngleText.h"
 

@@ -1,11 +1,11 @@
 #include "analysis/Vargas.h"
 
 #include "analysis/Lords.h"
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 #include "panchanga/RasiOfLongitude.h"
 #include "presentation/AngleText.h"
 #include "runtime/Numbers.h"
-#include "store/Recordset.h"
+#include "store/database/Recordset.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "horoscope/HoroscopeState.h"
-#include "presentation/HoroscopeForms.h"
-#include "store/Connection.h"
+#include "horoscope/record/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeState.h"
+#include "store/database/Connection.h"
 
 #include <array>
 #include <cstdint>

@@ -1,10 +1,10 @@
 #include "astronomy/ClsPlanet.h"
 
-#include "astronomy/AngleReduction.h"
-#include "astronomy/Ascendant.h"
-#include "astronomy/AyanamsaFormulas.h"
-#include "astronomy/DayNumber.h"
-#include "astronomy/PlanetPlace.h"
+#include "astronomy/theory/AngleReduction.h"
+#include "astronomy/theory/Ascendant.h"
+#include "astronomy/theory/AyanamsaFormulas.h"
+#include "astronomy/theory/DayNumber.h"
+#include "astronomy/theory/PlanetPlace.h"
 #include "runtime/FloatingPointGuard.h"
 
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "astronomy/MoonPlace.h"
-#include "astronomy/SunPlace.h"
+#include "astronomy/theory/MoonPlace.h"
+#include "astronomy/theory/SunPlace.h"
 #include "runtime/Moment.h"
 
 #include <string>

@@ -1,5 +1,5 @@
-#include "store/ChartStore.h"
-#include "store/Connection.h"
+#include "store/charts/ChartStore.h"
+#include "store/database/Connection.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,16 +1,15 @@
-# The target "tidy" runs clang-tidy over the given sources; a source is checked again when it or any header changed.
+# The target "tidy" runs clang-tidy over the sources of all rooms; a source is checked again when it or any header changed.
 function(kelvaro_add_tidy)
   find_program(CLANG_TIDY clang-tidy)
   if(NOT CLANG_TIDY)
     return()
   endif()
-  file(GLOB_RECURSE headers CONFIGURE_DEPENDS
-    ${CMAKE_SOURCE_DIR}/runtime/*.h ${CMAKE_SOURCE_DIR}/store/*.h ${CMAKE_SOURCE_DIR}/astronomy/*.h ${CMAKE_SOURCE_DIR}/panchanga/*.h
-    ${CMAKE_SOURCE_DIR}/presentation/*.h ${CMAKE_SOURCE_DIR}/analysis/*.h ${CMAKE_SOURCE_DIR}/report/*.h
-    ${CMAKE_SOURCE_DIR}/horoscope/*.h ${CMAKE_SOURCE_DIR}/shell/*.h
-    ${CMAKE_SOURCE_DIR}/tools/*.h)
+  get_property(sources GLOBAL PROPERTY KELVARO_SOURCES)
+  get_property(rooms GLOBAL PROPERTY KELVARO_ROOMS)
+  list(TRANSFORM rooms REPLACE "^([^|]*)\\|.*" "${CMAKE_SOURCE_DIR}/\\1/*.h")
+  file(GLOB_RECURSE headers CONFIGURE_DEPENDS ${rooms})
   set(stamps)
-  foreach(source ${ARGN})
+  foreach(source IN LISTS sources)
     file(RELATIVE_PATH name ${CMAKE_SOURCE_DIR} ${source})
     string(REPLACE "/" "." stamp ${name})
     set(stamp ${CMAKE_BINARY_DIR}/tidy/${stamp}.stamp)

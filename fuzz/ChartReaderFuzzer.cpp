@@ -2,10 +2,10 @@
 // the saved charts with whatever values, opened, computed and saved again as the form does it.
 
 #include "fuzz/Require.h"
-#include "horoscope/BirthStorage.h"
 #include "horoscope/Horoscope.h"
-#include "store/ChartStore.h"
-#include "store/Recordset.h"
+#include "horoscope/entry/BirthStorage.h"
+#include "store/charts/ChartStore.h"
+#include "store/database/Recordset.h"
 #include "tests/horoscope/MemorySettings.h"
 #include "tools/horoscope-json/BirthReader.h"
 #include "tools/horoscope-json/RunStatus.h"

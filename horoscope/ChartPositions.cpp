@@ -1,7 +1,7 @@
 #include "horoscope/ChartPositions.h"
 
-#include "horoscope/Bodies.h"
 #include "horoscope/Horoscope.h"
+#include "horoscope/record/Bodies.h"
 #include "panchanga/RasiOfLongitude.h"
 #include "runtime/MomentText.h"
 

@@ -3,17 +3,17 @@
 #include "astronomy/ClsFindPlanetPosition.h"
 #include "astronomy/clsFindSunSet.h"
 #include "astronomy/clsFindSunrise.h"
-#include "horoscope/HoroscopeState.h"
 #include "horoscope/StatusDisplay.h"
-#include "panchanga/LunarCalendar.h"
-#include "panchanga/SolarCalendar.h"
+#include "horoscope/record/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeState.h"
+#include "panchanga/calendar/LunarCalendar.h"
+#include "panchanga/calendar/SolarCalendar.h"
 #include "panchanga/clsRasi.h"
 #include "panchanga/clsStar.h"
-#include "panchanga/clsTimes.h"
 #include "panchanga/clsTithi.h"
 #include "panchanga/clsYoga.h"
-#include "presentation/HoroscopeForms.h"
-#include "store/Connection.h"
+#include "panchanga/day/clsTimes.h"
+#include "store/database/Connection.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #include "horoscope/NamesForLanguage.h"
 
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 
 #include <string_view>
 

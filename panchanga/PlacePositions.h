@@ -1,7 +1,7 @@
 #pragma once
 
 #include "astronomy/ClsFindPlanetPosition.h"
-#include "horoscope/HoroscopeState.h"
+#include "horoscope/record/HoroscopeState.h"
 
 namespace kelvaro {
 

@@ -1,6 +1,6 @@
 #include "presentation/ChartCells.h"
 
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 #include "presentation/AngleText.h"
 #include "runtime/RuntimeError.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "horoscope/HoroscopeState.h"
-#include "presentation/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeState.h"
 
 #include <cstdint>
 #include <optional>

@@ -3,8 +3,8 @@
 #include "report/TableLine.h"
 #include "report/TextCharts.h"
 #include "runtime/Numbers.h"
-#include "store/Recordset.h"
-#include "store/StatementText.h"
+#include "store/database/Recordset.h"
+#include "store/database/StatementText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "horoscope/HoroscopeState.h"
-#include "presentation/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeForms.h"
+#include "horoscope/record/HoroscopeState.h"
 #include "report/ReportPages.h"
-#include "store/Connection.h"
+#include "store/database/Connection.h"
 
 namespace kelvaro {
 

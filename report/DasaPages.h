@@ -1,6 +1,6 @@
 #pragma once
 
-#include "presentation/TextGrid.h"
+#include "horoscope/record/TextGrid.h"
 #include "report/ReportPages.h"
 
 namespace kelvaro {

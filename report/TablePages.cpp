@@ -1,6 +1,6 @@
 #include "report/TablePages.h"
 
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 #include "report/TableLine.h"
 #include "report/TextLayout.h"
 

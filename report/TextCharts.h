@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/Recordset.h"
+#include "store/database/Recordset.h"
 
 #include <span>
 #include <string>

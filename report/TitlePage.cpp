@@ -2,7 +2,7 @@
 
 #include "report/TextLayout.h"
 #include "runtime/Trimmed.h"
-#include "store/Recordset.h"
+#include "store/database/Recordset.h"
 
 #include <array>
 #include <span>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "presentation/UserDetailsForm.h"
+#include "horoscope/record/UserDetailsForm.h"
 #include "report/ReportPages.h"
-#include "store/Connection.h"
+#include "store/database/Connection.h"
 
 namespace kelvaro {
 

@@ -1,7 +1,7 @@
 #include "analysis/Ashtakavarga.h"
 
-#include "horoscope/Bodies.h"
 #include "horoscope/NamesForLanguage.h"
+#include "horoscope/record/Bodies.h"
 #include "runtime/RuntimeError.h"
 
 #include <gtest/gtest.h>

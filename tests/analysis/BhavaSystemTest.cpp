@@ -1,7 +1,7 @@
 #include "analysis/BhavaSystem.h"
 
-#include "horoscope/Bodies.h"
 #include "horoscope/NamesForLanguage.h"
+#include "horoscope/record/Bodies.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "analysis/DasaForms.h"
 
 #include "horoscope/NamesForLanguage.h"
-#include "store/Recordset.h"
+#include "store/database/Recordset.h"
 
 #include <gtest/gtest.h>
 

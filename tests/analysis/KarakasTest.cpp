@@ -1,6 +1,6 @@
 #include "analysis/Karakas.h"
 
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 #include "presentation/AngleText.h"
 
 #include <gtest/gtest.h>

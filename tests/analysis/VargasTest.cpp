@@ -1,8 +1,8 @@
 #include "analysis/Vargas.h"
 
-#include "horoscope/Bodies.h"
 #include "horoscope/NamesForLanguage.h"
-#include "store/Recordset.h"
+#include "horoscope/record/Bodies.h"
+#include "store/database/Recordset.h"
 
 #include <gtest/gtest.h>
 

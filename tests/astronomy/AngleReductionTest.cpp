@@ -1,4 +1,4 @@
-#include "astronomy/AngleReduction.h"
+#include "astronomy/theory/AngleReduction.h"
 
 #include "runtime/RuntimeError.h"
 

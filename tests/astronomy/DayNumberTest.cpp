@@ -1,4 +1,4 @@
-#include "astronomy/DayNumber.h"
+#include "astronomy/theory/DayNumber.h"
 
 #include "runtime/RuntimeError.h"
 

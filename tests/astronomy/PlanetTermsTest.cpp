@@ -1,7 +1,7 @@
 // The perturbation series once more, written as printed formulas. The program keeps them as coefficient
 // tables; a digit that slipped in either of the two shows here.
 
-#include "astronomy/PlanetTerms.h"
+#include "astronomy/theory/PlanetTerms.h"
 
 #include <gtest/gtest.h>
 

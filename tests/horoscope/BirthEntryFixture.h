@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/BirthStorage.h"
+#include "horoscope/entry/BirthStorage.h"
 #include "tests/horoscope/HoroscopeFixture.h"
 #include "tests/horoscope/MemorySettings.h"
 #include "tests/store/StoreFixture.h"

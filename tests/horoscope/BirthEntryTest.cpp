@@ -1,7 +1,7 @@
-#include "horoscope/BirthEntry.h"
+#include "horoscope/entry/BirthEntry.h"
 
 #include "runtime/MomentText.h"
-#include "store/ChartStore.h"
+#include "store/charts/ChartStore.h"
 #include "tests/horoscope/BirthEntryFixture.h"
 
 namespace kelvaro {

@@ -1,6 +1,6 @@
 #include "horoscope/CalculateHoroscope.h"
 
-#include "horoscope/Bodies.h"
+#include "horoscope/record/Bodies.h"
 #include "panchanga/RasiOfLongitude.h"
 #include "runtime/MomentText.h"
 #include "tests/horoscope/HoroscopeFixture.h"

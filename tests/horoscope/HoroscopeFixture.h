@@ -2,7 +2,7 @@
 
 #include "horoscope/Horoscope.h"
 #include "horoscope/StatusDisplay.h"
-#include "store/Connection.h"
+#include "store/database/Connection.h"
 
 #include <gtest/gtest.h>
 

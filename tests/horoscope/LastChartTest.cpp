@@ -1,7 +1,7 @@
-#include "horoscope/LastChart.h"
+#include "horoscope/entry/LastChart.h"
 
-#include "horoscope/BirthEntry.h"
-#include "horoscope/HoroscopeState.h"
+#include "horoscope/entry/BirthEntry.h"
+#include "horoscope/record/HoroscopeState.h"
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 #include "tests/horoscope/MemorySettings.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/LastChart.h"
+#include "horoscope/entry/LastChart.h"
 
 #include <functional>
 #include <map>

@@ -1,4 +1,4 @@
-#include "horoscope/PreferencesEntry.h"
+#include "horoscope/entry/PreferencesEntry.h"
 
 #include "tests/horoscope/HoroscopeFixture.h"
 

@@ -1,6 +1,6 @@
-#include "horoscope/TimeConverters.h"
+#include "horoscope/entry/TimeConverters.h"
 
-#include "panchanga/IshtaGhati.h"
+#include "panchanga/day/IshtaGhati.h"
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "panchanga/LunarCalendar.h"
-#include "panchanga/SolarCalendar.h"
+#include "panchanga/calendar/LunarCalendar.h"
+#include "panchanga/calendar/SolarCalendar.h"
 #include "runtime/MomentText.h"
 
 #include <string>

@@ -1,13 +1,13 @@
-#include "panchanga/ClsSolarYear.h"
-#include "panchanga/ClsVishaGhati.h"
-#include "panchanga/TimeZone.h"
-#include "panchanga/clsKarnam.h"
-#include "panchanga/clsPlanetNature.h"
-#include "panchanga/clsPlanetStrength.h"
-#include "panchanga/clsTimeDisplay.h"
+#include "panchanga/almanac/ClsSolarYear.h"
+#include "panchanga/almanac/ClsVishaGhati.h"
+#include "panchanga/almanac/TimeZone.h"
+#include "panchanga/almanac/clsKarnam.h"
+#include "panchanga/almanac/clsPlanetNature.h"
+#include "panchanga/almanac/clsPlanetStrength.h"
+#include "panchanga/almanac/clsTimeDisplay.h"
 #include "panchanga/clsTithi.h"
 #include "runtime/RuntimeError.h"
-#include "store/Connection.h"
+#include "store/database/Connection.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "panchanga/LunarMonths.h"
+#include "panchanga/calendar/LunarMonths.h"
 #include "tests/panchanga/Almanac.h"
 
 #include <gtest/gtest.h>

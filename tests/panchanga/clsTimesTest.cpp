@@ -1,4 +1,4 @@
-#include "panchanga/clsTimes.h"
+#include "panchanga/day/clsTimes.h"
 
 #include "runtime/MomentText.h"
 

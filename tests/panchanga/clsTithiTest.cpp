@@ -1,4 +1,4 @@
-#include "panchanga/TithiOf.h"
+#include "panchanga/calendar/TithiOf.h"
 
 #include <gtest/gtest.h>
 

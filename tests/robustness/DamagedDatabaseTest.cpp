@@ -4,11 +4,11 @@
 #include "horoscope/CalculateHoroscope.h"
 #include "report/HoroscopeReport.h"
 #include "runtime/RuntimeError.h"
-#include "store/ChartStore.h"
-#include "store/CityMaster.h"
-#include "store/OnLoadClass.h"
-#include "store/PersonalDetails.h"
-#include "store/TimeZoneMaster.h"
+#include "store/charts/ChartStore.h"
+#include "store/masters/CityMaster.h"
+#include "store/masters/OnLoadClass.h"
+#include "store/masters/PersonalDetails.h"
+#include "store/masters/TimeZoneMaster.h"
 #include "tests/horoscope/BirthEntryFixture.h"
 
 #include <SQLiteCpp/Database.h>

@@ -1,7 +1,7 @@
 // Saving charts until no more can be written: the error is told and all earlier charts are there.
 
 #include "horoscope/CalculateHoroscope.h"
-#include "store/ChartStore.h"
+#include "store/charts/ChartStore.h"
 #include "tests/horoscope/BirthEntryFixture.h"
 
 #include <sched.h>
@@ -151,7 +151,7 @@ TEST_F(FullDiskTest, AFullDiskIsToldAndKeepsItsCharts) {
     if (!CanHaveSmallDisk(disk)) {
         GTEST_SKIP() << "this machine lets the user mount no disk";
     }
-    for (const std::size_t room : {8'000, 50'000, 500'000}) {
+    for (const std::size_t room : {8'000U, 50'000U, 500'000U}) {
         EXPECT_EXIT(
             {
                 MountSmallDisk(disk, fs::file_size(file_) + room);

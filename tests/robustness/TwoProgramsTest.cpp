@@ -1,6 +1,6 @@
 // Two copies of the program at work on one database: nothing that was reported as saved is lost.
 
-#include "store/ChartStore.h"
+#include "store/charts/ChartStore.h"
 #include "tests/horoscope/BirthEntryFixture.h"
 
 #include <sys/wait.h>

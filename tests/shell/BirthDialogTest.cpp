@@ -1,13 +1,13 @@
-#include "shell/BirthDialog.h"
+#include "shell/dialogs/BirthDialog.h"
 
 #include "horoscope/Horoscope.h"
 #include "horoscope/NoDisplay.h"
 #include "runtime/MomentText.h"
 #include "runtime/RuntimeError.h"
-#include "shell/ChartListDialog.h"
-#include "shell/UserSettings.h"
-#include "store/DatabaseFile.h"
-#include "store/Recordset.h"
+#include "shell/dialogs/ChartListDialog.h"
+#include "shell/window/UserSettings.h"
+#include "store/database/DatabaseFile.h"
+#include "store/database/Recordset.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
-#include "shell/ChartFrame.h"
-#include "shell/ChartGeometry.h"
-#include "shell/PolygonText.h"
+#include "shell/charts/ChartFrame.h"
+#include "shell/charts/ChartGeometry.h"
+#include "shell/charts/PolygonText.h"
 
 #include <QImage>
 #include <QTest>

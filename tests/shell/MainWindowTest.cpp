@@ -1,5 +1,5 @@
-#include "shell/MDILight.h"
-#include "store/DatabaseFile.h"
+#include "shell/window/MDILight.h"
+#include "store/database/DatabaseFile.h"
 #include "tests/shell/MessageBoxAnswer.h"
 #include "tests/store/OrdinaryUser.h"
 

@@ -1,7 +1,7 @@
-#include "shell/PreferencesDialog.h"
+#include "shell/dialogs/PreferencesDialog.h"
 
-#include "shell/MDILight.h"
-#include "store/DatabaseFile.h"
+#include "shell/window/MDILight.h"
+#include "store/database/DatabaseFile.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
 #include <QComboBox>

@@ -1,11 +1,11 @@
-#include "shell/PrintView.h"
+#include "shell/print/PrintView.h"
 
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
 #include "horoscope/NoDisplay.h"
 #include "horoscope/StatusDisplay.h"
 #include "report/ReportFile.h"
-#include "shell/ReportPrinter.h"
+#include "shell/print/ReportPrinter.h"
 #include "tests/shell/MessageBoxAnswer.h"
 #include "tests/store/OrdinaryUser.h"
 

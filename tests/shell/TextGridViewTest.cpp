@@ -1,4 +1,4 @@
-#include "shell/TextGridView.h"
+#include "shell/widgets/TextGridView.h"
 
 #include <QApplication>
 #include <QClipboard>

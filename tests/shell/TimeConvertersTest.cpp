@@ -1,6 +1,6 @@
 #include "horoscope/Horoscope.h"
 #include "horoscope/NoDisplay.h"
-#include "shell/TimeConverterDialog.h"
+#include "shell/dialogs/TimeConverterDialog.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
 #include <QComboBox>

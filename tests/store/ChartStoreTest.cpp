@@ -1,4 +1,4 @@
-#include "store/ChartStore.h"
+#include "store/charts/ChartStore.h"
 
 #include "tests/store/StoreFixture.h"
 

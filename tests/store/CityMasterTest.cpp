@@ -1,4 +1,4 @@
-#include "store/CityMaster.h"
+#include "store/masters/CityMaster.h"
 
 #include "tests/store/MasterSteps.h"
 #include "tests/store/StoreFixture.h"

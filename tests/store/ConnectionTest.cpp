@@ -1,4 +1,4 @@
-#include "store/Connection.h"
+#include "store/database/Connection.h"
 
 #include "tests/store/StoreFixture.h"
 

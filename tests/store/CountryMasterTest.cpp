@@ -1,4 +1,4 @@
-#include "store/CountryMaster.h"
+#include "store/masters/CountryMaster.h"
 
 #include "tests/store/StoreFixture.h"
 

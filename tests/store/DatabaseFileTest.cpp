@@ -1,4 +1,4 @@
-#include "store/DatabaseFile.h"
+#include "store/database/DatabaseFile.h"
 
 #include "tests/store/StoreFixture.h"
 

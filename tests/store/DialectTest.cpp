@@ -1,4 +1,4 @@
-#include "store/Dialect.h"
+#include "store/database/Dialect.h"
 
 #include <gtest/gtest.h>
 

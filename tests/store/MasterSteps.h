@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/MasterRules.h"
+#include "store/masters/MasterRules.h"
 
 #include <gtest/gtest.h>
 

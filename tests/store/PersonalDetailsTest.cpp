@@ -1,4 +1,4 @@
-#include "store/PersonalDetails.h"
+#include "store/masters/PersonalDetails.h"
 
 #include "tests/store/StoreFixture.h"
 

@@ -1,4 +1,4 @@
-#include "store/PlaceLists.h"
+#include "store/masters/PlaceLists.h"
 
 #include "tests/store/StoreFixture.h"
 

@@ -1,4 +1,4 @@
-#include "store/Recordset.h"
+#include "store/database/Recordset.h"
 
 #include "tests/store/StoreFixture.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "store/Connection.h"
-#include "store/DatabaseFile.h"
-#include "store/Recordset.h"
+#include "store/database/Connection.h"
+#include "store/database/DatabaseFile.h"
+#include "store/database/Recordset.h"
 #include "tests/store/OrdinaryUser.h"
 
 #include <gtest/gtest.h>

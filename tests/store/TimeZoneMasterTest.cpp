@@ -1,4 +1,4 @@
-#include "store/TimeZoneMaster.h"
+#include "store/masters/TimeZoneMaster.h"
 
 #include "tests/store/MasterSteps.h"
 #include "tests/store/StoreFixture.h"

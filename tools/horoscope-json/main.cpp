@@ -5,7 +5,7 @@
 #include "horoscope/Horoscope.h"
 #include "report/HoroscopeReport.h"
 #include "runtime/RuntimeError.h"
-#include "store/DatabaseFile.h"
+#include "store/database/DatabaseFile.h"
 #include "tools/horoscope-json/BirthReader.h"
 #include "tools/horoscope-json/HoroscopeWriter.h"
 #include "tools/horoscope-json/RunStatus.h"

@@ -1,0 +1,75 @@
+#include "astronomy/theory/Nutation.h"
+
+#include "astronomy/theory/AngleReduction.h"
+
+#include <cmath>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr double twiceDegreesToRadians = 0.03490658504;
+
+/// The arguments of the series, radians. Their elements differ a little from those of the Sun's own theory.
+struct Arguments {
+    double twiceSun;
+    double twiceMoon;
+    double sunAnomaly;
+    double moonAnomaly;
+    double node;
+};
+
+Arguments ArgumentsAt(double T) {
+    const double T2 = T * T;
+    return {
+        (279.6967 + 0.000303 * T2 + 360 * FractionAboveFloor(100.0021358 * T)) * twiceDegreesToRadians,
+        (270.4342 - 0.001133 * T2 + 360 * FractionAboveFloor(1336.855231 * T)) * twiceDegreesToRadians,
+        (358.4758 - 0.00015 * T2 + 360 * FractionAboveFloor(99.99736056 * T)) * degreesToRadians,
+        (296.1046 + 0.009192 * T2 + 360 * FractionAboveFloor(1325.552359 * T)) * degreesToRadians,
+        (259.1833 + 0.002078 * T2 - 360 * FractionAboveFloor(5.372616667 * T)) * degreesToRadians,
+    };
+}
+
+/// Seconds of arc.
+double InLongitude(const Arguments &a, double T) {
+    const auto [L2, D2, Ms, Mm, N] = a;
+    double sum = (-17.2327 - 0.01737 * T) * std::sin(N);
+    sum += (-1.2729 - 0.00013 * T) * std::sin(L2);
+    sum += 0.2088 * std::sin(N + N);
+    sum -= 0.2037 * std::sin(D2);
+    sum += (0.1261 - 0.00031 * T) * std::sin(Ms);
+    sum += 0.0675 * std::sin(Mm);
+    sum -= (0.0497 - 0.00012 * T) * std::sin(L2 + Ms);
+    sum -= 0.0342 * std::sin(D2 - N);
+    sum -= 0.0261 * std::sin(D2 + Mm);
+    sum += 0.0214 * std::sin(L2 - Ms);
+    sum -= 0.0149 * std::sin(L2 - D2 + Mm);
+    sum += 0.0124 * std::sin(L2 - N);
+    // Subtracted on purpose; the published series has a plus here.
+    sum -= 0.0114 * std::sin(D2 - Mm);
+    return sum;
+}
+
+/// Seconds of arc.
+double InObliquity(const Arguments &a, double T) {
+    const auto [L2, D2, Ms, Mm, N] = a;
+    double sum = (9.21 + 0.00091 * T) * std::cos(N);
+    sum += (0.522 - 0.00029 * T) * std::cos(L2);
+    sum -= 0.0904 * std::cos(N + N);
+    sum += 0.0884 * std::cos(D2);
+    sum += 0.0216 * std::cos(L2 + Ms);
+    sum += 0.0183 * std::cos(D2 - N);
+    sum += 0.0113 * std::cos(D2 + Mm);
+    sum -= 0.0093 * std::cos(L2 - Ms);
+    sum -= 0.0066 * std::cos(L2 - N);
+    return sum;
+}
+
+} // namespace
+
+Nutation FnFindNutation(double centuries) {
+    const Arguments arguments = ArgumentsAt(centuries);
+    return {InLongitude(arguments, centuries) / 3600, InObliquity(arguments, centuries) / 3600};
+}
+
+} // namespace kelvaro

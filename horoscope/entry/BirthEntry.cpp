@@ -1,0 +1,191 @@
+#include "horoscope/entry/BirthEntry.h"
+
+#include "horoscope/CalculateHoroscope.h"
+#include "horoscope/Horoscope.h"
+#include "horoscope/entry/DateAndTimeTests.h"
+#include "runtime/MomentText.h"
+#include "runtime/Numbers.h"
+#include "runtime/Trimmed.h"
+
+#include <algorithm>
+
+namespace kelvaro {
+
+namespace {
+
+struct Test {
+    bool (*fails)(const BirthFields &);
+    std::string_view message, focus;
+};
+
+/// The last three keep a typed text that names no row from going with the place or the offset of another one.
+constexpr std::array<Test, 16> tests{{
+    {[](const BirthFields &f) { return IsBlank(f.Txt_VC_ChartName); }, "Enter Name", "Txt_VC_ChartName"},
+    {[](const BirthFields &f) { return IsBlank(f.txt_Date); }, "Enter Date of Birth", "txt_Date"},
+    {[](const BirthFields &f) { return IsBlank(f.txt_Month); }, "Enter Month", "txt_Month"},
+    {[](const BirthFields &f) { return IsBlank(f.txt_Year); }, "Enter Year", "txt_Year"},
+    {IsNoYear, "Enter Year Between 1800 and 3000", "txt_Year"},
+    {IsNoDate, "Enter Correct Date", ""},
+    {[](const BirthFields &f) { return IsBlank(f.cbHour); }, "Enter Correct Time", "cbHour"},
+    {[](const BirthFields &f) { return IsBlank(f.cbMins); }, "Enter Correct Time", "cbMins"},
+    // Hours of a 24-hour clock pass, though the hour is one of twelve.
+    {[](const BirthFields &f) { return IsOutside(f.cbHour, 24); }, "Enter Correct Time", "cbHour"},
+    {[](const BirthFields &f) { return IsOutside(f.cbMins, 59); }, "Enter Correct Time", "cbMins"},
+    {[](const BirthFields &f) { return IsBlank(f.txt_VC_Country); }, "Select Country", "txt_VC_Country"},
+    {[](const BirthFields &f) { return IsBlank(f.txt_VC_City); }, "Select City", "txt_VC_City"},
+    {[](const BirthFields &f) { return IsBlank(f.cbTimeZone); }, "Select Timezone", "cbTimeZone"},
+    {[](const BirthFields &f) { return f.txt_VC_Country != f.countryOfId; }, "Select Country",
+     "txt_VC_Country"},
+    {[](const BirthFields &f) { return f.txt_VC_City != f.cityOfPlace; }, "Select City", "txt_VC_City"},
+    {[](const BirthFields &f) { return f.cbTimeZone != f.zoneOfOffset; }, "Select Timezone", "cbTimeZone"},
+}};
+
+} // namespace
+
+void TakePlace(const store::Place &place, BirthFields &fields) {
+    fields.txt_VC_LatDeg = place.latDeg;
+    fields.txt_VC_LatMin = place.latMin;
+    fields.txt_VC_LatNS = place.latNS;
+    fields.txt_VC_LonDeg = place.lonDeg;
+    fields.txt_VC_LonMin = place.lonMin;
+    fields.txt_VC_LonEW = place.lonEW;
+    fields.txtLatDetails = NumberText(place.latDeg) + " " + place.latNS + " " + NumberText(place.latMin);
+    fields.txtLonDetails = NumberText(place.lonDeg) + " " + place.lonEW + " " + NumberText(place.lonMin);
+    fields.cityOfPlace = fields.txt_VC_City;
+}
+
+void TakeZone(const store::Zone &zone, BirthFields &fields) {
+    fields.cbTimeZone = zone.text;
+    fields.zoneOfOffset = zone.text;
+    fields.txt_VC_TimeDiff = zone.hours;
+    fields.txt_VC_TimeDiffEW = zone.direction;
+}
+
+BirthFields FieldsAtLoad(Moment present) {
+    const CivilDate date = Split(present).date;
+    const std::string dateText = MonthNameDateText(present);
+    const std::string clock = ClockText(present);
+    BirthFields fields;
+    fields.cbGender = genderChoices.front();
+    fields.txt_Date = dateText.substr(0, 2);
+    fields.txt_Month = dateText.substr(3, 3);
+    fields.txt_Year = std::to_string(date.year);
+    fields.cbHour = clock.substr(0, 2);
+    fields.cbMins = clock.substr(3, 2);
+    fields.Opt_PM = !IsBeforeNoon(present);
+    return fields;
+}
+
+void ClearFields(BirthFields &fields) {
+    for (std::string *text :
+         {&fields.Txt_VC_ChartName, &fields.cbGender, &fields.txt_Date, &fields.txt_Month, &fields.txt_Year,
+          &fields.cbHour, &fields.cbMins, &fields.txt_VC_Country, &fields.txt_VC_City, &fields.cbTimeZone,
+          &fields.txtLatDetails, &fields.txtLonDetails, &fields.countryOfId, &fields.cityOfPlace,
+          &fields.zoneOfOffset}) {
+        text->clear();
+    }
+    fields.countryId = 0;
+    fields.chosenZone = 0;
+    fields.isOpenedFromNoon = false;
+}
+
+std::string HourText(const BirthFields &fields) {
+    if (fields.cbHour == "12") {
+        return fields.Opt_PM ? "12" : "0";
+    }
+    return fields.Opt_PM ? NumberText(NumberFromText(fields.cbHour) + 12) : fields.cbHour;
+}
+
+Moment MomentOfBirth(const BirthFields &fields) {
+    return ReadMoment(DateTextOf(fields) + " " + HourText(fields) + ":" + fields.cbMins + ": 00");
+}
+
+std::string RemarkOnTime(const BirthFields &fields) {
+    const bool stillReadsMidnight = fields.isOpenedFromNoon && fields.cbHour == "12" && !fields.Opt_PM;
+    return stillReadsMidnight ? "12 AM stands here. A birth at noon wants PM." : "";
+}
+
+PlaceChoices ChooseCountry(BirthFields &fields, const store::ListItem &country,
+                           const store::PlaceLists &lists, const HoroscopeState &state) {
+    if (country.text.empty()) {
+        return {};
+    }
+    PlaceChoices choices{lists.CitiesOf(country.key), lists.ZonesOf(country.key)};
+    fields.txt_VC_Country = country.text;
+    fields.countryOfId = country.text;
+    fields.countryId = country.key;
+    fields.txt_VC_City.clear();
+    fields.cityOfPlace.clear();
+    fields.cbTimeZone.clear();
+    fields.zoneOfOffset.clear();
+    fields.chosenZone = 0;
+    if (choices.zones.size() == 1) {
+        ChooseZone(fields, choices.zones.front().number, lists, state);
+    }
+    return choices;
+}
+
+void ChooseCity(BirthFields &fields, const store::PlaceLists &lists) {
+    if (fields.txt_VC_City.empty()) {
+        return;
+    }
+    if (const auto place = lists.PlaceOfCity(fields.txt_VC_City)) {
+        TakePlace(*place, fields);
+    }
+}
+
+void ChooseZone(BirthFields &fields, std::int32_t zoneNumber, const store::PlaceLists &lists,
+                const HoroscopeState &state) {
+    TakeZone(lists.ZoneNumbered(zoneNumber), fields);
+    fields.chosenZone = zoneNumber;
+    fields.txt_VC_Ayanamsa = state.AyanamsaName;
+}
+
+std::optional<Notice> TestBirth(const BirthFields &fields) {
+    const auto failed =
+        std::ranges::find_if(tests, [&fields](const Test &test) { return test.fails(fields); });
+    if (failed == tests.end()) {
+        return std::nullopt;
+    }
+    return Notice{std::string(failed->message), Notice::Icon::Information, std::string(failed->focus)};
+}
+
+void HandOver(const BirthFields &fields, HoroscopeState &state) {
+    const std::string hour = HourText(fields);
+    const Moment birth = MomentOfBirth(fields);
+    state.ChartName = fields.Txt_VC_ChartName;
+    state.BirthDay = fields.txt_Date;
+    state.BirthMonth = fields.txt_Month;
+    state.BirthYear = fields.txt_Year;
+    state.BirthHour = hour;
+    state.BirthMinute = fields.cbMins;
+    state.BirthTimeZoneName = fields.cbTimeZone;
+    state.BirthMoment = birth;
+    state.BirthGender = fields.cbGender;
+    state.BirthCity = fields.txt_VC_City;
+    state.BirthCountry = fields.txt_VC_Country;
+    state.AyanamsaInForce = state.AyanamsaName;
+    state.LatDeg = fields.txt_VC_LatDeg;
+    state.LatNS = fields.txt_VC_LatNS;
+    state.LatMin = fields.txt_VC_LatMin;
+    state.LonDeg = fields.txt_VC_LonDeg;
+    state.LonEW = fields.txt_VC_LonEW;
+    state.LonMin = fields.txt_VC_LonMin;
+    state.TimeDiff = fields.txt_VC_TimeDiff;
+    state.TimeDiffEW = fields.txt_VC_TimeDiffEW;
+}
+
+std::optional<Notice> AcceptBirth(const BirthFields &fields, Horoscope &horoscope) {
+    if (horoscope.isCalculating) {
+        return std::nullopt;
+    }
+    if (auto notice = TestBirth(fields)) {
+        return notice;
+    }
+    HandOver(fields, horoscope.state);
+    horoscope.chartNumber = fields.txt_VC_UserId;
+    CalculateHoroscope(horoscope);
+    return std::nullopt;
+}
+
+} // namespace kelvaro

@@ -1,0 +1,164 @@
+#include "horoscope/entry/BirthStorage.h"
+
+#include "horoscope/entry/LastChart.h"
+#include "runtime/MomentText.h"
+#include "runtime/RuntimeError.h"
+#include "runtime/Trimmed.h"
+#include "store/charts/ChartStore.h"
+
+#include <cstddef>
+#include <utility>
+
+namespace kelvaro {
+
+namespace {
+
+store::Place PlaceOf(const BirthFields &fields) {
+    return {fields.txt_VC_LatDeg, fields.txt_VC_LatMin, fields.txt_VC_LatNS,
+            fields.txt_VC_LonDeg, fields.txt_VC_LonMin, fields.txt_VC_LonEW};
+}
+
+store::ChartToSave NewChart(const BirthFields &fields, Moment birth) {
+    store::ChartToSave chart;
+    chart.Txt_SC_ChartName = fields.Txt_VC_ChartName;
+    chart.SC_ChartName = fields.Txt_VC_ChartName;
+    chart.SC_Gender = fields.cbGender == "Male" ? "Male" : "Female";
+    chart.SC_Country = std::to_string(fields.countryId);
+    chart.SC_City = fields.txt_VC_City;
+    chart.SC_Date = birth;
+    chart.SC_Time = birth;
+    chart.SC_LatDeg = fields.txt_VC_LatDeg;
+    chart.SC_LatNS = fields.txt_VC_LatNS;
+    chart.SC_LatMin = fields.txt_VC_LatMin;
+    chart.SC_LonDeg = fields.txt_VC_LonDeg;
+    chart.SC_LonEW = fields.txt_VC_LonEW;
+    chart.SC_LonMin = fields.txt_VC_LonMin;
+    chart.SC_TimeDiff = fields.chosenZone;
+    return chart;
+}
+
+store::StoredChart ChangedChart(const BirthFields &fields, Moment birth) {
+    const CivilMoment parts = Split(birth);
+    store::StoredChart chart;
+    chart.Sno = fields.txt_VC_UserId;
+    // The date as typed, where the name of a new chart has its number: "04-Jul-1965" beside "4-Jul-1965".
+    chart.ChartName =
+        store::NameWithDate(fields.Txt_VC_ChartName, fields.txt_Date, fields.txt_Month, fields.txt_Year);
+    chart.Gender = fields.cbGender;
+    chart.Country = fields.countryId;
+    chart.City = fields.txt_VC_City;
+    chart.ChartDay = parts.date.day;
+    chart.ChartMonth = parts.date.month;
+    chart.ChartYear = parts.date.year;
+    chart.ChartHour = parts.clock.hour;
+    chart.ChartMinute = parts.clock.minute;
+    chart.place = PlaceOf(fields);
+    chart.TimeDifference = fields.chosenZone == 0 ? fields.txt_VC_TimeDiffId : fields.chosenZone;
+    return chart;
+}
+
+Notice InsertBirth(BirthFields &fields, Moment birth, store::Connection &connection,
+                   SettingsStore &settings) {
+    store::ChartStore charts(connection);
+    store::Transaction transaction(connection);
+    store::SavedOrNot outcome = charts.SC_SaveChart(NewChart(fields, birth));
+    if (!outcome.isSaved) {
+        outcome.notice.focus = "Txt_VC_ChartName";
+        return outcome.notice;
+    }
+    const std::int32_t number = charts.NewestNumber();
+    transaction.Commit();
+    fields.txt_VC_UserId = number;
+    try {
+        KeepLastChart(fields, settings);
+    } catch (const RuntimeError &error) {
+        throw RuntimeError(std::string("The chart is saved, but it will not come back at the next start. ") +
+                           error.what());
+    }
+    return outcome.notice;
+}
+
+Notice UpdateBirth(const BirthFields &fields, Moment birth, store::Connection &connection,
+                   SettingsStore &settings) {
+    store::Transaction transaction(connection);
+    store::ChartStore(connection).Update(ChangedChart(fields, birth));
+    // The settings come before the row, which stands only with the commit, but not before the database has
+    // taken the row's values: a chart that has gone must not become the last chart.
+    KeepLastChartAround([&transaction] { transaction.Commit(); }, fields, settings);
+    return {"Details are Sucessfully Updated", Notice::Icon::None};
+}
+
+/// Back to a 12-hour clock. Noon, too, becomes twelve with AM; the form says so beside the time.
+void TakeHour(std::int32_t hour, BirthFields &fields) {
+    fields.Opt_PM = hour > 12;
+    fields.isOpenedFromNoon = hour == 12;
+    if (hour == 0) {
+        hour = 12;
+    } else if (hour > 12) {
+        hour -= 12;
+    }
+    fields.cbHour = std::to_string(hour);
+}
+
+} // namespace
+
+Notice SaveBirth(BirthFields &fields, store::Connection &connection, SettingsStore &settings) {
+    if (auto notice = TestBirth(fields)) {
+        return *std::move(notice);
+    }
+    const Moment birth = MomentOfBirth(fields);
+    return fields.txt_VC_UserId == 0 ? InsertBirth(fields, birth, connection, settings)
+                                     : UpdateBirth(fields, birth, connection, settings);
+}
+
+OpenedBirth OpenBirth(const store::ListItem &chart, store::Connection &connection,
+                      const HoroscopeState &state) {
+    const store::StoredChart stored = store::ChartStore(connection).Read(chart.key);
+    const store::PlaceLists lists(connection);
+    const std::vector<store::ListItem> countries = lists.Countries();
+    if (stored.Country < 1 || static_cast<std::size_t>(stored.Country) > countries.size()) {
+        throw store::StoreError("There is no country number " + std::to_string(stored.Country) +
+                                " in the list of countries.");
+    }
+    OpenedBirth opened;
+    BirthFields &fields = opened.fields;
+    fields.Txt_VC_ChartName = store::PersonOf(chart.text);
+    fields.txt_VC_UserId = stored.Sno;
+    fields.txt_Date = std::to_string(stored.ChartDay);
+    fields.txt_Month =
+        monthChoices.at(static_cast<std::size_t>(ReadMonth(std::to_string(stored.ChartMonth))) - 1);
+    fields.txt_Year = std::to_string(stored.ChartYear);
+    TakeHour(stored.ChartHour, fields);
+    fields.cbMins = std::to_string(stored.ChartMinute);
+    fields.cbGender = stored.Gender;
+    const auto position = static_cast<std::size_t>(stored.Country) - 1;
+    opened.choices = ChooseCountry(fields, countries[position], lists, state);
+    fields.txt_VC_City = stored.City;
+    TakePlace(stored.place, fields);
+    if (stored.TimeDifference) {
+        TakeZone(lists.ZoneNumbered(*stored.TimeDifference), fields);
+        fields.chosenZone = 0;
+        fields.txt_VC_TimeDiffId = *stored.TimeDifference;
+    }
+    return opened;
+}
+
+Notice NoChartChosen() {
+    return {"Select Chart Name ", Notice::Icon::Information, "List_VC_ChartName"};
+}
+
+bool CanDeleteFromMenu(const BirthFields &fields) {
+    return fields.txt_VC_UserId != 0;
+}
+
+bool CanDeleteFromToolbar(const BirthFields &fields) {
+    return !IsBlank(fields.Txt_VC_ChartName);
+}
+
+Notice DeleteBirth(BirthFields &fields, store::Connection &connection) {
+    store::ChartStore(connection).Delete(fields.txt_VC_UserId);
+    ClearFields(fields);
+    return {"Successfully Deleted", Notice::Icon::Information, "Txt_VC_ChartName"};
+}
+
+} // namespace kelvaro

@@ -1,0 +1,35 @@
+#include "horoscope/entry/DateAndTimeTests.h"
+
+#include "horoscope/entry/BirthEntry.h"
+#include "runtime/MomentText.h"
+#include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
+
+#include <cmath>
+
+namespace kelvaro {
+
+std::string DateTextOf(const BirthFields &fields) {
+    return fields.txt_Date + "/" + fields.txt_Month + "/" + fields.txt_Year;
+}
+
+bool IsNoDate(const BirthFields &fields) {
+    try {
+        ReadMoment(DateTextOf(fields));
+        return false;
+    } catch (const ConversionError &) {
+        return true;
+    }
+}
+
+bool IsNoYear(const BirthFields &fields) {
+    const double year = RoundHalfToEven(NumberFromText(fields.txt_Year));
+    return year < 1800 || year > 3000;
+}
+
+bool IsOutside(const std::string &number, double highest) {
+    const double whole = std::floor(NumberFromText(number));
+    return whole < 0 || whole > highest;
+}
+
+} // namespace kelvaro

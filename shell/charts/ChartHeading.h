@@ -1,0 +1,28 @@
+#pragma once
+
+#include "shell/charts/PolygonText.h"
+
+#include <QPainter>
+#include <QString>
+
+namespace kelvaro {
+
+/// What stands in the middle of a chart, or above it: which chart it is, and whose.
+struct ChartHeading {
+    QString title;
+    QString name;
+    QString moment;
+    QString place;
+};
+
+enum class HeadingShape {
+    Block, ///< every item on its own line
+    Band,  ///< the title, and below it the rest in one line
+};
+
+/// Draws a heading in the middle of an area. Sizes follow the side of the chart. Long names and places take a
+/// second line, and everything becomes smaller where that is not enough.
+void DrawHeading(QPainter &painter, const ChartHeading &heading, HeadingShape shape, const QRectF &area,
+                 double side, const ChartFont &font);
+
+} // namespace kelvaro

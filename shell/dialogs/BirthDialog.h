@@ -1,0 +1,100 @@
+#pragma once
+
+#include "horoscope/entry/BirthEntry.h"
+
+#include <QDialog>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+class QComboBox;
+class QMenu;
+
+namespace Ui {
+class frm_OpenChart;
+} // namespace Ui
+
+namespace kelvaro {
+
+class ChartListDialog;
+class SettingsStore;
+
+/// The form of birth details: it gathers what is typed and hands it to the rules. Nothing starts while a
+/// horoscope is being computed.
+class BirthDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// Fills the lists and shows the present date and time. Horoscope and settings must outlive the dialog.
+    /// Raises StoreError when the countries cannot be read.
+    BirthDialog(Horoscope &horoscope, SettingsStore &settings, QWidget *parent = nullptr);
+    BirthDialog(const BirthDialog &) = delete;
+    BirthDialog &operator=(const BirthDialog &) = delete;
+    ~BirthDialog() override;
+
+    void New();
+    void OpenList();
+    void Save();
+
+    /// Shows the form again with what stood on it, and with the lists of places as a master has left them.
+    void ReturnFromMaster();
+
+    void reject() override;
+
+signals:
+    /// The form has hidden itself to make room for the master of cities.
+    void CityMasterWanted();
+    /// The form has hidden itself to make room for the master of time zones.
+    void TimeZoneMasterWanted();
+    /// The user is done with the form.
+    void Closed();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    struct Command;
+
+    void FillLists();
+    void PrepareLabels();
+    void BuildMenu();
+    void BuildToolbar();
+    void ConnectFields();
+
+    void Guard(const std::function<void()> &work);
+    void Tell(const Notice &notice);
+    void GoToNextField();
+
+    void Read();
+    void Show();
+    void ShowRemark();
+
+    void ListPlaces(const PlaceChoices &choices);
+    void TakeCountry();
+    void TakeCity();
+    void TakeZone();
+    void TakePlaces();
+
+    void Confirm();
+    void OpenListAnew();
+    void OpenChart(const store::ListItem &chart);
+    void PassOverSecondClick();
+    void SetDeafToMouse(bool isDeaf);
+    void DeleteFromMenu();
+    void DeleteFromToolbar();
+    void Delete();
+    void AskMaster(QWidget *returnTo, void (BirthDialog::*wanted)());
+
+    Horoscope &horoscope_;
+    SettingsStore &settings_;
+    store::PlaceLists lists_;
+    BirthFields fields_;
+    std::unique_ptr<Ui::frm_OpenChart> controls_;
+    std::unique_ptr<ChartListDialog> chartList_; ///< left over from an earlier opening, hidden
+    QTimer secondClick_; ///< runs while a click may still be the second one of a double click in the list
+    QWidget *firstField_ = nullptr; ///< takes the focus when the form is shown
+};
+
+} // namespace kelvaro

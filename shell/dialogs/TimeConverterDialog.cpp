@@ -1,0 +1,135 @@
+#include "shell/dialogs/TimeConverterDialog.h"
+
+#include "horoscope/Horoscope.h"
+#include "runtime/Now.h"
+#include "shell/widgets/FieldFocus.h"
+#include "shell/widgets/ListedChoice.h"
+#include "ui_TimeConverterDialog.h"
+
+namespace kelvaro {
+
+namespace {
+
+constexpr int placeColumns = 44; ///< characters of the longest zones
+constexpr int ghatisOfDay = 60;
+
+} // namespace
+
+TimeConverterDialog::TimeConverterDialog(const Kind &kind, Horoscope &horoscope, QWidget *parent)
+    : MasterDialog(parent), kind_(kind), state_(horoscope.state), lists_(horoscope.connection),
+      fields_(FieldsAtLoad(Now())), controls_(std::make_unique<Ui::TimeConverter>()) {
+    controls_->setupUi(this);
+    setObjectName(QString::fromLatin1(kind.form));
+    setWindowTitle(QString::fromLatin1(kind.caption));
+    controls_->result->setObjectName(QString::fromLatin1(kind.result));
+    FillLists();
+    if (kind.takesGhatis) {
+        TakeGhatis();
+    }
+    OnChoice(controls_->Cmb_VP_Country, [this] { Guard([this] { TakeCountry(); }); });
+    // A result never stands beside fields that it does not belong to.
+    for (const QComboBox *box : findChildren<QComboBox *>()) {
+        connect(box, &QComboBox::currentTextChanged, controls_->result, &QLineEdit::clear);
+    }
+    connect(controls_->Opt_PM, &QRadioButton::toggled, controls_->result, &QLineEdit::clear);
+    connect(controls_->cmdSubmit, &QPushButton::clicked, this, [this] { Guard([this] { Convert(); }); });
+    connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &QDialog::reject);
+    FocusOn(controls_->txt_Date);
+}
+
+TimeConverterDialog::~TimeConverterDialog() = default;
+
+void TimeConverterDialog::FillLists() {
+    struct TextList {
+        QComboBox *box;
+        int columns;
+        QStringList texts;
+        const std::string &present;
+    };
+    for (const auto &[box, columns, texts, present] :
+         {TextList{controls_->txt_Date, 2, NumbersFromTo(1, 31, 2), fields_.txt_Date},
+          TextList{controls_->txt_Month, 3, TextsOf(monthChoices), fields_.txt_Month},
+          TextList{controls_->txt_Year, 4, NumbersFromTo(firstListedYear, lastListedYear, 4),
+                   fields_.txt_Year},
+          TextList{controls_->cbHour, 2, NumbersFromTo(1, 12, 2), fields_.cbHour},
+          TextList{controls_->cbMins, 2, NumbersFromTo(0, 59, 2), fields_.cbMins}}) {
+        PrepareList(box, columns);
+        FillList(box, texts);
+        ShowText(box, present);
+    }
+    (fields_.Opt_PM ? controls_->Opt_PM : controls_->Opt_AM)->setChecked(true);
+    for (QComboBox *box : {controls_->Cmb_VP_Country, controls_->Cmb_VP_City, controls_->cbTimeZone}) {
+        PrepareList(box, placeColumns);
+    }
+    FillList(controls_->Cmb_VP_Country, lists_.Countries());
+}
+
+/// The lists of hour and minute take ghatis and vighatis.
+void TimeConverterDialog::TakeGhatis() {
+    controls_->label_cbHour->setText(tr("Ghati : Vighati"));
+    controls_->cbHour->setAccessibleName(tr("Ghati"));
+    controls_->cbMins->setAccessibleName(tr("Vighati"));
+    FillList(controls_->cbHour, NumbersFromTo(0, ghatisOfDay, 2));
+    ShowText(controls_->cbHour, "00");
+    ShowText(controls_->cbMins, "00");
+    controls_->Opt_AM->hide();
+    controls_->Opt_PM->hide();
+}
+
+void TimeConverterDialog::TakeCountry() {
+    const store::ListItem country{ChosenText(controls_->Cmb_VP_Country).toStdString(),
+                                  ChosenKey(controls_->Cmb_VP_Country)};
+    const PlaceChoices choices = ChooseCountry(fields_, country, lists_, state_);
+    FillList(controls_->Cmb_VP_City, choices.cities);
+    FillList(controls_->cbTimeZone, RowsOf(choices.zones));
+    ShowText(controls_->cbTimeZone, country.text.empty() ? std::string() : fields_.cbTimeZone);
+}
+
+void TimeConverterDialog::ReadFields() {
+    const auto text = [](const QComboBox *box) { return box->currentText().toStdString(); };
+    const auto chosen = [&text](const QComboBox *box) {
+        const QString row = ChosenText(box);
+        return row.isEmpty() ? text(box) : row.toStdString();
+    };
+    fields_.txt_Date = text(controls_->txt_Date);
+    fields_.txt_Month = text(controls_->txt_Month);
+    fields_.txt_Year = text(controls_->txt_Year);
+    fields_.cbHour = text(controls_->cbHour);
+    fields_.cbMins = text(controls_->cbMins);
+    fields_.Opt_PM = controls_->Opt_PM->isChecked();
+    fields_.txt_VC_Country = chosen(controls_->Cmb_VP_Country);
+    fields_.txt_VC_City = chosen(controls_->Cmb_VP_City);
+    fields_.cbTimeZone = chosen(controls_->cbTimeZone);
+    if (!ChosenText(controls_->Cmb_VP_City).isEmpty()) {
+        ChooseCity(fields_, lists_);
+    }
+    if (const std::int32_t zone = ChosenKey(controls_->cbTimeZone)) {
+        ChooseZone(fields_, zone, lists_, state_);
+    }
+}
+
+void TimeConverterDialog::Convert() {
+    controls_->result->clear();
+    ReadFields();
+    const TimeConverters::Result result = (converters_.*kind_.convert)(fields_);
+    if (const auto *notice = std::get_if<Notice>(&result)) {
+        Tell(*notice);
+        if (const auto *box = findChild<QComboBox *>(QString::fromStdString(notice->focus))) {
+            box->lineEdit()->selectAll(); // ready to be typed over
+        }
+        return;
+    }
+    controls_->result->setText(QString::fromStdString(std::get<std::string>(result)));
+}
+
+IshtaGhatiDialog::IshtaGhatiDialog(Horoscope &horoscope, QWidget *parent)
+    : TimeConverterDialog({"frm_BirthTimetoIshtaGhatika", "BirthTime To  IshtaGhatika", "txtIshtaGhati",
+                           false, &TimeConverters::IshtaGhatiOfBirthTime},
+                          horoscope, parent) {}
+
+BirthTimeDialog::BirthTimeDialog(Horoscope &horoscope, QWidget *parent)
+    : TimeConverterDialog({"frm_IshtaghatikaToBirthTime", "IshtaGhatika To BirthTime", "txtBirthTime", true,
+                           &TimeConverters::BirthTimeOfIshtaGhati},
+                          horoscope, parent) {}
+
+} // namespace kelvaro

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "shell/dialogs/MasterDialog.h"
+#include "store/masters/TimeZoneMaster.h"
+
+#include <memory>
+
+class QComboBox;
+
+namespace Ui {
+class frm_AddTimeZone;
+} // namespace Ui
+
+namespace kelvaro {
+
+class MasterGrid;
+
+/// The dialog that adds and edits time zones.
+class TimeZoneDialog : public MasterDialog {
+    Q_OBJECT
+
+public:
+    /// Lists the stored countries. The connection must outlive the dialog. Raises StoreError when they cannot
+    /// be read.
+    explicit TimeZoneDialog(store::Connection &connection, QWidget *parent = nullptr);
+    TimeZoneDialog(const TimeZoneDialog &) = delete;
+    TimeZoneDialog &operator=(const TimeZoneDialog &) = delete;
+    ~TimeZoneDialog() override;
+
+private:
+    /// The fields of the tab that adds or of the one that edits.
+    struct Entry {
+        QComboBox *country;
+        QComboBox *zone; ///< null where a zone is added
+        QLineEdit *place, *hours, *minutes;
+        QComboBox *direction;
+    };
+
+    void FillLists(store::Connection &connection);
+    void ConnectChoices();
+    void ConnectButtons();
+    store::ZoneList ShowZones(const QComboBox *country, MasterGrid *grid) const;
+    void ShowEditedCountry();
+    void ShowZone();
+    static store::ZoneFields FieldsOf(const Entry &entry);
+    void Conclude(const store::Outcome &outcome);
+    void Refill();
+
+    store::TimeZoneMaster master_;
+    std::unique_ptr<Ui::frm_AddTimeZone> controls_;
+    Entry add_{}, edit_{};
+};
+
+} // namespace kelvaro

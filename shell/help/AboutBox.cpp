@@ -1,0 +1,44 @@
+#include "shell/help/AboutBox.h"
+
+#include "shell/widgets/ChartColours.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr int textWidth = 440;
+constexpr int margin = 20;
+
+} // namespace
+
+AboutBox::AboutBox(QWidget *parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frm_AboutUs"));
+    setWindowTitle(tr("About us"));
+    auto *text = new QLabel(
+        tr("<h2 style='color:%1'>Kelvaro Basic</h2><p>Version 2.4</p>"
+           "<p>Vedic astrology on the desktop: the whole horoscope of a birth, computed by the program "
+           "itself.</p>"
+           "<p>Kelvaro Technologies Pvt Ltd<br>www.kelvaro.example<br>support@kelvaro.example</p>"
+           "<p><b>Place data:</b> GeoNames (https://www.geonames.org), CC BY 4.0 "
+           "(https://creativecommons.org/licenses/by/4.0/); names shortened and made unique, positions "
+           "rounded "
+           "to minutes.</p>"
+           "<p><b>Zone offsets:</b> the tz database, release 2025b, public domain.</p>")
+            .arg(lineColour.name()));
+    text->setWordWrap(true);
+    text->setTextInteractionFlags(Qt::TextBrowserInteraction);
+    text->setFixedWidth(textWidth);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->addWidget(text);
+    layout->addWidget(buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+} // namespace kelvaro

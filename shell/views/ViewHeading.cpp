@@ -1,0 +1,40 @@
+#include "shell/views/ViewHeading.h"
+
+#include "shell/widgets/ChartColours.h"
+
+#include <utility>
+
+namespace kelvaro {
+
+ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
+    const auto text = [](const std::string &field) { return QString::fromStdString(field); };
+    const auto twoDigits = [&](const std::string &field) { return text(field).rightJustified(2, u'0'); };
+    QStringList place{text(state.BirthCity), text(state.BirthCountry)};
+    place.removeAll(QString());
+    return {title, text(state.ChartName),
+            QStringLiteral("%1/%2/%3  %4:%5")
+                .arg(twoDigits(state.BirthDay), text(state.BirthMonth), text(state.BirthYear),
+                     twoDigits(state.BirthHour), twoDigits(state.BirthMinute)),
+            place.join(QStringLiteral(", "))};
+}
+
+ViewHeading::ViewHeading(QString title, QWidget *parent) : QLabel(parent), title_(std::move(title)) {
+    setTextFormat(Qt::RichText);
+    setAlignment(Qt::AlignCenter);
+    setWordWrap(true);
+}
+
+void ViewHeading::Show(const HoroscopeState &state) {
+    const ChartHeading heading = HeadingOf(state, title_);
+    QStringList whose{heading.name, heading.moment, heading.place};
+    whose.removeAll(QString());
+    for (QString &part : whose) {
+        part = part.toHtmlEscaped();
+    }
+    setText(QStringLiteral("<span style='font-size:x-large; font-weight:600; color:%1'>%2</span><br>"
+                           "<span style='color:%3'>%4</span>")
+                .arg(lineColour.name(), heading.title.toHtmlEscaped(), figureColour.name(),
+                     whose.join(QStringLiteral(" &nbsp;&nbsp;&middot;&nbsp;&nbsp; "))));
+}
+
+} // namespace kelvaro

@@ -1,0 +1,120 @@
+#include "shell/widgets/ListedChoice.h"
+
+#include "shell/widgets/TypeAhead.h"
+
+#include <QListView>
+
+#include <memory>
+
+namespace kelvaro {
+
+namespace {
+
+int ChosenRow(const QComboBox *box) {
+    const QString text = box->currentText();
+    if (text.isEmpty()) {
+        return -1;
+    }
+    const int row = box->currentIndex();
+    // Of rows with one text the one that was picked counts.
+    const bool isPicked = row >= 0 && box->itemText(row) == text;
+    return isPicked ? row : box->findText(text, Qt::MatchFixedString);
+}
+
+void ChooseRow(QComboBox *box, int row) {
+    box->setCurrentIndex(row);
+    if (row < 0) {
+        box->clearEditText();
+    }
+}
+
+} // namespace
+
+void PrepareList(QComboBox *box, int columns) {
+    constexpr int listedRows = 12;
+    TypeAhead::Serve(box);
+    auto *view = new QListView(box);
+    view->setUniformItemSizes(true);
+    view->setSpacing(1);
+    box->setView(view);
+    box->setMaxVisibleItems(listedRows);
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(columns);
+}
+
+QStringList NumbersFromTo(int first, int last, int width) {
+    QStringList numbers;
+    for (int number = first; number <= last; ++number) {
+        numbers << QStringLiteral("%1").arg(number, width, 10, QLatin1Char('0'));
+    }
+    return numbers;
+}
+
+QStringList TextsOf(std::span<const std::string_view> texts) {
+    QStringList list;
+    for (const std::string_view text : texts) {
+        list << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    }
+    return list;
+}
+
+std::vector<store::ListItem> RowsOf(const std::vector<store::Zone> &zones) {
+    std::vector<store::ListItem> rows;
+    rows.reserve(zones.size());
+    for (const store::Zone &zone : zones) {
+        rows.push_back({zone.text, zone.number});
+    }
+    return rows;
+}
+
+void FillList(QComboBox *box, const std::vector<store::ListItem> &items) {
+    box->clear();
+    // A box chooses the first row that it gets.
+    const QSignalBlocker quiet(box);
+    for (const store::ListItem &item : items) {
+        box->addItem(QString::fromStdString(item.text), item.key);
+    }
+    ChooseRow(box, -1);
+}
+
+void FillList(QComboBox *box, const QStringList &texts) {
+    box->clear();
+    const QSignalBlocker quiet(box);
+    box->addItems(texts);
+    ChooseRow(box, -1);
+}
+
+void ShowText(QComboBox *box, const std::string &text) {
+    const QString shown = QString::fromStdString(text);
+    if (box->itemText(box->currentIndex()) != shown) {
+        box->setCurrentIndex(box->findText(shown, Qt::MatchFixedString | Qt::MatchCaseSensitive));
+    }
+    box->setEditText(shown);
+}
+
+QString ChosenText(const QComboBox *box) {
+    return box->itemText(ChosenRow(box));
+}
+
+std::int32_t ChosenKey(const QComboBox *box) {
+    return box->itemData(ChosenRow(box)).toInt();
+}
+
+void ChooseKey(QComboBox *box, std::int32_t key) {
+    ChooseRow(box, box->findData(key));
+}
+
+void OnChoice(QComboBox *box, const std::function<void()> &chosen) {
+    // A pick changes text and row, one of two rows with one text only the row, typing only the text.
+    const auto look = [box, chosen, last = std::make_shared<std::int32_t>(ChosenKey(box))] {
+        const std::int32_t key = ChosenKey(box);
+        if (key != *last) {
+            *last = key;
+            chosen();
+        }
+    };
+    QObject::connect(box, &QComboBox::currentTextChanged, box, look);
+    QObject::connect(box, &QComboBox::currentIndexChanged, box, look);
+}
+
+} // namespace kelvaro

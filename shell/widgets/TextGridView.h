@@ -1,0 +1,75 @@
+#pragma once
+
+#include "horoscope/record/TextGrid.h"
+
+#include <QAbstractTableModel>
+#include <QTableView>
+
+#include <vector>
+
+namespace kelvaro {
+
+/// Rows of a text grid, as a table's model.
+class TextGridModel : public QAbstractTableModel {
+public:
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Letters "l", "c", "r" for the alignment of the columns; the last one serves for those that follow.
+    void SetAlignments(const QString &letters) { alignments_ = letters; }
+
+    /// Takes over some rows of a grid; row numbers of bold cells are those of the grid.
+    void Show(const TextGrid &grid, std::size_t firstRow, std::size_t rowCount);
+
+    /// Makes a row stand out; none for -1.
+    void Mark(int row);
+    int MarkedRow() const { return markedRow_; }
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    bool IsBold(const QModelIndex &index) const;
+    Qt::Alignment AlignmentOf(int column) const;
+
+    QStringList titles_;
+    std::vector<std::vector<std::string>> rows_;
+    std::vector<TextGrid::Cell> boldCells_;
+    QString alignments_ = QStringLiteral("l");
+    int markedRow_ = -1;
+};
+
+/// A table of texts in the colours of the house, with columns that fit their contents. Selected cells can be
+/// copied.
+class TextGridView : public QTableView {
+public:
+    static constexpr double widestStretch = 1.75; ///< of columns, times what their contents need
+
+    TextGridView(const QString &name, const QString &alignments, QWidget *parent = nullptr);
+
+    void Show(const TextGrid &grid);
+    void Show(const TextGrid &grid, std::size_t firstRow, std::size_t rowCount);
+
+    TextGridModel &Rows() { return *model_; }
+
+    /// The least size at which every cell of the table is seen, in a font of that size in points.
+    QSize SizeAt(double points) const;
+
+    /// The height of rows in that font when so many of them, with titles, share a room: from close to airy.
+    int RowHeightAt(double points, int rows, int room) const;
+
+    /// Lays the table out in that font and gives it its size. Columns share what the width leaves over, up
+    /// to `widestStretch`; what is left after that belongs to the last one.
+    void LayOut(double points, int width, int rowHeight);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    std::vector<int> ColumnWidths(const QFontMetrics &boldMetrics) const;
+
+    TextGridModel *model_;
+};
+
+} // namespace kelvaro

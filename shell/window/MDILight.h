@@ -1,0 +1,96 @@
+#pragma once
+
+#include "horoscope/Horoscope.h"
+#include "horoscope/StatusDisplay.h"
+#include "shell/window/UserSettings.h"
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QPointer>
+#include <QSettings>
+
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+
+namespace kelvaro {
+
+class BirthDialog;
+class HelpWindow;
+class MainHoroscope;
+class StatusPanel;
+class ViewArea;
+
+/// The main window: the horoscope in force, its tree and its views, the menus and what they open.
+class MDILight : public QMainWindow, private StatusDisplay {
+    Q_OBJECT
+
+public:
+    /// Works with the settings of the user, or with those in a file.
+    explicit MDILight(const QString &settingsFile = {});
+    MDILight(const MDILight &) = delete;
+    MDILight &operator=(const MDILight &) = delete;
+    /// Unloads the windows in a fixed order, then the database.
+    ~MDILight() override;
+
+    /// Opens the database beside the program, or its copy in the user's folder, reads the preferences and the
+    /// letterhead, and shows the chart that the program starts with. An error is shown in a message box and
+    /// ends the start; the window stays, with the menus that need a database disabled.
+    void Start(const std::filesystem::path &programFolder, const std::filesystem::path &userFolder);
+
+    Horoscope &HoroscopeInForce() { return horoscope_; }
+
+    /// Computes and shows the horoscope as its record stands. A call in the middle of a run is ignored, and
+    /// a window that was closed in the middle of a run closes at its end.
+    void Calculate();
+
+    // The owner's letterhead, as it stood at the start.
+    QString Str_CompName, Str_CompAddress, Str_CompAddress2, Str_CompCity, Str_CompCountry, Str_CompZipcode,
+        Str_CompPhone, Str_CompEMail;
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void OpenStatus() override;
+    void AdvanceStatusBar() override;
+    void CloseStatus() override;
+    void HideHoroscopeForms() override;
+    void HideOpenChart() override;
+    void ShowCurrentView(std::string_view currentView) override;
+    void RunFailed(std::string_view step, std::string_view cause) override;
+
+    void ReadLetterhead();
+    void FNInitialize();
+    void FnEnable() { EnableMenus(true); }
+    void FnDisable() { EnableMenus(false); }
+    void EnableMenus(bool areEnabled);
+
+    void BuildMenu();
+    void BuildShortcuts();
+    void RestoreWindowPlace();
+    void ChooseView(std::size_t view);
+
+    void Guard(const std::function<void()> &work);
+    BirthDialog &ShownBirthForm();
+    void ForgetBirthForm();
+    template <class Dialog, class Subject> void ShowModally(Subject &subject);
+    template <class Master> void ShowMasterForBirthForm();
+    void ShowHelp();
+
+    QSettings settings_;
+    UserSettings lastChart_;
+    store::Connection connection_;
+    Horoscope horoscope_;
+    ViewArea *views_;
+    MainHoroscope *tree_;
+    StatusPanel *panel_ = nullptr;
+    QLabel *owner_; ///< whose program this is, in the status bar
+    QPointer<BirthDialog> birthForm_;
+    QPointer<HelpWindow> help_;
+    bool isCloseWanted_ = false; ///< the window was closed in the middle of a run
+};
+
+} // namespace kelvaro

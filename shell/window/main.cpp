@@ -1,0 +1,28 @@
+#include "shell/window/MDILight.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QStandardPaths>
+#include <QTimer>
+
+int main(int argc, char **argv) {
+    const QApplication application(argc, argv);
+    QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
+    QApplication::setApplicationName(QStringLiteral("Kelvaro Basic"));
+    QApplication::setDesktopFileName(QStringLiteral("kelvaro-basic"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvaro-basic.svg")));
+    // So long may the letters be apart that are typed to find a name in a list.
+    constexpr int betweenLetters = 1000; // milliseconds
+    QApplication::setKeyboardInputInterval(betweenLetters);
+    kelvaro::MDILight window;
+    window.show();
+    // From within the event loop, where a window closed in the middle of the run ends the program.
+    QTimer begin;
+    begin.setSingleShot(true);
+    QObject::connect(&begin, &QTimer::timeout, &window, [&window] {
+        window.Start(QApplication::applicationDirPath().toStdString(),
+                     QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
+    });
+    begin.start(0);
+    return QApplication::exec();
+}

@@ -1,0 +1,65 @@
+#include "store/database/Dialect.h"
+
+#include "store/database/NameMatch.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace kelvaro::store {
+
+namespace {
+
+constexpr std::string_view nameCharacters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789_";
+
+/// Takes the next word off the front of a statement: a name, a name in brackets or a single sign; empty at
+/// the end.
+std::string_view TakeWord(std::string_view &rest) {
+    rest.remove_prefix(std::min(rest.find_first_not_of(" \t\r\n"), rest.size()));
+    if (rest.empty()) {
+        return {};
+    }
+    std::size_t length = rest.find_first_not_of(nameCharacters);
+    if (rest.front() == '[') {
+        const std::size_t bracket = rest.find(']');
+        length = bracket == std::string_view::npos ? bracket : bracket + 1;
+    } else if (length == 0) {
+        length = 1;
+    }
+    const std::string_view word = rest.substr(0, length);
+    rest.remove_prefix(word.size());
+    return word;
+}
+
+bool IsTableName(std::string_view word) {
+    return !word.empty() &&
+           (word.front() == '[' || nameCharacters.find(word.front()) != std::string_view::npos);
+}
+
+} // namespace
+
+std::string Translated(std::string_view statement) {
+    std::string_view rest = statement;
+    std::string translated(statement);
+    if (SameName(TakeWord(rest), "delete") && TakeWord(rest) == "*") {
+        translated[translated.find('*')] = ' ';
+    }
+    return translated;
+}
+
+std::optional<WholeRows> AsWholeRows(std::string_view statement) {
+    std::string_view rest = statement;
+    if (!SameName(TakeWord(rest), "select") || TakeWord(rest) != "*" || !SameName(TakeWord(rest), "from")) {
+        return std::nullopt;
+    }
+    const std::string_view table = TakeWord(rest);
+    const std::string_view condition = rest;
+    const std::string_view next = TakeWord(rest);
+    if (!IsTableName(table) ||
+        !(next.empty() || next == ";" || SameName(next, "where") || SameName(next, "order"))) {
+        return std::nullopt;
+    }
+    const std::string name(table);
+    return WholeRows{name, "select rowid, * from " + name + std::string(condition)};
+}
+
+} // namespace kelvaro::store
