@@ -17,10 +17,9 @@ namespace {
 using Houses = std::array<std::uint8_t, 9>;
 
 /// The contributors in the order of the table's columns: Venus stands before Jupiter here.
-constexpr std::array<std::int16_t HoroscopeState::*, 8> contributors{
-    &HoroscopeState::SunRasi,     &HoroscopeState::MoonRasi,  &HoroscopeState::MarsRasi,
-    &HoroscopeState::MercuryRasi, &HoroscopeState::VenusRasi, &HoroscopeState::JupiterRasi,
-    &HoroscopeState::SaturnRasi,  &HoroscopeState::LagnaRasi,
+constexpr std::array<std::int16_t Positions::*, 8> contributors{
+    &Positions::SunRasi,   &Positions::MoonRasi,    &Positions::MarsRasi,   &Positions::MercuryRasi,
+    &Positions::VenusRasi, &Positions::JupiterRasi, &Positions::SaturnRasi, &Positions::LagnaRasi,
 };
 
 struct PointsRule {
@@ -170,7 +169,7 @@ BinduCount CountBindus(const HoroscopeState &state, const PointsRule &rule) {
             if (house == 0) {
                 break;
             }
-            ++count[static_cast<std::size_t>(RasiOfHouse(state.*contributors[i], house) - 1)];
+            ++count[static_cast<std::size_t>(RasiOfHouse(state.positions.*contributors[i], house) - 1)];
             ++count[rasiCount];
         }
     }
@@ -178,11 +177,11 @@ BinduCount CountBindus(const HoroscopeState &state, const PointsRule &rule) {
 }
 
 void KeepStarOfMoon(HoroscopeState &state, clsStar &stars) {
-    stars.PlanetPosition = state.MoonLon;
+    stars.PlanetPosition = state.positions.MoonLon;
     stars.findstar();
-    state.MoonStarName = stars.StarName;
-    state.MoonStarPada = stars.StarQuarter;
-    state.MoonHouseNo = stars.HouseNo;
+    state.moonStar.MoonStarName = stars.StarName;
+    state.moonStar.MoonStarPada = stars.StarQuarter;
+    state.moonStar.MoonHouseNo = stars.HouseNo;
 }
 
 } // namespace
@@ -190,13 +189,13 @@ void KeepStarOfMoon(HoroscopeState &state, clsStar &stars) {
 void FillAshtakavarga(HoroscopeState &state, AshtakavargaForm &form, clsStar &stars) {
     KeepStarOfMoon(state, stars);
     TextGrid &grid = form.mshAshtaVarga;
-    grid.header = state.Language == "Sanskrit" ? sanskritHeader : englishHeader;
+    grid.header = state.preferences.Language == "Sanskrit" ? sanskritHeader : englishHeader;
     std::array<BinduCount, rules.size()> columns{};
     std::ranges::transform(rules, columns.begin(),
                            [&](const PointsRule &rule) { return CountBindus(state, rule); });
     grid.rows.clear();
     for (std::size_t i = 0; i <= rasiCount; ++i) {
-        std::vector<std::string> row{i < rasiCount ? state.RasiNames.at(i) : "Total"};
+        std::vector<std::string> row{i < rasiCount ? state.names.RasiNames.at(i) : "Total"};
         int planets = 0;
         int all = 0;
         for (std::size_t column = 0; column < columns.size(); ++column) {

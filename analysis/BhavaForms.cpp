@@ -36,7 +36,7 @@ constexpr std::array<StyleOfChart, 3> styles{{
 }};
 
 void FillChart(const HoroscopeState &state, HoroscopeForms &forms) {
-    const auto wanted = ChartStyleOf(state.ChartStyle);
+    const auto wanted = ChartStyleOf(state.preferences.ChartStyle);
     ChartForm &form = forms.frm_BhavaChart;
     for (const StyleOfChart &style : styles) {
         if (style.style != wanted) {
@@ -45,10 +45,10 @@ void FillChart(const HoroscopeState &state, HoroscopeForms &forms) {
         ChartCellClear(forms, style.selector);
         form.VisibleFrame = style.style;
         for (std::size_t k = 0; k < houses; ++k) {
-            const std::int16_t rasi = state.BhavaRasi.at(k);
+            const std::int16_t rasi = state.houses.BhavaRasi.at(k);
             const bool isByHouse = style.style == ChartStyle::North;
             const std::size_t cell = isByHouse ? k : static_cast<std::size_t>(rasi - 1);
-            (form.*style.cells).at(cell) += state.BhavaPlanets.at(k);
+            (form.*style.cells).at(cell) += state.houses.BhavaPlanets.at(k);
             if (isByHouse) {
                 form.Lab_NHouseNo.at(k) = std::to_string(rasi);
             }
@@ -60,9 +60,10 @@ void FillLimits(const HoroscopeState &state, TextGrid &grid) {
     grid = {};
     grid.header = limitsHeading;
     for (std::size_t k = 0; k < houses; ++k) {
-        grid.rows.push_back({std::to_string(k + 1), DegreeMinuteSecondText(state.BhavaStart.at(k)),
-                             DegreeMinuteSecondText(state.BhavaMid.at(k)),
-                             DegreeMinuteSecondText(state.BhavaSandhi.at(k)), state.BhavaPlanets.at(k)});
+        grid.rows.push_back({std::to_string(k + 1), DegreeMinuteSecondText(state.houses.BhavaStart.at(k)),
+                             DegreeMinuteSecondText(state.houses.BhavaMid.at(k)),
+                             DegreeMinuteSecondText(state.houses.BhavaSandhi.at(k)),
+                             state.houses.BhavaPlanets.at(k)});
     }
 }
 
@@ -70,7 +71,7 @@ void FillMiddles(const HoroscopeState &state, TextGrid &grid, clsStar &star) {
     grid = {};
     grid.header = middlesHeading;
     for (std::size_t k = 0; k < houses; ++k) {
-        const double middle = state.BhavaMid.at(k);
+        const double middle = state.houses.BhavaMid.at(k);
         std::vector<std::string> row = LongitudeCells(state, star, middle);
         row.insert(row.begin(), {std::to_string(k + 1), DegreeMinuteSecondText(middle)});
         grid.rows.push_back(std::move(row));

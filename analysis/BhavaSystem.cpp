@@ -1,7 +1,7 @@
 #include "analysis/BhavaSystem.h"
 
 #include "horoscope/record/Bodies.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 
@@ -56,13 +56,13 @@ BhavaPoints DividedArcs(double lagna, double midHeaven) {
 }
 
 void TakePointsAsMiddles(HoroscopeState &state) {
-    const BhavaPoints points = DividedArcs(state.LagnaLon, state.MidHeaven);
+    const BhavaPoints points = DividedArcs(state.positions.LagnaLon, state.positions.MidHeaven);
     for (std::size_t k = 0; k < houses; ++k) {
-        state.BhavaMid.at(k) = Normalized(points.at(2 * k));
-        state.BhavaSandhi.at(k) = Normalized(points.at(2 * k + 1));
+        state.houses.BhavaMid.at(k) = Normalized(points.at(2 * k));
+        state.houses.BhavaSandhi.at(k) = Normalized(points.at(2 * k + 1));
     }
     for (std::size_t k = 0; k < houses; ++k) {
-        state.BhavaStart.at(k) = state.BhavaSandhi.at((k + houses - 1) % houses);
+        state.houses.BhavaStart.at(k) = state.houses.BhavaSandhi.at((k + houses - 1) % houses);
     }
 }
 
@@ -83,18 +83,18 @@ double LastMiddle(double start, double firstMiddle, double firstStart) {
 
 /// Reworks the houses so that the old mid points become the starts.
 void TurnMiddlesIntoStarts(HoroscopeState &state) {
-    const std::array<double, 12> old = state.BhavaMid;
-    state.BhavaStart = old;
+    const std::array<double, 12> old = state.houses.BhavaMid;
+    state.houses.BhavaStart = old;
     for (std::size_t k = 0; k < houses; ++k) {
-        state.BhavaSandhi.at(k) = old.at((k + 1) % houses);
+        state.houses.BhavaSandhi.at(k) = old.at((k + 1) % houses);
     }
     // No allowance for a passage through 0 degrees in the first house.
     const double firstMiddle = (old.at(1) + old.at(0)) / 2;
-    state.BhavaMid.at(0) = Normalized(firstMiddle);
+    state.houses.BhavaMid.at(0) = Normalized(firstMiddle);
     for (std::size_t k = 1; k < houses - 1; ++k) {
-        state.BhavaMid.at(k) = Normalized(MiddleOf(old.at(k), old.at(k + 1), k));
+        state.houses.BhavaMid.at(k) = Normalized(MiddleOf(old.at(k), old.at(k + 1), k));
     }
-    state.BhavaMid.at(houses - 1) = Normalized(LastMiddle(old.at(houses - 1), firstMiddle, old.at(0)));
+    state.houses.BhavaMid.at(houses - 1) = Normalized(LastMiddle(old.at(houses - 1), firstMiddle, old.at(0)));
 }
 
 struct Range {
@@ -136,7 +136,7 @@ std::string PlanetsInBhava(const HoroscopeState &state, double start, double end
     std::string names;
     for (const Range &range : RangesOf(start, end)) {
         for (const BodyFields &fields : bodiesOfHouses) {
-            const double longitude = state.*fields.longitude;
+            const double longitude = state.positions.*fields.longitude;
             if (longitude >= range.lower && longitude <= range.upper) {
                 names.append(names.empty() ? "" : " ").append(ShortNameOf(state, fields.body));
             }
@@ -147,15 +147,16 @@ std::string PlanetsInBhava(const HoroscopeState &state, double start, double end
 
 void FindBhavas(HoroscopeState &state) {
     TakePointsAsMiddles(state);
-    if (state.BhavaSystem == "Not Equal") {
+    if (state.preferences.BhavaSystem == "Not Equal") {
         TurnMiddlesIntoStarts(state);
     }
-    const int lagnaRasi = RasiOfLongitude(state.LagnaLon, rasiSize);
+    const int lagnaRasi = RasiOfLongitude(state.positions.LagnaLon, rasiSize);
     for (std::size_t k = 0; k < houses; ++k) {
-        state.BhavaRasi.at(k) = Reduce12(ToInt16(lagnaRasi + static_cast<int>(k)));
-        state.BhavaPlanets.at(k) = PlanetsInBhava(state, state.BhavaStart.at(k), state.BhavaSandhi.at(k));
+        state.houses.BhavaRasi.at(k) = Reduce12(ToInt16(lagnaRasi + static_cast<int>(k)));
+        state.houses.BhavaPlanets.at(k) =
+            PlanetsInBhava(state, state.houses.BhavaStart.at(k), state.houses.BhavaSandhi.at(k));
     }
-    state.BhavaPlanets.front().insert(0, ShortNameOf(state, Body::Lagna) + " ");
+    state.houses.BhavaPlanets.front().insert(0, ShortNameOf(state, Body::Lagna) + " ");
 }
 
 } // namespace kelvaro

@@ -54,19 +54,19 @@ struct NamedScheme {
 };
 
 void FindMoon(HoroscopeState &state, ClsFindPlanetPosition &position) {
-    FindFixValuesAt(position, state, state.BirthMomentDate, state.AyanamsaInForce);
-    state.MoonLon = position.FnFindMoonPosition();
+    FindFixValuesAt(position, state, state.positions.BirthMomentDate, state.preferences.AyanamsaInForce);
+    state.positions.MoonLon = position.FnFindMoonPosition();
 }
 
 NamedScheme FindScheme(const HoroscopeState &state, clsStar &stars) {
-    stars.PlanetPosition = state.MoonLon;
+    stars.PlanetPosition = state.positions.MoonLon;
     stars.findstar();
     std::int16_t star = stars.StarNo;
     const std::string_view firstLord = StarLordOf(star);
-    const int minutesLeft = MinutesLeftInStar(star, state.MoonLon);
+    const int minutesLeft = MinutesLeftInStar(star, state.positions.MoonLon);
     NamedScheme scheme;
-    scheme.birth = state.BirthMomentDate;
-    scheme.periods = FindVimshottariDasa(firstLord, minutesLeft, scheme.birth, state.DaysInYear);
+    scheme.birth = state.positions.BirthMomentDate;
+    scheme.periods = FindVimshottariDasa(firstLord, minutesLeft, scheme.birth, state.preferences.DaysInYear);
     for (std::size_t i = 0; i < scheme.dasaNames.size(); ++i) {
         scheme.dasaNames[i] = LocalisedPlanetName(state, scheme.periods.DasaLord[i]);
     }

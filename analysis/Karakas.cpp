@@ -29,7 +29,7 @@ constexpr std::span<const BodyFields> rankedBodies{bodyFields.data() + 1, karaka
 std::vector<std::vector<std::string>> DegreeTexts(const HoroscopeState &state) {
     std::vector<std::vector<std::string>> rows;
     for (const BodyFields &fields : rankedBodies) {
-        rows.push_back({DegreeMinuteSecondText(FoldToSign(state.*fields.longitude))});
+        rows.push_back({DegreeMinuteSecondText(FoldToSign(state.positions.*fields.longitude))});
     }
     return rows;
 }

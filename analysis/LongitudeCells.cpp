@@ -2,7 +2,7 @@
 
 #include "analysis/Lords.h"
 #include "analysis/SubLords.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 
 namespace kelvaro {
 

@@ -1,7 +1,7 @@
 #include "analysis/Lords.h"
 
 #include "horoscope/record/Bodies.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 #include "runtime/RuntimeError.h"
 
 #include <algorithm>
@@ -74,7 +74,7 @@ std::string LocalisedPlanetName(const HoroscopeState &state, std::string_view en
 }
 
 const std::string &RasiNameOf(const HoroscopeState &state, std::int16_t rasi) {
-    return state.RasiNames.at(PlaceOf(rasi));
+    return state.names.RasiNames.at(PlaceOf(rasi));
 }
 
 } // namespace kelvaro

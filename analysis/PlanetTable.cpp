@@ -5,7 +5,7 @@
 #include "analysis/SayanadiAvastha.h"
 #include "horoscope/record/Bodies.h"
 #include "panchanga/PlacePositions.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
 
 #include <algorithm>
@@ -54,11 +54,12 @@ constexpr std::array<RowOfBody, 10> rowsOfBodies{{
 }};
 
 double LongitudeIn(const HoroscopeState &state, std::size_t row) {
-    return state.*bodyFields.at(row).longitude;
+    return state.positions.*bodyFields.at(row).longitude;
 }
 
 void FindNextDay(const HoroscopeState &state, ClsFindPlanetPosition &position) {
-    FindFixValuesAt(position, state, DateAdd(Interval::Day, 1, state.BirthMomentDate), state.AyanamsaInForce);
+    FindFixValuesAt(position, state, DateAdd(Interval::Day, 1, state.positions.BirthMomentDate),
+                    state.preferences.AyanamsaInForce);
 }
 
 void FillClasses(const HoroscopeState &state, TextGrid &grid, clsStar &star) {
@@ -71,13 +72,13 @@ void FillClasses(const HoroscopeState &state, TextGrid &grid, clsStar &star) {
 }
 
 void FillAvasthas(const HoroscopeState &state, TextGrid &grid, clsStar &star) {
-    const std::int16_t lagnaRasi = RasiOfLongitude(state.LagnaLon, rasiSize);
+    const std::int16_t lagnaRasi = RasiOfLongitude(state.positions.LagnaLon, rasiSize);
     for (std::size_t i = 0; i < rowsOfBodies.size(); ++i) {
         const std::string_view lordName = rowsOfBodies.at(i).lordName;
         grid.rows.at(i).at(avasthaColumn) =
             lordName.empty() ? "----"
-                             : SayanadiAvastha(state, star, LongitudeIn(state, i), lordName, state.LagnaLon,
-                                               state.MoonLon, lagnaRasi);
+                             : SayanadiAvastha(state, star, LongitudeIn(state, i), lordName,
+                                               state.positions.LagnaLon, state.positions.MoonLon, lagnaRasi);
     }
 }
 

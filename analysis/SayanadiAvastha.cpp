@@ -73,7 +73,7 @@ std::string_view SayanadiAvastha(const HoroscopeState &state, clsStar &star, dou
     std::int16_t number = Product(SortedStarNumber(star, longitude), PlanetOrdinal(lordName));
     number = Product(number, NavamsaInRasi(FoldToSign(longitude)));
     number = Sum(number, SortedStarNumber(star, moonLongitude));
-    number = Sum(number, ToInt16(state.IshtaGhati));
+    number = Sum(number, ToInt16(state.ghati.IshtaGhati));
     number = Sum(number, lagnaRasi);
     return AvasthaName(RestOfTwelve(number));
 }

@@ -1,7 +1,7 @@
 #include "analysis/SubLords.h"
 
 #include "horoscope/record/Bodies.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 #include "analysis/Lords.h"
 #include "horoscope/record/Bodies.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
 #include "runtime/Numbers.h"
 #include "store/database/Recordset.h"
@@ -58,9 +58,9 @@ constexpr std::string_view englishHeader =
 constexpr std::span<const BodyFields, 10> columnBodies{bodyFields.data(), 10};
 
 void LayOutGrid(const HoroscopeState &state, TextGrid &grid) {
-    if (state.Language == "Sanskrit") {
+    if (state.preferences.Language == "Sanskrit") {
         grid.header = sanskritHeader;
-    } else if (state.Language == "English") {
+    } else if (state.preferences.Language == "English") {
         grid.header = englishHeader;
     }
     grid.rows.assign(vargas.size(), std::vector<std::string>(columnBodies.size() + 1));
@@ -113,11 +113,11 @@ std::string ShortNameOfRasi(const HoroscopeState &state, std::int16_t rasi) {
 } // namespace
 
 std::string RasiShortFromName(const HoroscopeState &state, std::string_view rasiName) {
-    const auto found = std::ranges::find(state.RasiNames, rasiName);
-    if (found == state.RasiNames.end()) {
+    const auto found = std::ranges::find(state.names.RasiNames, rasiName);
+    if (found == state.names.RasiNames.end()) {
         return {};
     }
-    return state.RasiShortNames.at(static_cast<std::size_t>(found - state.RasiNames.begin()));
+    return state.names.RasiShortNames.at(static_cast<std::size_t>(found - state.names.RasiNames.begin()));
 }
 
 void FillVargaRow(const HoroscopeState &state, const VargaLongitudes &longitudes, std::string_view chartName,
@@ -128,10 +128,10 @@ void FillVargaRow(const HoroscopeState &state, const VargaLongitudes &longitudes
     }
     store::Recordset recordset;
     for (std::size_t i = 0; i < longitudes.size(); ++i) {
-        const auto rasi =
-            source == VargaSource::Table
-                ? LookUpHouse(chartName, longitudes[i], state.*columnBodies[i].rasi, recordset, connection)
-                : RasiOfLongitude(longitudes[i], size);
+        const auto rasi = source == VargaSource::Table
+                              ? LookUpHouse(chartName, longitudes[i], state.positions.*columnBodies[i].rasi,
+                                            recordset, connection)
+                              : RasiOfLongitude(longitudes[i], size);
         if (rasi) {
             form.mshVargas.rows.at(*row).at(i + 1) = ShortNameOfRasi(state, *rasi);
         }
@@ -143,9 +143,9 @@ void FillVargas(HoroscopeState &state, VargasForm &form, store::Connection &conn
     VargaLongitudes longitudes{};
     for (std::size_t i = 0; i < columnBodies.size(); ++i) {
         const BodyFields &body = columnBodies[i];
-        longitudes[i] = state.*body.longitude;
-        state.*body.rasi = RasiOfLongitude(longitudes[i], rasiSize);
-        form.mshVargas.rows.front()[i + 1] = ShortNameOfRasi(state, state.*body.rasi);
+        longitudes[i] = state.positions.*body.longitude;
+        state.positions.*body.rasi = RasiOfLongitude(longitudes[i], rasiSize);
+        form.mshVargas.rows.front()[i + 1] = ShortNameOfRasi(state, state.positions.*body.rasi);
     }
     for (std::size_t row = 1; row < navaNavamsaRow; ++row) {
         const Varga &varga = vargas[row];

@@ -15,7 +15,8 @@ void BM_LunarDates(benchmark::State &state) {
     LunarCalendar &calendar = horoscope.calculators.lunarCalendar;
     int days = 0;
     for ([[maybe_unused]] auto _ : state) {
-        const Moment birth = DateAdd(Interval::Day, ++days % 10000, horoscope.state.BirthMomentDate);
+        const Moment birth =
+            DateAdd(Interval::Day, ++days % 10000, horoscope.state.positions.BirthMomentDate);
         calendar.LunarDateKrishnadi(birth, "");
         calendar.LunarDateSukladi(birth, "");
         benchmark::DoNotOptimize(calendar.Sukladi());
@@ -27,7 +28,7 @@ void BM_WholeHoroscope(benchmark::State &state) {
     HeadlessHoroscope headless;
     for ([[maybe_unused]] auto _ : state) {
         CalculateHoroscope(headless.horoscope);
-        benchmark::DoNotOptimize(headless.horoscope.state.LagnaLon);
+        benchmark::DoNotOptimize(headless.horoscope.state.positions.LagnaLon);
     }
 }
 BENCHMARK(BM_WholeHoroscope)->Unit(benchmark::kMicrosecond);

@@ -130,12 +130,12 @@ void TryBirth(const std::string &line) {
         ReadBirth(line, state);
     } catch (const BirthError &error) {
         Require(*error.what() != '\0', "an error has words");
-        Require(state.BirthMoment == Moment(), "a refused birth leaves the record as it was");
+        Require(state.birth.BirthMoment == Moment(), "a refused birth leaves the record as it was");
         return;
     }
-    Require(state.LatDeg + state.LatMin / 60 <= 90, "the place lies on the earth");
-    Require(state.LonDeg + state.LonMin / 60 <= 180, "the place lies on the earth");
-    Require(Split(state.BirthMoment).clock.second == 0, "the birth is a moment");
+    Require(state.site.LatDeg + state.site.LatMin / 60 <= 90, "the place lies on the earth");
+    Require(state.site.LonDeg + state.site.LonMin / 60 <= 180, "the place lies on the earth");
+    Require(Split(state.birth.BirthMoment).clock.second == 0, "the birth is a moment");
 }
 
 } // namespace

@@ -32,9 +32,9 @@ std::string AyanaOf(std::string_view lunarMonth) {
 }
 
 std::string TwelveHourText(const HoroscopeState &state) {
-    const std::int32_t hour = ToInt32(NumberFromText(state.BirthHour));
+    const std::int32_t hour = ToInt32(NumberFromText(state.birth.BirthHour));
     const std::int32_t shown = hour % 12 == 0 ? 12 : hour % 12;
-    return std::to_string(shown) + " : " + state.BirthMinute + "  " + (hour >= 12 ? "PM" : "AM");
+    return std::to_string(shown) + " : " + state.birth.BirthMinute + "  " + (hour >= 12 ? "PM" : "AM");
 }
 
 std::string PlaceText(double degrees, double minutes, const std::string &side) {
@@ -42,30 +42,31 @@ std::string PlaceText(double degrees, double minutes, const std::string &side) {
 }
 
 Moment GreenwichMoment(const HoroscopeState &state) {
-    const double minutes = state.TimeDiff * 60;
-    return DateAdd(Interval::Minute, ToInt32(state.TimeDiffEW == "E" ? -minutes : minutes),
-                   state.SummaryMoment);
+    const double minutes = state.site.TimeDiff * 60;
+    return DateAdd(Interval::Minute, ToInt32(state.site.TimeDiffEW == "E" ? -minutes : minutes),
+                   state.ghati.SummaryMoment);
 }
 
 void FillPerson(const HoroscopeState &state, UserDetailsForm &form) {
-    form.txtGName = state.ChartName;
-    form.txtSex = state.BirthGender;
-    form.Txt_BC_Date = state.BirthDay + " / " + state.BirthMonth + " / " + state.BirthYear;
+    form.txtGName = state.birth.ChartName;
+    form.txtSex = state.birth.BirthGender;
+    form.Txt_BC_Date = state.birth.BirthDay + " / " + state.birth.BirthMonth + " / " + state.birth.BirthYear;
     form.txtTimeOfBirth = TwelveHourText(state);
 }
 
 void FillPlace(const HoroscopeState &state, UserDetailsForm &form) {
-    form.txtAyanamsa = DegreeMinuteSecondText(state.Ayanamsa) + "  (" + state.AyanamsaName + ")";
-    form.txtCity = state.BirthCity;
-    form.txtCountry = state.BirthCountry;
-    form.txtLatutude = PlaceText(state.LatDeg, state.LatMin, state.LatNS);
-    form.txtLongitude = PlaceText(state.LonDeg, state.LonMin, state.LonEW);
-    form.txtTimeZone = state.BirthTimeZoneName;
+    form.txtAyanamsa =
+        DegreeMinuteSecondText(state.positions.Ayanamsa) + "  (" + state.preferences.AyanamsaName + ")";
+    form.txtCity = state.birth.BirthCity;
+    form.txtCountry = state.birth.BirthCountry;
+    form.txtLatutude = PlaceText(state.site.LatDeg, state.site.LatMin, state.site.LatNS);
+    form.txtLongitude = PlaceText(state.site.LonDeg, state.site.LonMin, state.site.LonEW);
+    form.txtTimeZone = state.birth.BirthTimeZoneName;
 }
 
 /// The Vedic day begins at sunrise.
 void FillDay(Horoscope &horoscope, UserDetailsForm &form) {
-    const Moment moment = horoscope.state.SummaryMoment;
+    const Moment moment = horoscope.state.ghati.SummaryMoment;
     const SunTimes::Day day = horoscope.calculators.sunTimes.SunTimesOf(moment);
     form.txtSunRise = ClockText(day.sunrise);
     form.txtSunSet = ClockText(day.sunset);
@@ -80,7 +81,7 @@ std::string LunarDateText(const LunarDate &date) {
 
 void FillCalendars(Horoscope &horoscope, UserDetailsForm &form) {
     Calculators &calculators = horoscope.calculators;
-    const Moment moment = horoscope.state.SummaryMoment;
+    const Moment moment = horoscope.state.ghati.SummaryMoment;
     calculators.lunarCalendar.LunarDateKrishnadi(moment, "TP");
     calculators.lunarCalendar.LunarDateSukladi(moment, "TP");
     const LunarDate &krishnadi = calculators.lunarCalendar.Krishnadi();
@@ -97,26 +98,26 @@ void FillCalendars(Horoscope &horoscope, UserDetailsForm &form) {
 void FillAlmanac(Horoscope &horoscope, UserDetailsForm &form) {
     const HoroscopeState &state = horoscope.state;
     Calculators &calculators = horoscope.calculators;
-    form.txtLagna = state.RasiNames.at(static_cast<std::size_t>(state.LagnaRasi - 1));
+    form.txtLagna = state.names.RasiNames.at(static_cast<std::size_t>(state.positions.LagnaRasi - 1));
 
-    calculators.star.PlanetPosition = state.MoonLon;
+    calculators.star.PlanetPosition = state.positions.MoonLon;
     calculators.star.findstar();
     form.txtStar = calculators.star.StarName + ", Pada: " + std::to_string(calculators.star.StarQuarter);
 
-    calculators.tithi.moonA = state.MoonLon;
-    calculators.tithi.sunC = state.SunLon;
+    calculators.tithi.moonA = state.positions.MoonLon;
+    calculators.tithi.sunC = state.positions.SunLon;
     calculators.tithi.FindTithi();
     form.txtTithi = calculators.tithi.Tithi;
     form.txtPaksha = calculators.tithi.TithiNo <= 15 ? "Sukla Paksha (Bright)" : "Krishna Paksha (Dark)";
     form.txtKarnam = calculators.tithi.Karnam;
 
-    calculators.rasi.nchkLanguage = state.Language;
-    calculators.rasi.PlanetPosition = state.MoonLon;
+    calculators.rasi.nchkLanguage = state.preferences.Language;
+    calculators.rasi.PlanetPosition = state.positions.MoonLon;
     calculators.rasi.findRasi();
     form.txtRasi = calculators.rasi.RasiName;
 
-    calculators.yoga.moon_position = state.MoonLon;
-    calculators.yoga.sun_position = state.SunLon;
+    calculators.yoga.moon_position = state.positions.MoonLon;
+    calculators.yoga.sun_position = state.positions.SunLon;
     calculators.yoga.findyoga();
     form.txtYogam = calculators.yoga.YogaName;
 }
@@ -127,8 +128,8 @@ void FillBirthSummary(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
     UserDetailsForm &form = horoscope.forms.frm_UserDetails;
     FillPerson(state, form);
-    state.SummaryMoment = state.BirthMomentDate;
-    form.txtist = MonthNameMomentText(state.SummaryMoment);
+    state.ghati.SummaryMoment = state.positions.BirthMomentDate;
+    form.txtist = MonthNameMomentText(state.ghati.SummaryMoment);
     ComputeLocalMeanTime(horoscope);
     form.txtgmt = MonthNameMomentText(GreenwichMoment(state));
     ComputeIshtaGhati(horoscope);

@@ -41,12 +41,12 @@ TimeOfArc TimeOf(double degrees) {
 }
 
 Moment LocalMeanTimeOf(const HoroscopeState &state) {
-    const double place = EastDegrees(state.LonDeg + state.LonMin / 60, state.LonEW);
-    const double meridian = EastDegrees(state.TimeDiff * 15, state.TimeDiffEW);
+    const double place = EastDegrees(state.site.LonDeg + state.site.LonMin / 60, state.site.LonEW);
+    const double meridian = EastDegrees(state.site.TimeDiff * 15, state.site.TimeDiffEW);
     const TimeOfArc difference = TimeOf(std::abs(place - meridian));
     const std::int32_t direction = place < meridian ? -1 : 1;
     return DateAdd(Interval::Second, direction * difference.seconds,
-                   DateAdd(Interval::Minute, direction * difference.minutes, state.SummaryMoment));
+                   DateAdd(Interval::Minute, direction * difference.minutes, state.ghati.SummaryMoment));
 }
 
 /// The sunrise that opened the day of the clock moment. A birth in the minute of sunrise belongs to the day
@@ -74,11 +74,12 @@ double ComputeLocalMeanTime(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
     horoscope.forms.frm_UserDetails.txtlmt = MonthNameMomentText(LocalMeanTimeOf(state));
     // The text carries no seconds, and the reckoning goes on from what it says.
-    state.LocalMeanTimeMoment = ReadMoment(horoscope.forms.frm_UserDetails.txtlmt);
-    state.SunriseForGhati = SunriseBefore(horoscope, state.SummaryMoment);
-    state.IshtaGhatiMinutes = DateDiff(Interval::Minute, state.SunriseForGhati, state.LocalMeanTimeMoment);
-    state.IshtaGhati = state.IshtaGhatiMinutes / 60 * 2.5;
-    return state.IshtaGhati;
+    state.ghati.LocalMeanTimeMoment = ReadMoment(horoscope.forms.frm_UserDetails.txtlmt);
+    state.ghati.SunriseForGhati = SunriseBefore(horoscope, state.ghati.SummaryMoment);
+    state.ghati.IshtaGhatiMinutes =
+        DateDiff(Interval::Minute, state.ghati.SunriseForGhati, state.ghati.LocalMeanTimeMoment);
+    state.ghati.IshtaGhati = state.ghati.IshtaGhatiMinutes / 60 * 2.5;
+    return state.ghati.IshtaGhati;
 }
 
 void ComputeIshtaGhati(Horoscope &horoscope) {

@@ -9,7 +9,7 @@
 #include "horoscope/ChartPositions.h"
 #include "horoscope/Horoscope.h"
 #include "horoscope/NamesForLanguage.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 #include "presentation/ChartCells.h"
 
 #include <array>

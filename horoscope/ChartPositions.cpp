@@ -2,7 +2,7 @@
 
 #include "horoscope/Horoscope.h"
 #include "horoscope/record/Bodies.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 #include "runtime/MomentText.h"
 
 #include <span>
@@ -16,62 +16,62 @@ namespace {
 constexpr std::span<const BodyFields> bodiesOfTheFacade{bodyFields.data(), 10};
 
 Moment BirthMomentOf(const HoroscopeState &state) {
-    return ReadMoment(state.BirthDay + "/" + state.BirthMonth + "/" + state.BirthYear + " " +
-                      state.BirthHour + ":" + state.BirthMinute + ": 00");
+    return ReadMoment(state.birth.BirthDay + "/" + state.birth.BirthMonth + "/" + state.birth.BirthYear +
+                      " " + state.birth.BirthHour + ":" + state.birth.BirthMinute + ": 00");
 }
 
 void ReadLongitudes(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
     ClsFindPlanetPosition &position = horoscope.calculators.position;
-    state.LagnaLon = position.FnFindLagnaPosition();
-    state.SunLon = position.FnFindSunPosition();
-    state.MoonLon = position.FnFindMoonPosition();
-    state.MarsLon = position.FnFindMarsPosition();
-    state.MercuryLon = position.FnFindMercuryPosition();
-    state.JupiterLon = position.FnFindJupiterPosition();
-    state.VenusLon = position.FnFindVenusPosition();
-    state.SaturnLon = position.FnFindSaturnPosition();
-    state.RahuLon = position.FnFindRahuPosition();
-    state.KetuLon = position.FnFindKethuPosition();
-    state.MidHeaven = position.FnFindMidHeaven();
-    state.Ayanamsa = position.FnFindAyanamsa();
+    state.positions.LagnaLon = position.FnFindLagnaPosition();
+    state.positions.SunLon = position.FnFindSunPosition();
+    state.positions.MoonLon = position.FnFindMoonPosition();
+    state.positions.MarsLon = position.FnFindMarsPosition();
+    state.positions.MercuryLon = position.FnFindMercuryPosition();
+    state.positions.JupiterLon = position.FnFindJupiterPosition();
+    state.positions.VenusLon = position.FnFindVenusPosition();
+    state.positions.SaturnLon = position.FnFindSaturnPosition();
+    state.positions.RahuLon = position.FnFindRahuPosition();
+    state.positions.KetuLon = position.FnFindKethuPosition();
+    state.positions.MidHeaven = position.FnFindMidHeaven();
+    state.positions.Ayanamsa = position.FnFindAyanamsa();
 }
 
 /// The astrological day that holds the birth runs from sunrise to sunrise.
 void FindDayOfBirth(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
-    const Moment birth = state.BirthMomentDate;
+    const Moment birth = state.positions.BirthMomentDate;
     SunTimes &sunTimes = horoscope.calculators.sunTimes;
     SunTimes::Day limits = sunTimes.SunTimesOf(birth);
-    state.SunriseOfBirthDay = limits.sunrise;
-    state.SunsetOfBirthDay = limits.sunset;
-    state.SunriseNextDay = limits.nextSunrise;
-    state.DayCurrentDate = birth;
+    state.day.SunriseOfBirthDay = limits.sunrise;
+    state.day.SunsetOfBirthDay = limits.sunset;
+    state.day.SunriseNextDay = limits.nextSunrise;
+    state.day.DayCurrentDate = birth;
     const bool isDay = birth > limits.sunrise && birth < limits.sunset;
-    state.DayOrNight = isDay ? "Day" : "Night";
+    state.day.DayOrNight = isDay ? "Day" : "Night";
     if (!isDay) {
         if (IsBeforeNoon(birth)) {
-            state.DayCurrentDate = DateAdd(Interval::Day, -1, birth);
+            state.day.DayCurrentDate = DateAdd(Interval::Day, -1, birth);
         }
-        limits = sunTimes.SunTimesOf(state.DayCurrentDate);
+        limits = sunTimes.SunTimesOf(state.day.DayCurrentDate);
     }
-    state.DaySunrise = limits.sunrise;
-    state.DaySunset = limits.sunset;
-    state.DayNextSunrise = limits.nextSunrise;
+    state.day.DaySunrise = limits.sunrise;
+    state.day.DaySunset = limits.sunset;
+    state.day.DayNextSunrise = limits.nextSunrise;
 }
 
 void FindRiseTimes(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
     clsTimes &times = horoscope.calculators.times;
-    times.currentdate = state.DayCurrentDate;
-    times.Sunrisetime = state.DaySunrise;
-    times.Sunsettime = state.DaySunset;
-    times.SunRiseNexttime = state.DayNextSunrise;
+    times.currentdate = state.day.DayCurrentDate;
+    times.Sunrisetime = state.day.DaySunrise;
+    times.Sunsettime = state.day.DaySunset;
+    times.SunRiseNexttime = state.day.DayNextSunrise;
     times.findtimes();
-    state.GulikaDay = times.GulikaRise_Day;
-    state.GulikaNight = times.GulikaRise_Night;
-    state.MandiDay = times.MandiRise_Day;
-    state.MandiNight = times.MandiRise_Night;
+    state.day.GulikaDay = times.GulikaRise_Day;
+    state.day.GulikaNight = times.GulikaRise_Night;
+    state.day.MandiDay = times.MandiRise_Day;
+    state.day.MandiNight = times.MandiRise_Night;
 }
 
 /// A clock time to the minute, as its text carries it.
@@ -83,24 +83,24 @@ Moment ToTheMinute(Moment moment) {
 /// A night rise that reads "AM" belongs to the date after that of the sunrise. The date found becomes the
 /// current one.
 Moment NightMoment(HoroscopeState &state, Moment rise) {
-    state.DayCurrentDate =
-        IsBeforeNoon(rise) ? DateAdd(Interval::Day, 1, state.DaySunrise) : state.DaySunrise;
-    return Join(state.DayCurrentDate, ToTheMinute(rise));
+    state.day.DayCurrentDate =
+        IsBeforeNoon(rise) ? DateAdd(Interval::Day, 1, state.day.DaySunrise) : state.day.DaySunrise;
+    return Join(state.day.DayCurrentDate, ToTheMinute(rise));
 }
 
 void JoinRiseMoments(HoroscopeState &state) {
-    if (state.DayOrNight == "Day") {
-        state.GulikaMoment = Join(state.DaySunrise, ToTheMinute(state.GulikaDay));
-        state.MandiMoment = Join(state.DaySunrise, ToTheMinute(state.MandiDay));
+    if (state.day.DayOrNight == "Day") {
+        state.day.GulikaMoment = Join(state.day.DaySunrise, ToTheMinute(state.day.GulikaDay));
+        state.day.MandiMoment = Join(state.day.DaySunrise, ToTheMinute(state.day.MandiDay));
     } else {
-        state.GulikaMoment = NightMoment(state, state.GulikaNight);
-        state.MandiMoment = NightMoment(state, state.MandiNight);
+        state.day.GulikaMoment = NightMoment(state, state.day.GulikaNight);
+        state.day.MandiMoment = NightMoment(state, state.day.MandiNight);
     }
 }
 
 double LagnaAt(Horoscope &horoscope, Moment moment) {
     ClsFindPlanetPosition &position = horoscope.calculators.position;
-    FindFixValuesAt(position, horoscope.state, moment, horoscope.state.AyanamsaInForce);
+    FindFixValuesAt(position, horoscope.state, moment, horoscope.state.preferences.AyanamsaInForce);
     return position.FnFindLagnaPosition();
 }
 
@@ -108,19 +108,20 @@ double LagnaAt(Horoscope &horoscope, Moment moment) {
 
 void ComputeChartPositions(Horoscope &horoscope, double division) {
     HoroscopeState &state = horoscope.state;
-    state.BirthMomentDate = BirthMomentOf(state);
-    FindFixValuesAt(horoscope.calculators.position, state, state.BirthMomentDate, state.AyanamsaName);
+    state.positions.BirthMomentDate = BirthMomentOf(state);
+    FindFixValuesAt(horoscope.calculators.position, state, state.positions.BirthMomentDate,
+                    state.preferences.AyanamsaName);
     ReadLongitudes(horoscope);
     for (const BodyFields &body : bodiesOfTheFacade) {
-        state.*body.rasi = RasiOfLongitude(state.*body.longitude, division);
+        state.positions.*body.rasi = RasiOfLongitude(state.positions.*body.longitude, division);
     }
     FindDayOfBirth(horoscope);
     FindRiseTimes(horoscope);
     JoinRiseMoments(state);
-    state.GulikaLon = LagnaAt(horoscope, state.GulikaMoment);
-    state.GulikaRasi = RasiOfLongitude(state.GulikaLon, division);
-    state.MaandiLon = LagnaAt(horoscope, state.MandiMoment);
-    state.MaandiRasi = RasiOfLongitude(state.MaandiLon, division);
+    state.positions.GulikaLon = LagnaAt(horoscope, state.day.GulikaMoment);
+    state.positions.GulikaRasi = RasiOfLongitude(state.positions.GulikaLon, division);
+    state.positions.MaandiLon = LagnaAt(horoscope, state.day.MandiMoment);
+    state.positions.MaandiRasi = RasiOfLongitude(state.positions.MaandiLon, division);
 }
 
 } // namespace kelvaro

@@ -82,14 +82,14 @@ constexpr LanguageNames sanskrit{"Sanskrit",
 void Load(const LanguageNames &names, HoroscopeState &state) {
     for (const BodyFields &fields : bodyFields) {
         const auto place = static_cast<std::size_t>(fields.body);
-        state.ShortNames.at(place) = names.bodies.at(place).shortName;
+        state.names.ShortNames.at(place) = names.bodies.at(place).shortName;
         if (fields.body <= Body::Ketu) {
-            state.LongNames.at(LongNameIndex(fields.body)) = names.bodies.at(place).longName;
+            state.names.LongNames.at(LongNameIndex(fields.body)) = names.bodies.at(place).longName;
         }
     }
     for (std::size_t i = 0; i < names.rasis.size(); ++i) {
-        state.RasiNames.at(i) = names.rasis.at(i).longName;
-        state.RasiShortNames.at(i) = names.rasis.at(i).shortName;
+        state.names.RasiNames.at(i) = names.rasis.at(i).longName;
+        state.names.RasiShortNames.at(i) = names.rasis.at(i).shortName;
     }
 }
 
@@ -97,7 +97,7 @@ void Load(const LanguageNames &names, HoroscopeState &state) {
 
 void LoadNamesForLanguage(HoroscopeState &state) {
     for (const LanguageNames &names : {english, sanskrit}) {
-        if (state.Language == names.language) {
+        if (state.preferences.Language == names.language) {
             Load(names, state);
         }
     }

@@ -99,19 +99,21 @@ int WithinTwelve(int number) {
 
 void FillBySigns(const HoroscopeState &state, HoroscopeForms &forms, std::string_view kind) {
     for (const BodyFields &fields : bodyFields) {
-        ChartCellFill(forms, kind, ShortNameOf(state, fields.body), state.*fields.rasi,
-                      state.*fields.longitude);
+        ChartCellFill(forms, kind, ShortNameOf(state, fields.body), state.positions.*fields.rasi,
+                      state.positions.*fields.longitude);
     }
 }
 
 void FillByHouses(const HoroscopeState &state, ChartForm &form) {
     for (int house = 1; house <= 12; ++house) {
-        CellOf(form.Lab_NHouseNo, house) = std::to_string(WithinTwelve(house - 1 + state.LagnaRasi));
+        CellOf(form.Lab_NHouseNo, house) =
+            std::to_string(WithinTwelve(house - 1 + state.positions.LagnaRasi));
     }
     for (const BodyFields &fields : bodyFields) {
         // House 1 opens with the Lagna, which alone has its long text.
         const bool isLagna = fields.body == Body::Lagna;
-        const int house = isLagna ? 1 : HouseFromLagna(state.LagnaRasi, state.*fields.rasi);
+        const int house =
+            isLagna ? 1 : HouseFromLagna(state.positions.LagnaRasi, state.positions.*fields.rasi);
         CellOf(form.North, house)
             .append(isLagna ? LongNameOf(state, fields.body) : ShortNameOf(state, fields.body))
             .append(gap);
@@ -119,7 +121,7 @@ void FillByHouses(const HoroscopeState &state, ChartForm &form) {
 }
 
 void FillChart(const HoroscopeState &state, HoroscopeForms &forms, const WindowOfChart &chart) {
-    const auto style = ChartStyleOf(state.ChartStyle);
+    const auto style = ChartStyleOf(state.preferences.ChartStyle);
     for (const StyleOfWindow &entry : chart.styles) {
         if (entry.style != style) {
             continue;

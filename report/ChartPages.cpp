@@ -50,7 +50,7 @@ std::string InCapitals(std::string_view word) {
 
 /// The style of a drawing of the form; null where there is none to draw.
 const StyleOfReport *StyleFor(const HoroscopeState &state, const ChartForm &form) {
-    const std::string preferred = InCapitals(state.ChartStyle);
+    const std::string preferred = InCapitals(state.preferences.ChartStyle);
     const auto *const found = std::ranges::find(styles, preferred, &StyleOfReport::word);
     return found != styles.end() && form.VisibleFrame == found->style ? found : nullptr;
 }
@@ -68,13 +68,13 @@ void DrawCells(const store::Recordset &cells, std::string_view title, const Horo
                const ChartForm &form, ChartStyle style, std::string &report) {
     switch (style) {
     case ChartStyle::South:
-        SouthTextChart(cells, title, state.RasiNames, report);
+        SouthTextChart(cells, title, state.names.RasiNames, report);
         break;
     case ChartStyle::North:
         NorthTextChart(cells, title, ToInt32(NumberFromText(form.Lab_NHouseNo.front())), report);
         break;
     case ChartStyle::East:
-        EastTextChart(cells, title, state.RasiNames, report);
+        EastTextChart(cells, title, state.names.RasiNames, report);
         break;
     }
 }
@@ -92,8 +92,9 @@ void AddChart(std::string_view title, const HoroscopeState &state, const ChartFo
 }
 
 void AddBhavaTable(const HoroscopeState &state, const TextGrid &grid, ReportPages &pages) {
-    pages.AddLine(state.BhavaSystem == "Equal" ? "Bhava Positions  (Equal Division of Houses From M.C)"
-                                               : "Bhava Positions  (Placidius Semi-Arc System)");
+    pages.AddLine(state.preferences.BhavaSystem == "Equal"
+                      ? "Bhava Positions  (Equal Division of Houses From M.C)"
+                      : "Bhava Positions  (Placidius Semi-Arc System)");
     pages.AddRule('-', bhavaRule);
     pages.AddLine(bhavaHeading1);
     pages.AddLine(bhavaHeading2);

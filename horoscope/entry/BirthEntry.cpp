@@ -138,7 +138,7 @@ void ChooseZone(BirthFields &fields, std::int32_t zoneNumber, const store::Place
                 const HoroscopeState &state) {
     TakeZone(lists.ZoneNumbered(zoneNumber), fields);
     fields.chosenZone = zoneNumber;
-    fields.txt_VC_Ayanamsa = state.AyanamsaName;
+    fields.txt_VC_Ayanamsa = state.preferences.AyanamsaName;
 }
 
 std::optional<Notice> TestBirth(const BirthFields &fields) {
@@ -153,26 +153,26 @@ std::optional<Notice> TestBirth(const BirthFields &fields) {
 void HandOver(const BirthFields &fields, HoroscopeState &state) {
     const std::string hour = HourText(fields);
     const Moment birth = MomentOfBirth(fields);
-    state.ChartName = fields.Txt_VC_ChartName;
-    state.BirthDay = fields.txt_Date;
-    state.BirthMonth = fields.txt_Month;
-    state.BirthYear = fields.txt_Year;
-    state.BirthHour = hour;
-    state.BirthMinute = fields.cbMins;
-    state.BirthTimeZoneName = fields.cbTimeZone;
-    state.BirthMoment = birth;
-    state.BirthGender = fields.cbGender;
-    state.BirthCity = fields.txt_VC_City;
-    state.BirthCountry = fields.txt_VC_Country;
-    state.AyanamsaInForce = state.AyanamsaName;
-    state.LatDeg = fields.txt_VC_LatDeg;
-    state.LatNS = fields.txt_VC_LatNS;
-    state.LatMin = fields.txt_VC_LatMin;
-    state.LonDeg = fields.txt_VC_LonDeg;
-    state.LonEW = fields.txt_VC_LonEW;
-    state.LonMin = fields.txt_VC_LonMin;
-    state.TimeDiff = fields.txt_VC_TimeDiff;
-    state.TimeDiffEW = fields.txt_VC_TimeDiffEW;
+    state.birth.ChartName = fields.Txt_VC_ChartName;
+    state.birth.BirthDay = fields.txt_Date;
+    state.birth.BirthMonth = fields.txt_Month;
+    state.birth.BirthYear = fields.txt_Year;
+    state.birth.BirthHour = hour;
+    state.birth.BirthMinute = fields.cbMins;
+    state.birth.BirthTimeZoneName = fields.cbTimeZone;
+    state.birth.BirthMoment = birth;
+    state.birth.BirthGender = fields.cbGender;
+    state.birth.BirthCity = fields.txt_VC_City;
+    state.birth.BirthCountry = fields.txt_VC_Country;
+    state.preferences.AyanamsaInForce = state.preferences.AyanamsaName;
+    state.site.LatDeg = fields.txt_VC_LatDeg;
+    state.site.LatNS = fields.txt_VC_LatNS;
+    state.site.LatMin = fields.txt_VC_LatMin;
+    state.site.LonDeg = fields.txt_VC_LonDeg;
+    state.site.LonEW = fields.txt_VC_LonEW;
+    state.site.LonMin = fields.txt_VC_LonMin;
+    state.site.TimeDiff = fields.txt_VC_TimeDiff;
+    state.site.TimeDiffEW = fields.txt_VC_TimeDiffEW;
 }
 
 std::optional<Notice> AcceptBirth(const BirthFields &fields, Horoscope &horoscope) {

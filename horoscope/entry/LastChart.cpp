@@ -79,26 +79,27 @@ void PutInForce(const KeyTexts &texts, HoroscopeState &state) {
     const auto &[name, day, month, year, hour, minute, zone, sex, city, country, latNS, latMin, latDeg, lonEW,
                  lonMin, lonDeg, timeDiff, timeDiffEW] = texts;
     HoroscopeState restored = state;
-    restored.ChartName = name;
-    restored.BirthDay = day;
-    restored.BirthMonth = month;
-    restored.BirthYear = year;
-    restored.BirthHour = hour;
-    restored.BirthMinute = minute;
-    restored.BirthMoment = ReadMoment(day + "/" + month + "/" + year + " " + hour + ":" + minute + ": 00");
-    restored.BirthTimeZoneName = zone;
-    restored.BirthGender = sex;
-    restored.BirthCity = city;
-    restored.BirthCountry = country;
-    restored.LatNS = LetterOf(latNS, "NS");
-    restored.LatMin = NumberFromText(latMin);
-    restored.LatDeg = NumberFromText(latDeg);
-    restored.LonEW = LetterOf(lonEW, "EW");
-    restored.LonMin = NumberFromText(lonMin);
-    restored.LonDeg = NumberFromText(lonDeg);
-    restored.TimeDiff = NumberFromText(timeDiff);
-    restored.TimeDiffEW = LetterOf(timeDiffEW, "EW");
-    restored.AyanamsaInForce = state.AyanamsaName;
+    restored.birth.ChartName = name;
+    restored.birth.BirthDay = day;
+    restored.birth.BirthMonth = month;
+    restored.birth.BirthYear = year;
+    restored.birth.BirthHour = hour;
+    restored.birth.BirthMinute = minute;
+    restored.birth.BirthMoment =
+        ReadMoment(day + "/" + month + "/" + year + " " + hour + ":" + minute + ": 00");
+    restored.birth.BirthTimeZoneName = zone;
+    restored.birth.BirthGender = sex;
+    restored.birth.BirthCity = city;
+    restored.birth.BirthCountry = country;
+    restored.site.LatNS = LetterOf(latNS, "NS");
+    restored.site.LatMin = NumberFromText(latMin);
+    restored.site.LatDeg = NumberFromText(latDeg);
+    restored.site.LonEW = LetterOf(lonEW, "EW");
+    restored.site.LonMin = NumberFromText(lonMin);
+    restored.site.LonDeg = NumberFromText(lonDeg);
+    restored.site.TimeDiff = NumberFromText(timeDiff);
+    restored.site.TimeDiffEW = LetterOf(timeDiffEW, "EW");
+    restored.preferences.AyanamsaInForce = state.preferences.AyanamsaName;
     state = restored;
 }
 

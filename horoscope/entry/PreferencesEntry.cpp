@@ -124,16 +124,16 @@ PreferenceFields FieldsOfPreferences(const store::OnLoadClass &preferences) {
 }
 
 void PutPreferencesInForce(const store::OnLoadClass &preferences, HoroscopeState &state) {
-    state.DaysInYear = preferences.clsDays_in_a_Year;
-    state.AyanamsaName = preferences.clsAyanamsa;
-    state.AyanamsaInForce = preferences.clsAyanamsa;
-    state.BhavaSystem = preferences.clsBhava;
-    state.ChartStyle = preferences.clsChart_Type;
-    state.Language = preferences.clsLanguage;
-    state.PrefProgress = preferences.clsProgress;
-    state.ProgressInForce = preferences.clsProgress;
-    state.PrefYear = preferences.clsYear;
-    state.YearInForce = preferences.clsYear;
+    state.preferences.DaysInYear = preferences.clsDays_in_a_Year;
+    state.preferences.AyanamsaName = preferences.clsAyanamsa;
+    state.preferences.AyanamsaInForce = preferences.clsAyanamsa;
+    state.preferences.BhavaSystem = preferences.clsBhava;
+    state.preferences.ChartStyle = preferences.clsChart_Type;
+    state.preferences.Language = preferences.clsLanguage;
+    state.preferences.PrefProgress = preferences.clsProgress;
+    state.preferences.ProgressInForce = preferences.clsProgress;
+    state.preferences.PrefYear = preferences.clsYear;
+    state.preferences.YearInForce = preferences.clsYear;
 }
 
 std::optional<Notice> SavePreferences(const PreferenceFields &fields, Horoscope &horoscope) {
@@ -152,7 +152,7 @@ std::optional<Notice> ApplyPreferences(const PreferenceFields &fields, Horoscope
         return notice;
     }
     store::OnLoadClass preferences = PreferencesIn(fields);
-    preferences.clsBhava = horoscope.state.BhavaSystem;
+    preferences.clsBhava = horoscope.state.preferences.BhavaSystem;
     PutPreferencesInForce(preferences, horoscope.state);
     CalculateHoroscope(horoscope);
     return std::nullopt;

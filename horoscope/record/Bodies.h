@@ -15,27 +15,27 @@ enum class Body { Lagna, Sun, Moon, Mars, Mercury, Jupiter, Venus, Saturn, Rahu,
 /// Where the record keeps what belongs to a body.
 struct BodyFields {
     Body body;
-    double HoroscopeState::*longitude;
-    std::int16_t HoroscopeState::*rasi;
+    double Positions::*longitude;
+    std::int16_t Positions::*rasi;
 };
 
 inline constexpr std::array<BodyFields, 12> bodyFields{{
-    {Body::Lagna, &HoroscopeState::LagnaLon, &HoroscopeState::LagnaRasi},
-    {Body::Sun, &HoroscopeState::SunLon, &HoroscopeState::SunRasi},
-    {Body::Moon, &HoroscopeState::MoonLon, &HoroscopeState::MoonRasi},
-    {Body::Mars, &HoroscopeState::MarsLon, &HoroscopeState::MarsRasi},
-    {Body::Mercury, &HoroscopeState::MercuryLon, &HoroscopeState::MercuryRasi},
-    {Body::Jupiter, &HoroscopeState::JupiterLon, &HoroscopeState::JupiterRasi},
-    {Body::Venus, &HoroscopeState::VenusLon, &HoroscopeState::VenusRasi},
-    {Body::Saturn, &HoroscopeState::SaturnLon, &HoroscopeState::SaturnRasi},
-    {Body::Rahu, &HoroscopeState::RahuLon, &HoroscopeState::RahuRasi},
-    {Body::Ketu, &HoroscopeState::KetuLon, &HoroscopeState::KetuRasi},
-    {Body::Gulika, &HoroscopeState::GulikaLon, &HoroscopeState::GulikaRasi},
-    {Body::Maandi, &HoroscopeState::MaandiLon, &HoroscopeState::MaandiRasi},
+    {Body::Lagna, &Positions::LagnaLon, &Positions::LagnaRasi},
+    {Body::Sun, &Positions::SunLon, &Positions::SunRasi},
+    {Body::Moon, &Positions::MoonLon, &Positions::MoonRasi},
+    {Body::Mars, &Positions::MarsLon, &Positions::MarsRasi},
+    {Body::Mercury, &Positions::MercuryLon, &Positions::MercuryRasi},
+    {Body::Jupiter, &Positions::JupiterLon, &Positions::JupiterRasi},
+    {Body::Venus, &Positions::VenusLon, &Positions::VenusRasi},
+    {Body::Saturn, &Positions::SaturnLon, &Positions::SaturnRasi},
+    {Body::Rahu, &Positions::RahuLon, &Positions::RahuRasi},
+    {Body::Ketu, &Positions::KetuLon, &Positions::KetuRasi},
+    {Body::Gulika, &Positions::GulikaLon, &Positions::GulikaRasi},
+    {Body::Maandi, &Positions::MaandiLon, &Positions::MaandiRasi},
 }};
 
 inline const std::string &ShortNameOf(const HoroscopeState &state, Body body) {
-    return state.ShortNames.at(static_cast<std::size_t>(body));
+    return state.names.ShortNames.at(static_cast<std::size_t>(body));
 }
 
 /// The place of a body in the table of long names, where Venus stands before Jupiter.
@@ -52,12 +52,12 @@ constexpr std::size_t LongNameIndex(Body body) {
 
 inline const std::string &LongNameOf(const HoroscopeState &state, Body body) {
     if (body == Body::Gulika) {
-        return state.GulikaLongName;
+        return state.names.GulikaLongName;
     }
     if (body == Body::Maandi) {
-        return state.MaandiLongName;
+        return state.names.MaandiLongName;
     }
-    return state.LongNames.at(LongNameIndex(body));
+    return state.names.LongNames.at(LongNameIndex(body));
 }
 
 } // namespace kelvaro

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "astronomy/Site.h"
 #include "runtime/Moment.h"
 
 #include <array>
@@ -8,13 +9,8 @@
 
 namespace kelvaro {
 
-/// The horoscope in force: preferences, birth details as entered, and the results of the last run.
-///
-/// A plain record. Longitudes are degrees of the sidereal zodiac (tropical when the ayanamsa is "Sayana");
-/// rasi numbers run from 1 (Aries, Mesha) to 12 (Pisces, Meena). Birth details are texts where they are
-/// copied straight from the entry fields. Results are overwritten by each run and never cleared.
-struct HoroscopeState {
-    // Preferences in force.
+/// The preferences in force, as their stored words.
+struct Preferences {
     double DaysInYear = 365.25; ///< year length of the dasa arithmetic, days
     std::string ChartStyle = "South";
     std::string Language = "English";
@@ -27,8 +23,11 @@ struct HoroscopeState {
     std::string AyanamsaInForce = "Lahiri";
     double YearInForce = 0;
     double ProgressInForce = 0;
+};
 
-    // Birth details. At first they are those of the sample chart.
+/// A birth as entered: texts where they are copied straight from the entry fields. At first it is that of the
+/// sample chart.
+struct BirthDetails {
     std::string ChartName = "Velnesh";
     std::string BirthDay = "14";
     std::string BirthMonth = "Jul"; ///< name or number
@@ -40,24 +39,26 @@ struct HoroscopeState {
     std::string BirthGender = "Male";
     std::string BirthCity = "Hyderabad (A.P)";
     std::string BirthCountry = "India";
-    double LatDeg = 17;
-    double LatMin = 20;
-    std::string LatNS = "N";
-    double LonDeg = 78;
-    double LonMin = 30;
-    std::string LonEW = "E";
-    double TimeDiff = 5.5; ///< hours from Greenwich, its direction in TimeDiffEW
-    std::string TimeDiffEW = "E";
+};
 
-    // Results of a position pass.
+/// Where the sample chart was born.
+inline const Site sampleSite{17, 20, "N", 78, 30, "E", 5.5, "E"};
+
+/// What a position pass finds in the sky, for one division size. Longitudes are degrees of the sidereal
+/// zodiac (tropical when the ayanamsa is "Sayana").
+struct Positions {
     Moment BirthMomentDate;
     double Ayanamsa = 0; ///< degrees added to tropical longitudes, normally negative
     double MidHeaven = 0;
     double LagnaLon = 0, SunLon = 0, MoonLon = 0, MarsLon = 0, MercuryLon = 0, JupiterLon = 0, VenusLon = 0,
            SaturnLon = 0, RahuLon = 0, KetuLon = 0, GulikaLon = 0, MaandiLon = 0;
-    /// Rasi or Navamsa numbers, by the division size of the pass that ran last.
+    /// 1 (Aries, Mesha) to 12 (Pisces, Meena): of the Rasi or of the Navamsa, by the division size.
     std::int16_t LagnaRasi = 0, SunRasi = 0, MoonRasi = 0, MarsRasi = 0, MercuryRasi = 0, JupiterRasi = 0,
                  VenusRasi = 0, SaturnRasi = 0, RahuRasi = 0, KetuRasi = 0, GulikaRasi = 0, MaandiRasi = 0;
+};
+
+/// The limits of the day of birth, and Gulika and Maandi in it.
+struct DayOfBirth {
     /// Of the civil date of birth and of the date after it.
     Moment SunriseOfBirthDay, SunsetOfBirthDay, SunriseNextDay;
     /// Of the astrological day, sunrise to sunrise, that holds the birth.
@@ -65,34 +66,57 @@ struct HoroscopeState {
     std::string DayOrNight;
     Moment GulikaDay, GulikaNight, MandiDay, MandiNight;
     Moment GulikaMoment, MandiMoment;
+};
 
-    // Results of the birth summary.
+/// The birth in the reckoning of ghatis since sunrise.
+struct GhatiTimes {
     Moment SummaryMoment;
     Moment LocalMeanTimeMoment;
     Moment SunriseForGhati;       ///< of the day that holds the birth
     double IshtaGhatiMinutes = 0; ///< whole minutes from that sunrise
     double IshtaGhati = 0;        ///< the same in ghatis of 24 minutes
+};
 
-    // Houses 1 to 12, at index 0 to 11: start, mid point and end (sandhi) in degrees, rasi number, bodies
-    // within.
+/// Houses 1 to 12, at index 0 to 11: start, mid point and end (sandhi) in degrees, rasi number, bodies
+/// within.
+struct Houses {
     std::array<double, 12> BhavaStart{}, BhavaMid{}, BhavaSandhi{};
     std::array<std::int16_t, 12> BhavaRasi{};
     std::array<std::string, 12> BhavaPlanets;
+};
 
-    // Of the Moon, from the Ashtakavarga: star, quarter 1 to 4, and Navamsa sign as clsStar left it.
+/// Of the Moon, from the Ashtakavarga: star, quarter 1 to 4, and Navamsa sign as clsStar left it.
+struct MoonStar {
     std::string MoonStarName;
     std::int16_t MoonStarPada = 0;
     std::int16_t MoonHouseNo = 0;
+};
 
-    std::string DasaBalanceText; ///< dasa balance at birth, as the report words it
-
-    // Name tables of the language in force. The two planet tables differ in order: address them by Body only.
+/// Name tables of the language in force. The two planet tables differ in order: address them by Body only.
+struct Names {
     std::array<std::string, 12> ShortNames; ///< Lagna to Ketu, Jupiter before Venus, then Gulika, Maandi
     std::array<std::string, 10> LongNames;  ///< Lagna to Ketu, Venus before Jupiter
     std::array<std::string, 12> RasiNames;  ///< rasi 1 at index 0
     std::array<std::string, 12> RasiShortNames;
     std::string GulikaLongName = "Gulika";
     std::string MaandiLongName = "Maandi";
+};
+
+/// The horoscope in force: preferences, birth details as entered, and the results of the last run.
+///
+/// A plain record, which the steps of the driver fill. Results are overwritten by each run and never cleared.
+struct HoroscopeState {
+    Preferences preferences;
+    BirthDetails birth;
+    Site site = sampleSite;
+
+    Positions positions;
+    DayOfBirth day;
+    GhatiTimes ghati;
+    Houses houses;
+    MoonStar moonStar;
+    std::string DasaBalanceText; ///< dasa balance at birth, as the report words it
+    Names names;
 };
 
 } // namespace kelvaro

@@ -11,13 +11,15 @@ SunTimes::Day SunTimes::SunTimesOf(Moment moment) {
 }
 
 Moment SunTimes::SunriseOf(Moment moment) {
-    return sunrise_.FnFindSunrise(moment, state_.LatNS, state_.LatDeg, state_.LatMin, state_.LonEW,
-                                  state_.LonDeg, state_.LonMin, 0, state_.TimeDiff, state_.TimeDiffEW);
+    return sunrise_.FnFindSunrise(moment, state_.site.LatNS, state_.site.LatDeg, state_.site.LatMin,
+                                  state_.site.LonEW, state_.site.LonDeg, state_.site.LonMin, 0,
+                                  state_.site.TimeDiff, state_.site.TimeDiffEW);
 }
 
 Moment SunTimes::SunsetOf(Moment moment) {
-    return sunset_.FnFindSunset(moment, state_.LatNS, state_.LatDeg, state_.LatMin, state_.LonEW,
-                                state_.LonDeg, state_.LonMin, 0, state_.TimeDiff, state_.TimeDiffEW);
+    return sunset_.FnFindSunset(moment, state_.site.LatNS, state_.site.LatDeg, state_.site.LatMin,
+                                state_.site.LonEW, state_.site.LonDeg, state_.site.LonMin, 0,
+                                state_.site.TimeDiff, state_.site.TimeDiffEW);
 }
 
 } // namespace kelvaro

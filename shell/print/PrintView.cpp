@@ -325,7 +325,7 @@ void PrintView::PrintDirectly() {
     const std::vector<std::string_view> pages = PagesToPrint(report_, Antra());
     QPrinter printer(QPrinter::HighResolution);
     printer.setPageMargins({paperMargin, paperMargin, paperMargin, paperMargin}, QPageLayout::Millimeter);
-    printer.setDocName(JobName(horoscope_->state.ChartName));
+    printer.setDocName(JobName(horoscope_->state.birth.ChartName));
     printer.setCreator(QGuiApplication::applicationName());
     QPrintDialog dialog(&printer, this);
     dialog.setMinMax(1, static_cast<int>(pages.size()));

@@ -28,7 +28,7 @@ ChartNames NamesOf(const HoroscopeState &state) {
     ChartNames names;
     names.lagna << QString::fromStdString(ShortNameOf(state, Body::Lagna))
                 << QString::fromStdString(LongNameOf(state, Body::Lagna));
-    for (const std::string &sign : state.RasiNames) {
+    for (const std::string &sign : state.names.RasiNames) {
         names.signs << QString::fromStdString(sign);
     }
     return names;

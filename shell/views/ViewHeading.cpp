@@ -9,12 +9,13 @@ namespace kelvaro {
 ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
     const auto text = [](const std::string &field) { return QString::fromStdString(field); };
     const auto twoDigits = [&](const std::string &field) { return text(field).rightJustified(2, u'0'); };
-    QStringList place{text(state.BirthCity), text(state.BirthCountry)};
+    QStringList place{text(state.birth.BirthCity), text(state.birth.BirthCountry)};
     place.removeAll(QString());
-    return {title, text(state.ChartName),
+    return {title, text(state.birth.ChartName),
             QStringLiteral("%1/%2/%3  %4:%5")
-                .arg(twoDigits(state.BirthDay), text(state.BirthMonth), text(state.BirthYear),
-                     twoDigits(state.BirthHour), twoDigits(state.BirthMinute)),
+                .arg(twoDigits(state.birth.BirthDay), text(state.birth.BirthMonth),
+                     text(state.birth.BirthYear), twoDigits(state.birth.BirthHour),
+                     twoDigits(state.birth.BirthMinute)),
             place.join(QStringLiteral(", "))};
 }
 

@@ -19,7 +19,7 @@ protected:
     /// Rasis of Lagna to Ketu.
     void Fill(const std::array<std::int16_t, 10> &rasis) {
         for (std::size_t i = 0; i < rasis.size(); ++i) {
-            state_.*bodyFields[i].rasi = rasis[i];
+            state_.positions.*bodyFields[i].rasi = rasis[i];
         }
         FillAshtakavarga(state_, form_, stars_);
     }
@@ -53,7 +53,7 @@ TEST_F(AshtakavargaTest, AChartReckonedByHand) {
     }};
     Fill({8, 3, 5, 6, 4, 2, 3, 11, 1, 7});
     for (std::size_t row = 0; row < expected.size(); ++row) {
-        EXPECT_EQ(form_.mshAshtaVarga.rows.at(row).front(), row < 12 ? state_.RasiNames[row] : "Total");
+        EXPECT_EQ(form_.mshAshtaVarga.rows.at(row).front(), row < 12 ? state_.names.RasiNames[row] : "Total");
         for (std::size_t column = 0; column < expected[row].size(); ++column) {
             EXPECT_EQ(Points(row, column + 1), expected[row][column]) << row << ", " << column;
         }
@@ -85,11 +85,11 @@ TEST_F(AshtakavargaTest, HeaderFollowsTheLanguage) {
     const std::string english = "Zodiac       | Sun    |Moon   |Mars |Mercury|Jupiter|Venus|Saturn|Asc   "
                                 "*|Rahu *|Total |Total With * ";
     for (const char *language : {"English", "Tamil"}) {
-        state_.Language = language;
+        state_.preferences.Language = language;
         Fill({1, 1, 1, 1, 1, 1, 1, 1, 1, 1});
         EXPECT_EQ(form_.mshAshtaVarga.header, english);
     }
-    state_.Language = "Sanskrit";
+    state_.preferences.Language = "Sanskrit";
     Fill({1, 1, 1, 1, 1, 1, 1, 1, 1, 1});
     EXPECT_EQ(form_.mshAshtaVarga.header, "Rasi         | Surya  |Chandra|Kuja |Budha  |Guru   |Sukra|Sani  "
                                           "|Lagna *|Rahu *|Total |Total With *");
@@ -98,11 +98,11 @@ TEST_F(AshtakavargaTest, HeaderFollowsTheLanguage) {
 TEST_F(AshtakavargaTest, KeepsTheStarOfTheMoon) {
     stars_.PlanetPosition = 10;
     stars_.findstar();
-    state_.MoonLon = 259;
+    state_.positions.MoonLon = 259;
     Fill({1, 1, 1, 1, 1, 1, 1, 1, 1, 1});
-    EXPECT_EQ(state_.MoonStarName, "Poorvashada");
-    EXPECT_EQ(state_.MoonStarPada, 2);
-    EXPECT_EQ(state_.MoonHouseNo, 3) << "left from the position before";
+    EXPECT_EQ(state_.moonStar.MoonStarName, "Poorvashada");
+    EXPECT_EQ(state_.moonStar.MoonStarPada, 2);
+    EXPECT_EQ(state_.moonStar.MoonHouseNo, 3) << "left from the position before";
 }
 
 TEST_F(AshtakavargaTest, ARasiThatDoesNotExistIsAnError) {

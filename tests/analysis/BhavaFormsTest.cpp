@@ -20,12 +20,13 @@ using Row = std::vector<std::string>;
 HoroscopeState StateWithStyle(const char *style) {
     HoroscopeState state;
     LoadNamesForLanguage(state);
-    state.ChartStyle = style;
-    state.LagnaLon = 119.25;
-    state.MidHeaven = 29.25;
-    state.SunLon = 134.25; // sandhi of house 1
-    state.MoonLon = state.MarsLon = state.MercuryLon = state.JupiterLon = state.VenusLon = 240;
-    state.SaturnLon = state.RahuLon = state.KetuLon = 28;
+    state.preferences.ChartStyle = style;
+    state.positions.LagnaLon = 119.25;
+    state.positions.MidHeaven = 29.25;
+    state.positions.SunLon = 134.25; // sandhi of house 1
+    state.positions.MoonLon = state.positions.MarsLon = state.positions.MercuryLon =
+        state.positions.JupiterLon = state.positions.VenusLon = 240;
+    state.positions.SaturnLon = state.positions.RahuLon = state.positions.KetuLon = 28;
     return state;
 }
 

@@ -19,9 +19,9 @@ using Houses = std::array<double, 12>;
 HoroscopeState StateWith(double lagna, double midHeaven, const char *system) {
     HoroscopeState state;
     LoadNamesForLanguage(state);
-    state.LagnaLon = lagna;
-    state.MidHeaven = midHeaven;
-    state.BhavaSystem = system;
+    state.positions.LagnaLon = lagna;
+    state.positions.MidHeaven = midHeaven;
+    state.preferences.BhavaSystem = system;
     return state;
 }
 
@@ -71,9 +71,9 @@ TEST(BhavaSystem, DividesTheHouses) {
         FindBhavas(state);
         Houses ends = expected.start;
         std::rotate(ends.begin(), ends.begin() + 1, ends.end());
-        EXPECT_EQ(state.BhavaStart, expected.start) << expected.system << " from " << expected.lagna;
-        EXPECT_EQ(state.BhavaMid, expected.middle) << expected.system << " from " << expected.lagna;
-        EXPECT_EQ(state.BhavaSandhi, ends) << expected.system << " from " << expected.lagna;
+        EXPECT_EQ(state.houses.BhavaStart, expected.start) << expected.system << " from " << expected.lagna;
+        EXPECT_EQ(state.houses.BhavaMid, expected.middle) << expected.system << " from " << expected.lagna;
+        EXPECT_EQ(state.houses.BhavaSandhi, ends) << expected.system << " from " << expected.lagna;
     }
 }
 
@@ -100,7 +100,7 @@ TEST(BhavaSystem, ListsTheBodiesOfAHouse) {
     HoroscopeState state = StateWith(100, 10, "Equal");
     constexpr std::array<double, 9> longitudes{340, 10, 345, 328.5, 345.5, 200, 360, 0, 10};
     for (std::size_t i = 0; i < 9; ++i) {
-        state.*bodyFields.at(i + 1).longitude = longitudes.at(i);
+        state.positions.*bodyFields.at(i + 1).longitude = longitudes.at(i);
     }
     for (const RangeCase &expected : rangeCases) {
         EXPECT_EQ(PlanetsInBhava(state, expected.start, expected.end), expected.bodies)
@@ -110,14 +110,14 @@ TEST(BhavaSystem, ListsTheBodiesOfAHouse) {
 
 TEST(BhavaSystem, HouseOneOpensWithTheLagna) {
     HoroscopeState state = StateWith(100, 10, "Equal");
-    state.SunLon = 115;
+    state.positions.SunLon = 115;
     FindBhavas(state);
-    EXPECT_EQ(state.BhavaPlanets.at(0), "Asc Sun");
-    EXPECT_EQ(state.BhavaPlanets.at(1), "Sun");
-    state.SunLon = 116;
+    EXPECT_EQ(state.houses.BhavaPlanets.at(0), "Asc Sun");
+    EXPECT_EQ(state.houses.BhavaPlanets.at(1), "Sun");
+    state.positions.SunLon = 116;
     FindBhavas(state);
-    EXPECT_EQ(state.BhavaPlanets.at(0), "Asc ");
-    EXPECT_EQ(state.BhavaRasi, (std::array<std::int16_t, 12>{4, 5, 6, 7, 8, 9, 10, 11, 12, 1, 2, 3}));
+    EXPECT_EQ(state.houses.BhavaPlanets.at(0), "Asc ");
+    EXPECT_EQ(state.houses.BhavaRasi, (std::array<std::int16_t, 12>{4, 5, 6, 7, 8, 9, 10, 11, 12, 1, 2, 3}));
 }
 
 double Forward(double from, double to) {
@@ -133,27 +133,28 @@ TEST(BhavaSystem, EqualHousesCoverTheZodiac) {
     for (int run = 0; run < 1000; ++run) {
         const double lagna = anywhere(generator);
         HoroscopeState state = StateWith(lagna, Forward(quarter(generator), lagna), "Equal");
-        state.SunLon = anywhere(generator);
+        state.positions.SunLon = anywhere(generator);
         FindBhavas(state);
 
         double circle = 0;
         bool isLost = false;
         for (std::size_t k = 0; k < 12; ++k) {
-            const double start = state.BhavaStart.at(k);
-            const double width = Forward(start, state.BhavaSandhi.at(k));
+            const double start = state.houses.BhavaStart.at(k);
+            const double width = Forward(start, state.houses.BhavaSandhi.at(k));
             circle += width;
-            EXPECT_EQ(state.BhavaSandhi.at(k), state.BhavaStart.at((k + 1) % 12));
-            EXPECT_LT(Forward(start, state.BhavaMid.at(k)), width);
-            EXPECT_NEAR(Forward(state.BhavaMid.at(k), state.BhavaMid.at((k + 6) % 12)), 180, 1e-9);
-            isLost |= start < 329 && start + width > 360 && Forward(start, state.SunLon) < width;
+            EXPECT_EQ(state.houses.BhavaSandhi.at(k), state.houses.BhavaStart.at((k + 1) % 12));
+            EXPECT_LT(Forward(start, state.houses.BhavaMid.at(k)), width);
+            EXPECT_NEAR(Forward(state.houses.BhavaMid.at(k), state.houses.BhavaMid.at((k + 6) % 12)), 180,
+                        1e-9);
+            isLost |= start < 329 && start + width > 360 && Forward(start, state.positions.SunLon) < width;
         }
         EXPECT_NEAR(circle, 360, 1e-9);
-        EXPECT_NEAR(std::remainder(state.BhavaMid.at(0) - lagna, 360), 0, 1e-9);
-        EXPECT_NEAR(std::remainder(state.BhavaMid.at(9) - state.MidHeaven, 360), 0, 1e-9);
-        const bool isListed = std::ranges::any_of(state.BhavaPlanets, [](const std::string &names) {
+        EXPECT_NEAR(std::remainder(state.houses.BhavaMid.at(0) - lagna, 360), 0, 1e-9);
+        EXPECT_NEAR(std::remainder(state.houses.BhavaMid.at(9) - state.positions.MidHeaven, 360), 0, 1e-9);
+        const bool isListed = std::ranges::any_of(state.houses.BhavaPlanets, [](const std::string &names) {
             return names.find("Sun") != std::string::npos;
         });
-        EXPECT_NE(isListed, isLost) << state.SunLon << " with the Lagna at " << lagna;
+        EXPECT_NE(isListed, isLost) << state.positions.SunLon << " with the Lagna at " << lagna;
     }
 }
 

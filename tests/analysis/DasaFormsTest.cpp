@@ -22,7 +22,7 @@ protected:
     DasaFormsTest() {
         connection_.OpenCopyInMemory(KELVARO_SEED_DATABASE);
         LoadNamesForLanguage(state_);
-        state_.BirthMomentDate = MomentOf({1965, 7, 14}, {14, 15, 0});
+        state_.positions.BirthMomentDate = MomentOf({1965, 7, 14}, {14, 15, 0});
     }
 
     void Fill(long chartNumber = 0) { FillDasa(state_, form_, position_, stars_, connection_, chartNumber); }
@@ -63,7 +63,7 @@ void ExpectContiguous(const TextGrid &grid, const std::string &start) {
 
 TEST_F(DasaFormsTest, BalanceAtBirth) {
     Fill();
-    EXPECT_NEAR(state_.MoonLon, 275.456, 0.01);
+    EXPECT_NEAR(state_.positions.MoonLon, 275.456, 0.01);
     EXPECT_EQ(form_.Lab_DasaBalanceV, "Dasa Balance at Birth :Dasa  Sun 2-0- 17");
     EXPECT_EQ(state_.DasaBalanceText, "Sun Dasa  2 Years 0 Months 17 Days ");
 }
@@ -131,7 +131,7 @@ TEST_F(DasaFormsTest, AntrasStartAtBirthAtFullLength) {
 }
 
 TEST_F(DasaFormsTest, LordsInSanskrit) {
-    state_.Language = "Sanskrit";
+    state_.preferences.Language = "Sanskrit";
     LoadNamesForLanguage(state_);
     Fill();
     EXPECT_EQ(form_.Lab_DasaBalanceV, "Dasa Balance at Birth :Dasa  Surya 2-0- 17");
@@ -151,7 +151,7 @@ TEST_F(DasaFormsTest, AFailingInsertAddsNothing) {
 }
 
 TEST_F(DasaFormsTest, ABirthBeforeTheOriginOfTheDayCount) {
-    state_.BirthMomentDate = MomentOf({1869, 10, 2}, {7, 12, 0});
+    state_.positions.BirthMomentDate = MomentOf({1869, 10, 2}, {7, 12, 0});
     Fill();
     EXPECT_EQ(form_.mshDasa.rows.front()[1], "02/Oct/1869");
     ExpectContiguous(form_.mshDasa, "02/Oct/1869");

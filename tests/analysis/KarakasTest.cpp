@@ -41,7 +41,7 @@ TEST(Karakas, RankByText) {
         form.MSFlexGridSort.rows.assign(9, {"stale"});
         form.mshNirayana.rows.assign(10, std::vector<std::string>(10));
         for (std::size_t i = 0; i < 7; ++i) {
-            state.*bodyFields.at(i + 1).longitude = expected.longitudes.at(i);
+            state.positions.*bodyFields.at(i + 1).longitude = expected.longitudes.at(i);
             form.mshNirayana.rows.at(i + 1).at(1) =
                 DegreeMinuteSecondText(FoldToSign(expected.longitudes.at(i)));
         }

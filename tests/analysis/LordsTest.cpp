@@ -15,7 +15,7 @@ namespace {
 
 HoroscopeState StateIn(const char *language) {
     HoroscopeState state;
-    state.Language = language;
+    state.preferences.Language = language;
     LoadNamesForLanguage(state);
     return state;
 }

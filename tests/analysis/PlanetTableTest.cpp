@@ -28,23 +28,24 @@ TEST(RetroMark, ComparesOneDayOn) {
 /// The birth of the record, 14 July 1965, with the longitudes of the facade for planets and nodes.
 HoroscopeState StateAtBirth(ClsFindPlanetPosition &position, const char *language) {
     HoroscopeState state;
-    state.Language = language;
+    state.preferences.Language = language;
     LoadNamesForLanguage(state);
-    state.BirthMomentDate = MomentOf({1965, 7, 14}, {14, 15, 0});
-    position.FindFixValues(state.BirthMomentDate, state.LatNS, state.LatDeg, state.LatMin, state.LonEW,
-                           state.LonDeg, state.LonMin, state.TimeDiff, state.TimeDiffEW, 0, "Lahiri", 0, 0);
-    state.MarsLon = position.FnFindMarsPosition();
-    state.MercuryLon = position.FnFindMercuryPosition();
-    state.JupiterLon = position.FnFindJupiterPosition();
-    state.VenusLon = position.FnFindVenusPosition();
-    state.SaturnLon = position.FnFindSaturnPosition();
-    state.RahuLon = position.FnFindRahuPosition();
-    state.KetuLon = position.FnFindKethuPosition();
+    state.positions.BirthMomentDate = MomentOf({1965, 7, 14}, {14, 15, 0});
+    position.FindFixValues(state.positions.BirthMomentDate, state.site.LatNS, state.site.LatDeg,
+                           state.site.LatMin, state.site.LonEW, state.site.LonDeg, state.site.LonMin,
+                           state.site.TimeDiff, state.site.TimeDiffEW, 0, "Lahiri", 0, 0);
+    state.positions.MarsLon = position.FnFindMarsPosition();
+    state.positions.MercuryLon = position.FnFindMercuryPosition();
+    state.positions.JupiterLon = position.FnFindJupiterPosition();
+    state.positions.VenusLon = position.FnFindVenusPosition();
+    state.positions.SaturnLon = position.FnFindSaturnPosition();
+    state.positions.RahuLon = position.FnFindRahuPosition();
+    state.positions.KetuLon = position.FnFindKethuPosition();
     // These three never carry a mark, so they can stand where the classes are worth looking at.
-    state.LagnaLon = 276.7;
-    state.SunLon = 77.3;
-    state.MoonLon = 0;
-    state.IshtaGhati = 20.5;
+    state.positions.LagnaLon = 276.7;
+    state.positions.SunLon = 77.3;
+    state.positions.MoonLon = 0;
+    state.ghati.IshtaGhati = 20.5;
     return state;
 }
 

@@ -56,7 +56,7 @@ TEST(SayanadiAvastha, FollowsTheSum) {
     clsStar star;
     for (const AvasthaCase &expected : cases) {
         HoroscopeState state;
-        state.IshtaGhati = expected.ishtaGhati;
+        state.ghati.IshtaGhati = expected.ishtaGhati;
         EXPECT_EQ(SayanadiAvastha(state, star, expected.longitude, expected.lordName, 0, expected.moon,
                                   expected.lagnaRasi),
                   expected.avastha)
@@ -67,10 +67,10 @@ TEST(SayanadiAvastha, FollowsTheSum) {
 TEST(SayanadiAvastha, ASumBeyondSixteenBitsIsAnError) {
     clsStar star;
     HoroscopeState state;
-    state.IshtaGhati = 32267; // with 495 from the body itself 32762
+    state.ghati.IshtaGhati = 32267; // with 495 from the body itself 32762
     EXPECT_NO_THROW(SayanadiAvastha(state, star, 135, "Kethu", 0, 1, 4));
     EXPECT_THROW(SayanadiAvastha(state, star, 135, "Kethu", 0, 1, 5), OverflowError);
-    state.IshtaGhati = 32768;
+    state.ghati.IshtaGhati = 32768;
     EXPECT_THROW(SayanadiAvastha(state, star, 0, "", 0, 0, 1), OverflowError);
 }
 

@@ -92,7 +92,7 @@ protected:
     /// Places Lagna to Ketu and fills the grid.
     void Fill(const VargaLongitudes &longitudes) {
         for (std::size_t i = 0; i < longitudes.size(); ++i) {
-            state_.*bodyFields[i].longitude = longitudes[i];
+            state_.positions.*bodyFields[i].longitude = longitudes[i];
         }
         FillVargas(state_, form_, connection_);
     }
@@ -123,7 +123,7 @@ TEST_F(VargasTest, AllChartsFollowTheirRules) {
                 const std::int64_t sign = wholes[i] / (30 * oneDegree);
                 const Place place{wholes[i], sign, wholes[i] - sign * 30 * oneDegree};
                 const auto expected = static_cast<std::size_t>(rules[row].sign(place) % 12);
-                ASSERT_EQ(Cell(row, i + 1), state_.RasiShortNames[expected])
+                ASSERT_EQ(Cell(row, i + 1), state_.names.RasiShortNames[expected])
                     << rules[row].label << " at " << longitudes[i];
             }
         }
@@ -158,7 +158,7 @@ TEST_F(VargasTest, SpeaksTheLanguageInForce) {
     EXPECT_EQ(
         form_.mshVargas.header,
         "  Chart                  | Asc  | Sun  | Moo  | Mar  | Mer  | Jup  | Ven  | Sat  | Rah  | Ket  ");
-    state_.Language = "Sanskrit";
+    state_.preferences.Language = "Sanskrit";
     LoadNamesForLanguage(state_);
     Fill({});
     EXPECT_EQ(

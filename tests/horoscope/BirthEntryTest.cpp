@@ -69,7 +69,7 @@ TEST_F(BirthEntryTest, TestsInTheirOrder) {
         }
     }
     EXPECT_TRUE(display_.events.empty());
-    EXPECT_EQ(horoscope_.state.BirthDay, "14");
+    EXPECT_EQ(horoscope_.state.birth.BirthDay, "14");
     EXPECT_TRUE(settings_.values.empty());
 
     for (const char *year : {"1800", "3000"}) {
@@ -96,11 +96,11 @@ TEST_F(BirthEntryTest, HourBecomesOneOfTwentyFour) {
         if (*c.clock == '\0') {
             EXPECT_THROW(HandOver(fields, state), ConversionError) << c.hour;
             EXPECT_THROW(Save(fields), ConversionError) << c.hour;
-            EXPECT_EQ(state.BirthDay, "14") << "nothing may be handed over by halves";
+            EXPECT_EQ(state.birth.BirthDay, "14") << "nothing may be handed over by halves";
         } else {
             HandOver(fields, state);
-            EXPECT_EQ(state.BirthHour, c.text);
-            EXPECT_EQ(TimingText(state.BirthMoment), c.clock);
+            EXPECT_EQ(state.birth.BirthHour, c.text);
+            EXPECT_EQ(TimingText(state.birth.BirthMoment), c.clock);
         }
     }
     for (const auto field : {&BirthFields::txt_Year, &BirthFields::cbHour, &BirthFields::cbMins}) {
@@ -114,20 +114,20 @@ TEST_F(BirthEntryTest, HourBecomesOneOfTwentyFour) {
 TEST_F(BirthEntryTest, AcceptedBirthIsHandedOverAndComputed) {
     BirthFields fields = Entered();
     fields.txt_VC_UserId = 7;
-    horoscope_.state.AyanamsaName = "Raman";
+    horoscope_.state.preferences.AyanamsaName = "Raman";
     EXPECT_FALSE(AcceptBirth(fields, horoscope_));
     const HoroscopeState &state = horoscope_.state;
     EXPECT_EQ(display_.failure, "");
     EXPECT_EQ(display_.Count("hide birth"), 1U);
     EXPECT_EQ(horoscope_.chartNumber, 7);
-    EXPECT_EQ(MomentText(state.BirthMoment), "04/07/1965 02:15 PM");
-    EXPECT_EQ(state.BirthMoment, state.BirthMomentDate);
-    EXPECT_EQ(state.AyanamsaInForce, "Raman");
-    EXPECT_EQ(state.BirthTimeZoneName, "Indian Standard Time  (5.5 hrs E)");
-    EXPECT_EQ(state.LatDeg + state.LatMin / 100, 17.20);
-    EXPECT_EQ(state.LonDeg + state.LonMin / 100, 78.30);
-    EXPECT_EQ(state.LatNS + state.LonEW + state.TimeDiffEW, "NEE");
-    EXPECT_EQ(state.TimeDiff, 5.5);
+    EXPECT_EQ(MomentText(state.birth.BirthMoment), "04/07/1965 02:15 PM");
+    EXPECT_EQ(state.birth.BirthMoment, state.positions.BirthMomentDate);
+    EXPECT_EQ(state.preferences.AyanamsaInForce, "Raman");
+    EXPECT_EQ(state.birth.BirthTimeZoneName, "Indian Standard Time  (5.5 hrs E)");
+    EXPECT_EQ(state.site.LatDeg + state.site.LatMin / 100, 17.20);
+    EXPECT_EQ(state.site.LonDeg + state.site.LonMin / 100, 78.30);
+    EXPECT_EQ(state.site.LatNS + state.site.LonEW + state.site.TimeDiffEW, "NEE");
+    EXPECT_EQ(state.site.TimeDiff, 5.5);
 }
 
 TEST_F(BirthEntryTest, ChoicesFillTheFields) {
@@ -163,7 +163,8 @@ TEST_F(BirthEntryTest, SavedReopenedChangedAndDeleted) {
     EXPECT_EQ(Save(fields).text, "Chart Successfully Saved");
     EXPECT_EQ(fields.txt_VC_UserId, 1);
     EXPECT_EQ(settings_.values.size(), 18U);
-    EXPECT_EQ(horoscope_.state.ChartName + horoscope_.state.BirthDay, "Velnesh14") << "OK alone hands over";
+    EXPECT_EQ(horoscope_.state.birth.ChartName + horoscope_.state.birth.BirthDay, "Velnesh14")
+        << "OK alone hands over";
 
     // A restart: another connection to the file.
     connection_.Close();
@@ -243,12 +244,12 @@ TEST_F(BirthEntryTest, OpenedChartComputesAsItWasSaved) {
         ChooseZone(fields, choices.zones.back().number, lists_, horoscope_.state);
         Save(fields);
         AcceptBirth(fields, horoscope_);
-        const double lagna = horoscope_.state.LagnaLon;
+        const double lagna = horoscope_.state.positions.LagnaLon;
         const BirthFields opened = Open({"Velnesh~4-Jul-1965", fields.txt_VC_UserId}).fields;
         EXPECT_EQ(opened.txt_VC_TimeDiffEW, fields.txt_VC_TimeDiffEW);
         AcceptBirth(Entered("5"), horoscope_);
         EXPECT_FALSE(AcceptBirth(opened, horoscope_));
-        EXPECT_EQ(horoscope_.state.LagnaLon, lagna) << country.text;
+        EXPECT_EQ(horoscope_.state.positions.LagnaLon, lagna) << country.text;
     }
 }
 

@@ -15,7 +15,7 @@ protected:
 };
 
 TEST_F(BirthSummaryTest, SampleBirth) {
-    horoscope.state.BirthTimeZoneName = "India Standard Time  (5.5 hrs E)";
+    horoscope.state.birth.BirthTimeZoneName = "India Standard Time  (5.5 hrs E)";
     const UserDetailsForm &form = Summary();
     EXPECT_EQ(form.txtGName, "Velnesh");
     EXPECT_EQ(form.Txt_BC_Date, "14 / Jul / 1965");
@@ -48,7 +48,7 @@ TEST_F(BirthSummaryTest, HoursOfTheTwelveHourClock) {
     };
     for (const Case &test : {Case{"0", "12 : 15  AM"}, Case{"11", "11 : 15  AM"}, Case{"12", "12 : 15  PM"},
                              Case{"23", "11 : 15  PM"}}) {
-        horoscope.state.BirthHour = test.hour;
+        horoscope.state.birth.BirthHour = test.hour;
         EXPECT_EQ(Summary().txtTimeOfBirth, test.text);
     }
 }
@@ -73,24 +73,24 @@ TEST_F(BirthSummaryTest, LocalMeanTimeOnBothSidesOfMeridianAndGreenwich) {
     };
     for (const Case &test : cases) {
         HoroscopeState &state = horoscope.state;
-        state.LonDeg = test.degrees;
-        state.LonMin = test.minutes;
-        state.LonEW = test.side;
-        state.TimeDiff = test.zone;
-        state.TimeDiffEW = test.zoneSide;
+        state.site.LonDeg = test.degrees;
+        state.site.LonMin = test.minutes;
+        state.site.LonEW = test.side;
+        state.site.TimeDiff = test.zone;
+        state.site.TimeDiffEW = test.zoneSide;
         EXPECT_EQ(Summary().txtlmt, test.localMeanTime) << test.degrees << test.side;
     }
 }
 
 TEST_F(BirthSummaryTest, BirthAroundSunriseBelongsToTheDayThatItsClockSays) {
     CalculateHoroscope(horoscope);
-    const Moment sunrise = horoscope.state.SunriseOfBirthDay;
+    const Moment sunrise = horoscope.state.day.SunriseOfBirthDay;
 
     // In the minute of sunrise the day before still counts, though the Vedic weekday has begun.
     SetBirth(sunrise);
     EXPECT_EQ(Summary().txtVedic, "Wednesday");
-    EXPECT_EQ(Split(horoscope.state.SunriseForGhati).date, (CivilDate{1965, 7, 13}));
-    EXPECT_GT(horoscope.state.IshtaGhati, 58);
+    EXPECT_EQ(Split(horoscope.state.ghati.SunriseForGhati).date, (CivilDate{1965, 7, 13}));
+    EXPECT_GT(horoscope.state.ghati.IshtaGhati, 58);
 
     SetBirth(DateAdd(Interval::Minute, -1, sunrise));
     EXPECT_EQ(Summary().txtVedic, "Tuesday");
@@ -100,7 +100,7 @@ TEST_F(BirthSummaryTest, BirthAroundSunriseBelongsToTheDayThatItsClockSays) {
     // it.
     SetBirth(DateAdd(Interval::Minute, 1, sunrise));
     EXPECT_EQ(Summary().txtIshtaGhati, "-00:6250");
-    EXPECT_EQ(horoscope.state.IshtaGhatiMinutes, -15);
+    EXPECT_EQ(horoscope.state.ghati.IshtaGhatiMinutes, -15);
 }
 
 TEST_F(BirthSummaryTest, LunarDatesOfOneHoroscopeReachIntoTheNext) {

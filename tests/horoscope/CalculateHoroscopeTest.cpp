@@ -1,7 +1,7 @@
 #include "horoscope/CalculateHoroscope.h"
 
 #include "horoscope/record/Bodies.h"
-#include "panchanga/RasiOfLongitude.h"
+#include "panchanga/Sign.h"
 #include "runtime/MomentText.h"
 #include "tests/horoscope/HoroscopeFixture.h"
 
@@ -21,14 +21,14 @@ TEST_F(CalculateHoroscopeTest, SampleBirthFillsBothCharts) {
     EXPECT_EQ(display.events.back(), "close");
     EXPECT_EQ(display.Count("show Navamsa"), 1U);
     EXPECT_EQ(display.Count("advance"), 15U);
-    EXPECT_EQ(MomentText(horoscope.state.BirthMomentDate), "14/07/1965 02:15 PM");
-    EXPECT_EQ(horoscope.state.DayOrNight, "Day");
+    EXPECT_EQ(MomentText(horoscope.state.positions.BirthMomentDate), "14/07/1965 02:15 PM");
+    EXPECT_EQ(horoscope.state.day.DayOrNight, "Day");
     EXPECT_EQ(horoscope.forms.frm_rasi.VisibleFrame, ChartStyle::South);
     EXPECT_EQ(horoscope.forms.frm_Navamsa.VisibleFrame, ChartStyle::South);
     // After the run the numbers are those of the Rasi chart, whatever pass the Navamsa chart needed.
     for (const BodyFields &body : bodyFields) {
-        const double longitude = horoscope.state.*body.longitude;
-        EXPECT_EQ(horoscope.state.*body.rasi, static_cast<int>(longitude / 30) + 1);
+        const double longitude = horoscope.state.positions.*body.longitude;
+        EXPECT_EQ(horoscope.state.positions.*body.rasi, static_cast<int>(longitude / 30) + 1);
         const std::string &name = ShortNameOf(horoscope.state, body.body);
         const int navamsa = static_cast<int>(longitude / (10.0 / 3)) % 12;
         EXPECT_NE(horoscope.forms.frm_Navamsa.South.at(static_cast<std::size_t>(navamsa)).find(name),
@@ -43,8 +43,8 @@ TEST_F(CalculateHoroscopeTest, FailedStepEndsTheRunAndLeavesEmptyViews) {
                  horoscope.forms.frm_rasi.South.at(1).empty());
     display.events.clear();
 
-    horoscope.state.BirthDay = "31";
-    horoscope.state.BirthMonth = "Jun";
+    horoscope.state.birth.BirthDay = "31";
+    horoscope.state.birth.BirthMonth = "Jun";
     horoscope.CurrentView = "Rasi";
     CalculateHoroscope(horoscope);
 
@@ -59,7 +59,7 @@ TEST_F(CalculateHoroscopeTest, FailedStepEndsTheRunAndLeavesEmptyViews) {
         EXPECT_EQ(cell, "");
     }
 
-    horoscope.state.BirthDay = "30";
+    horoscope.state.birth.BirthDay = "30";
     display.failedStep.clear();
     CalculateHoroscope(horoscope);
     EXPECT_EQ(display.failedStep, "");
@@ -74,8 +74,8 @@ TEST_F(CalculateHoroscopeTest, NoSecondRunStartsInsideOne) {
 
 TEST_F(CalculateHoroscopeTest, LimitsOfTheDayLieInTheNight) {
     CalculateHoroscope(horoscope);
-    const Moment sunrise = horoscope.state.SunriseOfBirthDay;
-    const Moment sunset = horoscope.state.SunsetOfBirthDay;
+    const Moment sunrise = horoscope.state.day.SunriseOfBirthDay;
+    const Moment sunset = horoscope.state.day.SunsetOfBirthDay;
 
     struct Case {
         Moment birth;
@@ -95,12 +95,12 @@ TEST_F(CalculateHoroscopeTest, LimitsOfTheDayLieInTheNight) {
         SetBirth(test.birth);
         CalculateHoroscope(horoscope);
         const HoroscopeState &state = horoscope.state;
-        EXPECT_EQ(state.DayOrNight, test.dayOrNight);
-        EXPECT_EQ(Split(state.DaySunrise).date, (CivilDate{1965, 7, test.dateOfDaySunrise}));
-        const bool isDay = state.DayOrNight == "Day";
-        for (const Moment rise : {state.GulikaMoment, state.MandiMoment}) {
-            EXPECT_GE(rise, isDay ? state.DaySunrise : state.DaySunset);
-            EXPECT_LE(rise, isDay ? state.DaySunset : state.DayNextSunrise);
+        EXPECT_EQ(state.day.DayOrNight, test.dayOrNight);
+        EXPECT_EQ(Split(state.day.DaySunrise).date, (CivilDate{1965, 7, test.dateOfDaySunrise}));
+        const bool isDay = state.day.DayOrNight == "Day";
+        for (const Moment rise : {state.day.GulikaMoment, state.day.MandiMoment}) {
+            EXPECT_GE(rise, isDay ? state.day.DaySunrise : state.day.DaySunset);
+            EXPECT_LE(rise, isDay ? state.day.DaySunset : state.day.DayNextSunrise);
         }
     }
 }
@@ -111,23 +111,23 @@ TEST_F(CalculateHoroscopeTest, DayOfBirthHoldsAlsoBeforeTheOriginOfMoments) {
         CalculateHoroscope(horoscope);
         const HoroscopeState &state = horoscope.state;
         EXPECT_EQ(display.failure, "");
-        EXPECT_GT(state.BirthMomentDate, state.DaySunrise) << hour;
-        EXPECT_LT(state.BirthMomentDate, state.DayNextSunrise) << hour;
-        EXPECT_EQ(state.DayOrNight, hour == 12 ? "Day" : "Night");
+        EXPECT_GT(state.positions.BirthMomentDate, state.day.DaySunrise) << hour;
+        EXPECT_LT(state.positions.BirthMomentDate, state.day.DayNextSunrise) << hour;
+        EXPECT_EQ(state.day.DayOrNight, hour == 12 ? "Day" : "Night");
     }
 }
 
 TEST_F(CalculateHoroscopeTest, NamesFollowTheLanguageAndOutliveAnUnknownOne) {
-    horoscope.state.Language = "Sanskrit";
+    horoscope.state.preferences.Language = "Sanskrit";
     CalculateHoroscope(horoscope);
     EXPECT_EQ(ShortNameOf(horoscope.state, Body::Venus), "Suk");
     EXPECT_EQ(LongNameOf(horoscope.state, Body::Venus), "Sukra");
     EXPECT_EQ(LongNameOf(horoscope.state, Body::Jupiter), "Guru");
-    EXPECT_EQ(horoscope.state.LongNames.at(5), "Sukra");
-    EXPECT_EQ(horoscope.state.ShortNames.at(5), "Gur");
-    horoscope.state.Language = "Latin";
+    EXPECT_EQ(horoscope.state.names.LongNames.at(5), "Sukra");
+    EXPECT_EQ(horoscope.state.names.ShortNames.at(5), "Gur");
+    horoscope.state.preferences.Language = "Latin";
     CalculateHoroscope(horoscope);
-    EXPECT_EQ(horoscope.state.RasiNames.at(1), "Rishaba");
+    EXPECT_EQ(horoscope.state.names.RasiNames.at(1), "Rishaba");
 }
 
 TEST(RasiOfLongitudeTest, CountsPartsThroughTheCircle) {

@@ -49,11 +49,11 @@ protected:
 
     void SetBirth(Moment moment) {
         const CivilMoment parts = Split(moment);
-        horoscope.state.BirthDay = std::to_string(parts.date.day);
-        horoscope.state.BirthMonth = std::to_string(parts.date.month);
-        horoscope.state.BirthYear = std::to_string(parts.date.year);
-        horoscope.state.BirthHour = std::to_string(parts.clock.hour);
-        horoscope.state.BirthMinute = std::to_string(parts.clock.minute);
+        horoscope.state.birth.BirthDay = std::to_string(parts.date.day);
+        horoscope.state.birth.BirthMonth = std::to_string(parts.date.month);
+        horoscope.state.birth.BirthYear = std::to_string(parts.date.year);
+        horoscope.state.birth.BirthHour = std::to_string(parts.clock.hour);
+        horoscope.state.birth.BirthMinute = std::to_string(parts.clock.minute);
     }
 
     RecordingDisplay display;

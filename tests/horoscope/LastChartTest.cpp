@@ -38,12 +38,13 @@ BirthFields BirthInRio() {
 
 /// The birth as one line.
 std::string BirthIn(const HoroscopeState &state) {
-    return state.ChartName + ", " + state.BirthGender + ", " + state.BirthDay + " " + state.BirthMonth + " " +
-           state.BirthYear + " " + state.BirthHour + ":" + state.BirthMinute + " (" +
-           MomentText(state.BirthMoment) + "), " + state.BirthCity + ", " + state.BirthCountry + ", " +
-           NumberText(state.LatDeg) + state.LatNS + NumberText(state.LatMin) + ", " +
-           NumberText(state.LonDeg) + state.LonEW + NumberText(state.LonMin) + ", zone " +
-           state.BirthTimeZoneName + NumberText(state.TimeDiff) + state.TimeDiffEW;
+    return state.birth.ChartName + ", " + state.birth.BirthGender + ", " + state.birth.BirthDay + " " +
+           state.birth.BirthMonth + " " + state.birth.BirthYear + " " + state.birth.BirthHour + ":" +
+           state.birth.BirthMinute + " (" + MomentText(state.birth.BirthMoment) + "), " +
+           state.birth.BirthCity + ", " + state.birth.BirthCountry + ", " + NumberText(state.site.LatDeg) +
+           state.site.LatNS + NumberText(state.site.LatMin) + ", " + NumberText(state.site.LonDeg) +
+           state.site.LonEW + NumberText(state.site.LonMin) + ", zone " + state.birth.BirthTimeZoneName +
+           NumberText(state.site.TimeDiff) + state.site.TimeDiffEW;
 }
 
 constexpr const char *sampleBirth =
@@ -52,11 +53,11 @@ constexpr const char *sampleBirth =
 TEST(LastChartTest, NothingKeptGivesTheSampleChart) {
     MemorySettings settings;
     HoroscopeState state;
-    state.AyanamsaName = "Raman";
-    state.ChartName = "another";
+    state.preferences.AyanamsaName = "Raman";
+    state.birth.ChartName = "another";
     EXPECT_EQ(RestoreLastChart(settings, state), "");
     EXPECT_EQ(BirthIn(state), sampleBirth);
-    EXPECT_EQ(state.AyanamsaInForce, "Raman");
+    EXPECT_EQ(state.preferences.AyanamsaInForce, "Raman");
 
     settings.values["Name"] = "Ravi";
     EXPECT_EQ(RestoreLastChart(settings, state), "");

@@ -46,7 +46,7 @@ TEST_F(PreferencesEntryTest, TestsOfTheCustomAyanamsaInTheirOrder) {
         }
     }
     EXPECT_EQ(Stored().clsAyanamsa, "Lahiri");
-    EXPECT_EQ(horoscope.state.AyanamsaName, "Lahiri");
+    EXPECT_EQ(horoscope.state.preferences.AyanamsaName, "Lahiri");
     EXPECT_TRUE(display.events.empty());
     for (const auto &[zeroYear, progress] :
          {std::pair{"2003", "1000"}, std::pair{"0", "0"}, std::pair{"3.97e2", "50"}}) {
@@ -59,10 +59,10 @@ TEST_F(PreferencesEntryTest, SaveStoresAndComputesAnew) {
     EXPECT_EQ(display.Count("close"), 1U);
     EXPECT_EQ(Stored().clsYear, 397);
     EXPECT_EQ(Stored().clsProgress, 50.3);
-    EXPECT_EQ(horoscope.state.AyanamsaInForce, "Custom");
-    EXPECT_EQ(horoscope.state.YearInForce, 397);
+    EXPECT_EQ(horoscope.state.preferences.AyanamsaInForce, "Custom");
+    EXPECT_EQ(horoscope.state.preferences.YearInForce, 397);
     // (1965 - 397) years of 50.3 seconds, and half a year's share.
-    EXPECT_NEAR(horoscope.state.Ayanamsa, -(1968.0 - 400 + 194 / 365.25) * 50.3 / 3600, 0.001);
+    EXPECT_NEAR(horoscope.state.positions.Ayanamsa, -(1968.0 - 400 + 194 / 365.25) * 50.3 / 3600, 0.001);
 
     // Another ayanamsa takes the custom figures away.
     PreferenceFields fields = FieldsOfPreferences(Stored());
@@ -76,25 +76,25 @@ TEST_F(PreferencesEntryTest, SaveStoresAndComputesAnew) {
     EXPECT_EQ(Stored().clsChart_Type, "North");
     EXPECT_EQ(Stored().clsDays_in_a_Year, 360);
     EXPECT_EQ(horoscope.forms.frm_rasi.VisibleFrame, ChartStyle::North);
-    EXPECT_EQ(horoscope.state.RasiNames.front(), "Mesha");
+    EXPECT_EQ(horoscope.state.names.RasiNames.front(), "Mesha");
     EXPECT_EQ(display.Count("close"), 2U);
 }
 
 TEST_F(PreferencesEntryTest, ApplyStoresNothingAndTakesNoBhava) {
     connection.Execute("update Preference set Bhava = 'Not Equal'");
-    horoscope.state.BhavaSystem = "Equal";
+    horoscope.state.preferences.BhavaSystem = "Equal";
     PreferenceFields fields = FieldsOfPreferences(Stored());
     EXPECT_EQ(fields.cbBhava, "Placidius");
     fields.cbAyanamsa = "Tropical Ayanamsa (Sayana)";
     EXPECT_FALSE(ApplyPreferences(fields, horoscope));
-    EXPECT_EQ(horoscope.state.Ayanamsa, 0);
-    EXPECT_EQ(horoscope.state.BhavaSystem, "Equal");
+    EXPECT_EQ(horoscope.state.positions.Ayanamsa, 0);
+    EXPECT_EQ(horoscope.state.preferences.BhavaSystem, "Equal");
     EXPECT_EQ(Stored().clsAyanamsa, "Lahiri");
 
     // Saving keeps the unlisted choice and puts it in force.
     EXPECT_FALSE(SavePreferences(fields, horoscope));
     EXPECT_EQ(Stored().clsBhava, "Not Equal");
-    EXPECT_EQ(horoscope.state.BhavaSystem, "Not Equal");
+    EXPECT_EQ(horoscope.state.preferences.BhavaSystem, "Not Equal");
 }
 
 TEST_F(PreferencesEntryTest, TextThatIsNoChoiceIsRefused) {

@@ -20,10 +20,10 @@ inline store::Connection &SeedConnection() {
 /// The calendars of a program just started, at New Delhi and under Lahiri's ayanamsa.
 struct Almanac {
     explicit Almanac(store::Connection &connection = SeedConnection()) : years(connection) {
-        state.LatDeg = 28;
-        state.LatMin = 36;
-        state.LonDeg = 77;
-        state.LonMin = 12;
+        state.site.LatDeg = 28;
+        state.site.LatMin = 36;
+        state.site.LonDeg = 77;
+        state.site.LonMin = 12;
     }
 
     HoroscopeState state;

@@ -186,7 +186,7 @@ TEST(TithiSearch, EndsForNumbersThatAreNone) {
     constexpr double infinite = std::numeric_limits<double>::infinity();
     for (const double bad : {infinite, std::numeric_limits<double>::quiet_NaN(), 1e300}) {
         Almanac almanac;
-        almanac.state.TimeDiff = bad;
+        almanac.state.site.TimeDiff = bad;
         EXPECT_THROW(Counted(almanac, "Purnima", "1/7/2015"), RuntimeError) << bad;
         EXPECT_THROW(almanac.Krishnadi("1/7/2015"), RuntimeError) << bad;
     }
@@ -197,11 +197,11 @@ TEST(TithiSearch, EndsForNumbersThatAreNone) {
 TEST(PlacePositions, TakesTheCustomAyanamsaFromTheRecord) {
     Almanac almanac;
     const Moment moment = MomentOf({2000, 3, 1}, {12, 0, 0});
-    almanac.state.AyanamsaInForce = "Sayana";
+    almanac.state.preferences.AyanamsaInForce = "Sayana";
     const double tropical = almanac.positions.SunAndMoonAt(moment).sun;
-    almanac.state.AyanamsaInForce = "Custom";
-    almanac.state.YearInForce = 400;
-    almanac.state.ProgressInForce = 54;
+    almanac.state.preferences.AyanamsaInForce = "Custom";
+    almanac.state.preferences.YearInForce = 400;
+    almanac.state.preferences.ProgressInForce = 54;
     const PlacePositions::SunAndMoon sky = almanac.positions.SunAndMoonAt(moment);
     // 1600 years at 54 seconds of arc, and two months.
     EXPECT_NEAR(tropical - sky.sun, 24, 0.01);

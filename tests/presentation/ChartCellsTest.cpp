@@ -16,17 +16,20 @@ using Cells = std::array<std::string, 12>;
 /// Lagna and Sun in Pisces, Moon, Venus and Maandi in Aries, all others in Cancer.
 HoroscopeState StateWithStyle(const std::string &style) {
     HoroscopeState state;
-    state.ChartStyle = style;
-    state.ShortNames = {"Lag", "Rav", "Cha", "Kuj", "Bud", "Gur", "Suk", "San", "Rah", "Ket", "Gul", "Maa"};
-    state.LongNames = {"Lagna", "Surya", "Chandra", "Kuja", "Budha", "Sukra", "Guru", "Sani", "Rahu", "Ketu"};
-    state.LagnaRasi = state.SunRasi = 12;
-    state.MoonRasi = state.VenusRasi = state.MaandiRasi = 1;
-    state.MarsRasi = state.MercuryRasi = state.JupiterRasi = state.SaturnRasi = state.RahuRasi =
-        state.KetuRasi = state.GulikaRasi = 4;
-    state.LagnaLon = 342.5;
-    state.SunLon = 330;
-    state.MoonLon = 3 + 40 / 60.0;
-    state.VenusLon = 29.25;
+    state.preferences.ChartStyle = style;
+    state.names.ShortNames = {"Lag", "Rav", "Cha", "Kuj", "Bud", "Gur",
+                              "Suk", "San", "Rah", "Ket", "Gul", "Maa"};
+    state.names.LongNames = {"Lagna", "Surya", "Chandra", "Kuja", "Budha",
+                             "Sukra", "Guru",  "Sani",    "Rahu", "Ketu"};
+    state.positions.LagnaRasi = state.positions.SunRasi = 12;
+    state.positions.MoonRasi = state.positions.VenusRasi = state.positions.MaandiRasi = 1;
+    state.positions.MarsRasi = state.positions.MercuryRasi = state.positions.JupiterRasi =
+        state.positions.SaturnRasi = state.positions.RahuRasi = state.positions.KetuRasi =
+            state.positions.GulikaRasi = 4;
+    state.positions.LagnaLon = 342.5;
+    state.positions.SunLon = 330;
+    state.positions.MoonLon = 3 + 40 / 60.0;
+    state.positions.VenusLon = 29.25;
     return state;
 }
 

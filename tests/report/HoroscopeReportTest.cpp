@@ -83,14 +83,14 @@ protected:
         HoroscopeState &state = horoscope.state;
         SetBirth(DateAdd(Interval::Minute, upTo(1439),
                          DateAdd(Interval::Day, upTo(109000), MomentOf({1800, 2, 1}, {0, 0, 0}))));
-        state.LatDeg = upTo(60);
-        state.LatNS = oneOf({"N", "S"});
-        state.LonDeg = upTo(179);
-        state.LonEW = state.TimeDiffEW = oneOf({"E", "W"});
-        state.TimeDiff = state.LonDeg / 15;
-        state.ChartStyle = oneOf({"South", "East", "North"});
-        state.Language = oneOf({"English", "Sanskrit"});
-        state.BhavaSystem = oneOf({"Equal", "Not Equal"});
+        state.site.LatDeg = upTo(60);
+        state.site.LatNS = oneOf({"N", "S"});
+        state.site.LonDeg = upTo(179);
+        state.site.LonEW = state.site.TimeDiffEW = oneOf({"E", "W"});
+        state.site.TimeDiff = state.site.LonDeg / 15;
+        state.preferences.ChartStyle = oneOf({"South", "East", "North"});
+        state.preferences.Language = oneOf({"English", "Sanskrit"});
+        state.preferences.BhavaSystem = oneOf({"Equal", "Not Equal"});
     }
 };
 
@@ -110,8 +110,8 @@ TEST_F(HoroscopeReport, IsTheReferenceInEveryStyleAndLanguage) {
     };
     for (const Edition &edition : editions) {
         SCOPED_TRACE(std::string(edition.style) + " " + edition.language);
-        horoscope.state.ChartStyle = edition.style;
-        horoscope.state.Language = edition.language;
+        horoscope.state.preferences.ChartStyle = edition.style;
+        horoscope.state.preferences.Language = edition.language;
         const std::string report = Report(edition.antra);
         const auto pages = PagesOf(report);
         auto expected = ReferencePages(edition.whole);
@@ -182,8 +182,8 @@ TEST_F(HoroscopeReport, ContinuesLongTextsUnderThemselves) {
     for (int i = 0; i < 100; ++i) {
         name += "\xc3\xa9";
     }
-    horoscope.state.ChartName = name;
-    horoscope.state.BirthCity = "Old\r\nTown\f";
+    horoscope.state.birth.ChartName = name;
+    horoscope.state.birth.BirthCity = "Old\r\nTown\f";
     const auto lines = LinesOfPage(1);
     const auto first =
         std::find(lines.begin(), lines.end(), "     Name                  : " + name.substr(0, 102));
@@ -209,18 +209,18 @@ TEST_F(HoroscopeReport, NamesTheHouseSystem) {
     for (const auto &[system, title] : std::vector<std::tuple<std::string, std::string>>{
              {"Equal", "Bhava Positions  (Equal Division of Houses From M.C)"},
              {"Not Equal", "Bhava Positions  (Placidius Semi-Arc System)"}}) {
-        horoscope.state.BhavaSystem = system;
+        horoscope.state.preferences.BhavaSystem = system;
         const auto lines = LinesOfPage(3);
         EXPECT_NE(std::find(lines.begin(), lines.end(), title), lines.end()) << system;
     }
 }
 
 TEST_F(HoroscopeReport, LeavesOutWhatWasNeverFilled) {
-    horoscope.state.ChartStyle = "West";
+    horoscope.state.preferences.ChartStyle = "West";
     EXPECT_EQ(Report().find('*', 0), Report().find("* Rah *")); // no drawing before the Ashtakavarga
     horoscope.forms = {};
     for (const char *style : {"South", "East", "North"}) {
-        horoscope.state.ChartStyle = style;
+        horoscope.state.preferences.ChartStyle = style;
         const std::string empty =
             ComposeReport(horoscope.state, horoscope.forms, connection, AntraSection::With);
         EXPECT_EQ(PagesOf(empty).size(), 7U) << style;

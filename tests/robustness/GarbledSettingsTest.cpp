@@ -29,9 +29,9 @@ TEST_F(GarbledSettingsTest, NumbersFromOutsideTheWorldAreComputedOrRefusedInWord
             SCOPED_TRACE(std::string(key) + " = " + number);
             settings.values = {{key, number}};
             if (Start().empty()) {
-                EXPECT_TRUE(std::isfinite(horoscope.state.LagnaLon));
-                EXPECT_TRUE(std::isfinite(horoscope.state.MoonLon));
-                EXPECT_TRUE(std::isfinite(horoscope.state.MandiMoment.Serial()));
+                EXPECT_TRUE(std::isfinite(horoscope.state.positions.LagnaLon));
+                EXPECT_TRUE(std::isfinite(horoscope.state.positions.MoonLon));
+                EXPECT_TRUE(std::isfinite(horoscope.state.day.MandiMoment.Serial()));
             }
             settings.values.clear();
             EXPECT_EQ(Start(), "") << "the next chart is computed";

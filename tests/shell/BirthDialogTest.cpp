@@ -219,8 +219,9 @@ void BirthDialogTest::KeysAloneStateABirth() {
     Key(Qt::Key_Return);
     QVERIFY(!form_->isVisible());
     QCOMPARE(program_->display.failure, std::string());
-    QCOMPARE(State().ChartName + " " + State().BirthGender, std::string("Uma Female"));
-    QCOMPARE(QString::fromStdString(MomentText(State().BirthMoment)), QStringLiteral("14/07/1965 02:15 PM"));
+    QCOMPARE(State().birth.ChartName + " " + State().birth.BirthGender, std::string("Uma Female"));
+    QCOMPARE(QString::fromStdString(MomentText(State().birth.BirthMoment)),
+             QStringLiteral("14/07/1965 02:15 PM"));
     const auto &signs = program_->horoscope.forms.frm_rasi.South;
     QVERIFY2(signs.at(6).starts_with("Asc"), signs.at(6).c_str());
     QVERIFY2(signs.at(2).starts_with("Sun"), signs.at(2).c_str());
@@ -282,7 +283,8 @@ void BirthDialogTest::FaultyFieldsAreTold() {
         QVERIFY(form_->isVisible());
     }
     QCOMPARE(answer.Count(), 2);
-    QCOMPARE(State().BirthYear + First("select count(*) from ChartSave").toStdString(), std::string("19650"));
+    QCOMPARE(State().birth.BirthYear + First("select count(*) from ChartSave").toStdString(),
+             std::string("19650"));
 }
 
 void BirthDialogTest::PlacesAreTakenWhenTheFieldIsLeft() {
@@ -394,9 +396,9 @@ void BirthDialogTest::LastChartComesBack() {
     QCOMPARE(answer.Text(), QStringLiteral("Chart Successfully Saved"));
     Start();
     QCOMPARE(RestoreLastChart(program_->settings, program_->horoscope.state), std::string());
-    QCOMPARE(QString::fromStdString(State().ChartName), name);
-    QCOMPARE(MomentText(State().BirthMoment), std::string("14/07/1965 02:16 PM"));
-    QCOMPARE(State().BirthCity, std::string("Hyderabad (A.P)"));
+    QCOMPARE(QString::fromStdString(State().birth.ChartName), name);
+    QCOMPARE(MomentText(State().birth.BirthMoment), std::string("14/07/1965 02:16 PM"));
+    QCOMPARE(State().birth.BirthCity, std::string("Hyderabad (A.P)"));
     const QSettings stored(folder_->filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
     QCOMPARE(stored.childGroups(), QStringList{QStringLiteral("Horo")});
 }

@@ -268,8 +268,8 @@ void MainWindowTest::OneFrameIsVisibleInEachStyle() {
     QFETCH(QString, style);
     QFETCH(QString, frame);
     QFETCH(QString, lagnaLabel);
-    window_->HoroscopeInForce().state.ChartStyle = style.toStdString();
-    window_->HoroscopeInForce().state.Language = "Sanskrit";
+    window_->HoroscopeInForce().state.preferences.ChartStyle = style.toStdString();
+    window_->HoroscopeInForce().state.preferences.Language = "Sanskrit";
     window_->Calculate();
     for (const char *each : {"Frame_SouthBride", "Frame_EastBride", "Frame_NorthBride"}) {
         QCOMPARE(Form("frm_rasi")->findChild<QWidget *>(each)->isVisible(), frame == QLatin1String(each));
@@ -326,8 +326,8 @@ void MainWindowTest::WindowClosedInARunClosesAtItsEnd() {
 }
 
 void MainWindowTest::FailedRunNamesItsCauseAndShowsNoFigures() {
-    window_->HoroscopeInForce().state.BirthDay = "31";
-    window_->HoroscopeInForce().state.BirthMonth = "Feb";
+    window_->HoroscopeInForce().state.birth.BirthDay = "31";
+    window_->HoroscopeInForce().state.birth.BirthMonth = "Feb";
     window_->Calculate();
     const QString message = window_->statusBar()->currentMessage();
     QVERIFY2(message.startsWith(QStringLiteral("Rasi positions: ")), qPrintable(message));
@@ -337,7 +337,7 @@ void MainWindowTest::FailedRunNamesItsCauseAndShowsNoFigures() {
         QCOMPARE(label->text(), QString());
     }
 
-    window_->HoroscopeInForce().state.BirthDay = "28";
+    window_->HoroscopeInForce().state.birth.BirthDay = "28";
     window_->Calculate();
     QVERIFY(window_->statusBar()->currentMessage().isEmpty());
 }

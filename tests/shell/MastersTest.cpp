@@ -158,8 +158,8 @@ void MastersTest::ANewPlaceServesAtOnce() {
     }
     QCOMPARE(Combo(birth, "cbTimeZone")->currentText(), QStringLiteral("Alpine Time  (5.75 hrs E)"));
     Press(birth, "cmdSave");
-    QCOMPARE(horoscope.state.BirthCountry, std::string("Zubrowka"));
-    QCOMPARE(horoscope.state.LonMin, 36.0);
+    QCOMPARE(horoscope.state.birth.BirthCountry, std::string("Zubrowka"));
+    QCOMPARE(horoscope.state.site.LonMin, 36.0);
     QCOMPARE(horoscope.forms.frm_UserDetails.txtTimeZone, std::string("Alpine Time  (5.75 hrs E)"));
     QVERIFY(!horoscope.forms.Frm_Dasa.mshAntra.rows.empty());
 }

@@ -242,14 +242,14 @@ void MenuTest::LastChartComesBack() {
     settings.sync();
     Open();
     Start();
-    QCOMPARE(window_->HoroscopeInForce().state.ChartName, std::string("Ananda"));
+    QCOMPARE(window_->HoroscopeInForce().state.birth.ChartName, std::string("Ananda"));
     QVERIFY(window_->statusBar()->currentMessage().isEmpty());
 
     settings.setValue(QStringLiteral("Horo/Year"), QStringLiteral("no year"));
     settings.sync();
     Open();
     Start();
-    QCOMPARE(window_->HoroscopeInForce().state.ChartName, std::string("Velnesh"));
+    QCOMPARE(window_->HoroscopeInForce().state.birth.ChartName, std::string("Velnesh"));
     QVERIFY(window_->statusBar()->currentMessage().contains(QStringLiteral("sample chart")));
 }
 

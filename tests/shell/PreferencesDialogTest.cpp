@@ -117,15 +117,15 @@ void PreferencesDialogTest::ApplyLeavesTheDatabaseAsItWas() {
         Press(dialog, "Command1");
         QVERIFY(!dialog.isVisible());
     });
-    QCOMPARE(State().Ayanamsa, 0.0);
-    QCOMPARE(State().DaysInYear, 360.0);
+    QCOMPARE(State().positions.Ayanamsa, 0.0);
+    QCOMPARE(State().preferences.DaysInYear, 360.0);
     QCOMPARE(Stored().clsAyanamsa, std::string("Lahiri"));
     QCOMPARE(Stored().clsDays_in_a_Year, 365.25);
     InDialog([](PreferencesDialog &dialog) {
         Type(dialog, "cbAyanamsa", QStringLiteral("R"));
         Press(dialog, "CMDCANCEl");
     });
-    QCOMPARE(State().AyanamsaName, std::string("Sayana"));
+    QCOMPARE(State().preferences.AyanamsaName, std::string("Sayana"));
 }
 
 void PreferencesDialogTest::FaultyCustomAyanamsaIsToldAndKept() {
@@ -154,7 +154,7 @@ void PreferencesDialogTest::FaultyCustomAyanamsaIsToldAndKept() {
         QVERIFY(!dialog.isVisible());
     });
     QCOMPARE(answer.Count(), 1);
-    QCOMPARE(State().YearInForce, 397.0);
+    QCOMPARE(State().preferences.YearInForce, 397.0);
     QCOMPARE(Stored().clsProgress, 50.0);
 }
 
@@ -167,7 +167,7 @@ void PreferencesDialogTest::AnotherBhavaThanTheChoiceIsKept() {
         QCOMPARE(bhava->currentText(), QStringLiteral("Placidius"));
         Press(dialog, "cmdSave");
     });
-    QCOMPARE(State().BhavaSystem, std::string("Not Equal"));
+    QCOMPARE(State().preferences.BhavaSystem, std::string("Not Equal"));
     QCOMPARE(Stored().clsBhava, std::string("Not Equal"));
 }
 

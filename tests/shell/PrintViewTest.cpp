@@ -215,7 +215,7 @@ void PrintViewTest::FilesHoldTheReport() {
     const QString output = row.at(1);
     const QString chartName = row.at(2);
     const QString written = row.at(4);
-    horoscope_->state.ChartName = chartName.toStdString();
+    horoscope_->state.birth.ChartName = chartName.toStdString();
     CalculateHoroscope(*horoscope_);
     Choose(antra.toLatin1());
     Choose(output.toLatin1());

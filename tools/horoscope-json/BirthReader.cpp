@@ -23,15 +23,15 @@ namespace {
 using nlohmann::json;
 
 /// A text that may be any, and may be missing.
-struct TextKey {
+template <typename Part> struct TextKey {
     const char *key;
-    std::string HoroscopeState::*field;
+    std::string Part::*field;
 };
 
 /// A text that is one of two letters.
 struct SideKey {
     const char *key;
-    std::string HoroscopeState::*field;
+    std::string Site::*field;
     const char *first;
     const char *second;
 };
@@ -39,60 +39,60 @@ struct SideKey {
 /// A whole number that the record keeps as a text.
 struct WholeKey {
     const char *key;
-    std::string HoroscopeState::*field;
+    std::string BirthDetails::*field;
     int lowest;
     int highest;
 };
 
-struct NumberKey {
+template <typename Part> struct NumberKey {
     const char *key;
-    double HoroscopeState::*field;
+    double Part::*field;
     double lowest;
     double highest;
     const char *rule;
 };
 
-constexpr std::array<TextKey, 5> labels{{
-    {"ChartName", &HoroscopeState::ChartName},
-    {"BirthGender", &HoroscopeState::BirthGender},
-    {"BirthTimeZoneName", &HoroscopeState::BirthTimeZoneName},
-    {"BirthCity", &HoroscopeState::BirthCity},
-    {"BirthCountry", &HoroscopeState::BirthCountry},
+constexpr std::array<TextKey<BirthDetails>, 5> labels{{
+    {"ChartName", &BirthDetails::ChartName},
+    {"BirthGender", &BirthDetails::BirthGender},
+    {"BirthTimeZoneName", &BirthDetails::BirthTimeZoneName},
+    {"BirthCity", &BirthDetails::BirthCity},
+    {"BirthCountry", &BirthDetails::BirthCountry},
 }};
 
-constexpr WholeKey birthDay{"BirthDay", &HoroscopeState::BirthDay, 1, 31};
+constexpr WholeKey birthDay{"BirthDay", &BirthDetails::BirthDay, 1, 31};
 /// The years that a moment can hold.
-constexpr WholeKey birthYear{"BirthYear", &HoroscopeState::BirthYear, 100, 9999};
-constexpr WholeKey birthHour{"BirthHour", &HoroscopeState::BirthHour, 0, 23};
-constexpr WholeKey birthMinute{"BirthMinute", &HoroscopeState::BirthMinute, 0, 59};
+constexpr WholeKey birthYear{"BirthYear", &BirthDetails::BirthYear, 100, 9999};
+constexpr WholeKey birthHour{"BirthHour", &BirthDetails::BirthHour, 0, 23};
+constexpr WholeKey birthMinute{"BirthMinute", &BirthDetails::BirthMinute, 0, 59};
 
 constexpr double belowSixty = 59.999999999999993; // the last number before 60
-constexpr std::array<NumberKey, 5> places{{
-    {"LatDeg", &HoroscopeState::LatDeg, 0, 90, "must be a number from 0 to 90"},
-    {"LatMin", &HoroscopeState::LatMin, 0, belowSixty, "must be a number from 0 to below 60"},
-    {"LonDeg", &HoroscopeState::LonDeg, 0, 180, "must be a number from 0 to 180"},
-    {"LonMin", &HoroscopeState::LonMin, 0, belowSixty, "must be a number from 0 to below 60"},
-    {"TimeDiff", &HoroscopeState::TimeDiff, 0, 24, "must be a number from 0 to 24"},
+constexpr std::array<NumberKey<Site>, 5> places{{
+    {"LatDeg", &Site::LatDeg, 0, 90, "must be a number from 0 to 90"},
+    {"LatMin", &Site::LatMin, 0, belowSixty, "must be a number from 0 to below 60"},
+    {"LonDeg", &Site::LonDeg, 0, 180, "must be a number from 0 to 180"},
+    {"LonMin", &Site::LonMin, 0, belowSixty, "must be a number from 0 to below 60"},
+    {"TimeDiff", &Site::TimeDiff, 0, 24, "must be a number from 0 to 24"},
 }};
 
 constexpr std::array<SideKey, 3> sides{{
-    {"LatNS", &HoroscopeState::LatNS, "N", "S"},
-    {"LonEW", &HoroscopeState::LonEW, "E", "W"},
-    {"TimeDiffEW", &HoroscopeState::TimeDiffEW, "E", "W"},
+    {"LatNS", &Site::LatNS, "N", "S"},
+    {"LonEW", &Site::LonEW, "E", "W"},
+    {"TimeDiffEW", &Site::TimeDiffEW, "E", "W"},
 }};
 
-constexpr std::array<TextKey, 4> preferredWords{{
-    {"Ayanamsa", &HoroscopeState::AyanamsaName},
-    {"Bhava", &HoroscopeState::BhavaSystem},
-    {"ChartStyle", &HoroscopeState::ChartStyle},
-    {"PreferLanguage", &HoroscopeState::Language},
+constexpr std::array<TextKey<Preferences>, 4> preferredWords{{
+    {"Ayanamsa", &Preferences::AyanamsaName},
+    {"Bhava", &Preferences::BhavaSystem},
+    {"ChartStyle", &Preferences::ChartStyle},
+    {"PreferLanguage", &Preferences::Language},
 }};
 
 constexpr double largest = std::numeric_limits<double>::max();
-constexpr std::array<NumberKey, 3> preferredNumbers{{
-    {"DayInYear", &HoroscopeState::DaysInYear, -largest, largest, "must be a number"},
-    {"CustomYear", &HoroscopeState::PrefYear, -largest, largest, "must be a number"},
-    {"CustomProgress", &HoroscopeState::PrefProgress, -largest, largest, "must be a number"},
+constexpr std::array<NumberKey<Preferences>, 3> preferredNumbers{{
+    {"DayInYear", &Preferences::DaysInYear, -largest, largest, "must be a number"},
+    {"CustomYear", &Preferences::PrefYear, -largest, largest, "must be a number"},
+    {"CustomProgress", &Preferences::PrefProgress, -largest, largest, "must be a number"},
 }};
 
 [[noreturn]] void Refuse(const char *key, const std::string &complaint) {
@@ -150,103 +150,104 @@ std::string EntryText(const json &value) {
     return {};
 }
 
-void ReadText(const json &birth, const TextKey &wanted, const std::string &missing, HoroscopeState &state) {
+template <typename Part>
+void ReadText(const json &birth, const TextKey<Part> &wanted, const std::string &missing, Part &part) {
     const auto found = birth.find(wanted.key);
     if (found == birth.end()) {
-        state.*wanted.field = missing;
+        part.*wanted.field = missing;
     } else if (found->is_string()) {
-        state.*wanted.field = found->get<std::string>();
+        part.*wanted.field = found->template get<std::string>();
     } else {
         Refuse(wanted.key, "must be a text");
     }
 }
 
-void ReadSide(const json &birth, const SideKey &wanted, HoroscopeState &state) {
+void ReadSide(const json &birth, const SideKey &wanted, Site &site) {
     const json &value = Required(birth, wanted.key);
     if (value != wanted.first && value != wanted.second) {
         Refuse(wanted.key, std::string("must be \"") + wanted.first + "\" or \"" + wanted.second + "\"");
     }
-    state.*wanted.field = value.get<std::string>();
+    site.*wanted.field = value.get<std::string>();
 }
 
-int ReadWhole(const json &birth, const WholeKey &wanted, HoroscopeState &state) {
+int ReadWhole(const json &birth, const WholeKey &wanted, BirthDetails &details) {
     const std::string digits = EntryText(Required(birth, wanted.key));
     const auto number = WholeFromDigits(digits);
     if (!number || *number < wanted.lowest || *number > wanted.highest) {
         Refuse(wanted.key, "must be a whole number from " + std::to_string(wanted.lowest) + " to " +
                                std::to_string(wanted.highest));
     }
-    state.*wanted.field = digits;
+    details.*wanted.field = digits;
     return *number;
 }
 
-int ReadBirthMonth(const json &birth, HoroscopeState &state) {
+int ReadBirthMonth(const json &birth, BirthDetails &details) {
     const char *const key = "BirthMonth";
     const std::string text = EntryText(Required(birth, key));
     try {
         const int month = ReadMonth(text);
-        state.BirthMonth = text;
+        details.BirthMonth = text;
         return month;
     } catch (const ConversionError &) {
         Refuse(key, "must be the number or the English name of a month");
     }
 }
 
-void ReadNumber(const json &value, const NumberKey &wanted, HoroscopeState &state) {
+template <typename Part> void ReadNumber(const json &value, const NumberKey<Part> &wanted, Part &part) {
     const auto number = AsNumber(value);
     if (!number || *number < wanted.lowest || *number > wanted.highest) {
         Refuse(wanted.key, wanted.rule);
     }
-    state.*wanted.field = *number;
+    part.*wanted.field = *number;
 }
 
-void ReadDateAndClock(const json &birth, HoroscopeState &state) {
-    const int day = ReadWhole(birth, birthDay, state);
-    const int month = ReadBirthMonth(birth, state);
-    const int year = ReadWhole(birth, birthYear, state);
+void ReadDateAndClock(const json &birth, BirthDetails &details) {
+    const int day = ReadWhole(birth, birthDay, details);
+    const int month = ReadBirthMonth(birth, details);
+    const int year = ReadWhole(birth, birthYear, details);
     const std::chrono::year_month_day date{std::chrono::year{year},
                                            std::chrono::month{static_cast<unsigned>(month)},
                                            std::chrono::day{static_cast<unsigned>(day)}};
     if (!date.ok()) {
-        throw BirthError("BirthDay, BirthMonth and BirthYear are no date: " + state.BirthDay + "/" +
-                         state.BirthMonth + "/" + state.BirthYear);
+        throw BirthError("BirthDay, BirthMonth and BirthYear are no date: " + details.BirthDay + "/" +
+                         details.BirthMonth + "/" + details.BirthYear);
     }
-    const int hour = ReadWhole(birth, birthHour, state);
-    const int minute = ReadWhole(birth, birthMinute, state);
-    state.BirthMoment = MomentOf({year, month, day}, {hour, minute, 0});
+    const int hour = ReadWhole(birth, birthHour, details);
+    const int minute = ReadWhole(birth, birthMinute, details);
+    details.BirthMoment = MomentOf({year, month, day}, {hour, minute, 0});
 }
 
-void ReadPlace(const json &birth, HoroscopeState &state) {
-    for (const NumberKey &wanted : places) {
-        ReadNumber(Required(birth, wanted.key), wanted, state);
+void ReadPlace(const json &birth, Site &site) {
+    for (const auto &wanted : places) {
+        ReadNumber(Required(birth, wanted.key), wanted, site);
     }
     for (const SideKey &wanted : sides) {
-        ReadSide(birth, wanted, state);
+        ReadSide(birth, wanted, site);
     }
-    if (state.LatDeg + state.LatMin / 60 > 90) {
+    if (site.LatDeg + site.LatMin / 60 > 90) {
         throw BirthError("LatDeg and LatMin together must not be above 90 degrees");
     }
-    if (state.LonDeg + state.LonMin / 60 > 180) {
+    if (site.LonDeg + site.LonMin / 60 > 180) {
         throw BirthError("LonDeg and LonMin together must not be above 180 degrees");
     }
 }
 
-void ReadPreferences(const json &birth, HoroscopeState &state) {
-    const HoroscopeState defaults;
-    for (const TextKey &wanted : preferredWords) {
-        ReadText(birth, wanted, defaults.*wanted.field, state);
+void ReadPreferences(const json &birth, Preferences &preferences) {
+    const Preferences defaults;
+    for (const auto &wanted : preferredWords) {
+        ReadText(birth, wanted, defaults.*wanted.field, preferences);
     }
-    for (const NumberKey &wanted : preferredNumbers) {
+    for (const auto &wanted : preferredNumbers) {
         const auto found = birth.find(wanted.key);
         if (found == birth.end()) {
-            state.*wanted.field = defaults.*wanted.field;
+            preferences.*wanted.field = defaults.*wanted.field;
         } else {
-            ReadNumber(*found, wanted, state);
+            ReadNumber(*found, wanted, preferences);
         }
     }
-    state.AyanamsaInForce = state.AyanamsaName;
-    state.YearInForce = state.PrefYear;
-    state.ProgressInForce = state.PrefProgress;
+    preferences.AyanamsaInForce = preferences.AyanamsaName;
+    preferences.YearInForce = preferences.PrefYear;
+    preferences.ProgressInForce = preferences.PrefProgress;
 }
 
 json ParsedObject(const std::string &line) {
@@ -277,12 +278,12 @@ json ParsedObject(const std::string &line) {
 void ReadBirth(const std::string &line, HoroscopeState &state) {
     const json birth = ParsedObject(line);
     HoroscopeState read = state;
-    for (const TextKey &wanted : labels) {
-        ReadText(birth, wanted, "", read);
+    for (const auto &wanted : labels) {
+        ReadText(birth, wanted, "", read.birth);
     }
-    ReadDateAndClock(birth, read);
-    ReadPlace(birth, read);
-    ReadPreferences(birth, read);
+    ReadDateAndClock(birth, read.birth);
+    ReadPlace(birth, read.site);
+    ReadPreferences(birth, read.preferences);
     state = std::move(read);
 }
 

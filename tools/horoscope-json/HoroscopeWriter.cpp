@@ -3,90 +3,13 @@
 #include <nlohmann/json.hpp>
 
 #include <array>
-#include <cstdint>
 #include <string>
-#include <variant>
 
 namespace kelvaro {
 
 namespace {
 
 using nlohmann::ordered_json;
-using State = HoroscopeState;
-
-using ResultMember =
-    std::variant<double State::*, std::int16_t State::*, Moment State::*, std::string State::*,
-                 std::array<double, 12> State::*, std::array<std::int16_t, 12> State::*,
-                 std::array<std::string, 10> State::*, std::array<std::string, 12> State::*>;
-
-struct ResultField {
-    const char *name;
-    ResultMember member;
-};
-
-constexpr std::array resultFields{
-    ResultField{"BirthMomentDate", &State::BirthMomentDate},
-    ResultField{"Ayanamsa", &State::Ayanamsa},
-    ResultField{"MidHeaven", &State::MidHeaven},
-    ResultField{"LagnaLon", &State::LagnaLon},
-    ResultField{"SunLon", &State::SunLon},
-    ResultField{"MoonLon", &State::MoonLon},
-    ResultField{"MarsLon", &State::MarsLon},
-    ResultField{"MercuryLon", &State::MercuryLon},
-    ResultField{"JupiterLon", &State::JupiterLon},
-    ResultField{"VenusLon", &State::VenusLon},
-    ResultField{"SaturnLon", &State::SaturnLon},
-    ResultField{"RahuLon", &State::RahuLon},
-    ResultField{"KetuLon", &State::KetuLon},
-    ResultField{"GulikaLon", &State::GulikaLon},
-    ResultField{"MaandiLon", &State::MaandiLon},
-    ResultField{"LagnaRasi", &State::LagnaRasi},
-    ResultField{"SunRasi", &State::SunRasi},
-    ResultField{"MoonRasi", &State::MoonRasi},
-    ResultField{"MarsRasi", &State::MarsRasi},
-    ResultField{"MercuryRasi", &State::MercuryRasi},
-    ResultField{"JupiterRasi", &State::JupiterRasi},
-    ResultField{"VenusRasi", &State::VenusRasi},
-    ResultField{"SaturnRasi", &State::SaturnRasi},
-    ResultField{"RahuRasi", &State::RahuRasi},
-    ResultField{"KetuRasi", &State::KetuRasi},
-    ResultField{"GulikaRasi", &State::GulikaRasi},
-    ResultField{"MaandiRasi", &State::MaandiRasi},
-    ResultField{"SunriseOfBirthDay", &State::SunriseOfBirthDay},
-    ResultField{"SunsetOfBirthDay", &State::SunsetOfBirthDay},
-    ResultField{"SunriseNextDay", &State::SunriseNextDay},
-    ResultField{"DayCurrentDate", &State::DayCurrentDate},
-    ResultField{"DaySunrise", &State::DaySunrise},
-    ResultField{"DaySunset", &State::DaySunset},
-    ResultField{"DayNextSunrise", &State::DayNextSunrise},
-    ResultField{"DayOrNight", &State::DayOrNight},
-    ResultField{"GulikaDay", &State::GulikaDay},
-    ResultField{"GulikaNight", &State::GulikaNight},
-    ResultField{"MandiDay", &State::MandiDay},
-    ResultField{"MandiNight", &State::MandiNight},
-    ResultField{"GulikaMoment", &State::GulikaMoment},
-    ResultField{"MandiMoment", &State::MandiMoment},
-    ResultField{"SummaryMoment", &State::SummaryMoment},
-    ResultField{"LocalMeanTimeMoment", &State::LocalMeanTimeMoment},
-    ResultField{"SunriseForGhati", &State::SunriseForGhati},
-    ResultField{"IshtaGhatiMinutes", &State::IshtaGhatiMinutes},
-    ResultField{"IshtaGhati", &State::IshtaGhati},
-    ResultField{"BhavaStart", &State::BhavaStart},
-    ResultField{"BhavaMid", &State::BhavaMid},
-    ResultField{"BhavaSandhi", &State::BhavaSandhi},
-    ResultField{"BhavaRasi", &State::BhavaRasi},
-    ResultField{"BhavaPlanets", &State::BhavaPlanets},
-    ResultField{"MoonStarName", &State::MoonStarName},
-    ResultField{"MoonStarPada", &State::MoonStarPada},
-    ResultField{"MoonHouseNo", &State::MoonHouseNo},
-    ResultField{"DasaBalanceText", &State::DasaBalanceText},
-    ResultField{"ShortNames", &State::ShortNames},
-    ResultField{"LongNames", &State::LongNames},
-    ResultField{"RasiNames", &State::RasiNames},
-    ResultField{"RasiShortNames", &State::RasiShortNames},
-    ResultField{"GulikaLongName", &State::GulikaLongName},
-    ResultField{"MaandiLongName", &State::MaandiLongName},
-};
 
 struct ChartFormField {
     const char *name;
@@ -158,19 +81,93 @@ constexpr std::array gridFields{
     GridField{"mshAntra", [](const HoroscopeForms &f) -> const TextGrid & { return f.Frm_Dasa.mshAntra; }},
 };
 
-template <typename Value> ordered_json ValueJson(const Value &value) {
-    return value;
+void AddPositions(const Positions &positions, ordered_json &out) {
+    out["BirthMomentDate"] = positions.BirthMomentDate.Serial();
+    out["Ayanamsa"] = positions.Ayanamsa;
+    out["MidHeaven"] = positions.MidHeaven;
+    out["LagnaLon"] = positions.LagnaLon;
+    out["SunLon"] = positions.SunLon;
+    out["MoonLon"] = positions.MoonLon;
+    out["MarsLon"] = positions.MarsLon;
+    out["MercuryLon"] = positions.MercuryLon;
+    out["JupiterLon"] = positions.JupiterLon;
+    out["VenusLon"] = positions.VenusLon;
+    out["SaturnLon"] = positions.SaturnLon;
+    out["RahuLon"] = positions.RahuLon;
+    out["KetuLon"] = positions.KetuLon;
+    out["GulikaLon"] = positions.GulikaLon;
+    out["MaandiLon"] = positions.MaandiLon;
+    out["LagnaRasi"] = positions.LagnaRasi;
+    out["SunRasi"] = positions.SunRasi;
+    out["MoonRasi"] = positions.MoonRasi;
+    out["MarsRasi"] = positions.MarsRasi;
+    out["MercuryRasi"] = positions.MercuryRasi;
+    out["JupiterRasi"] = positions.JupiterRasi;
+    out["VenusRasi"] = positions.VenusRasi;
+    out["SaturnRasi"] = positions.SaturnRasi;
+    out["RahuRasi"] = positions.RahuRasi;
+    out["KetuRasi"] = positions.KetuRasi;
+    out["GulikaRasi"] = positions.GulikaRasi;
+    out["MaandiRasi"] = positions.MaandiRasi;
 }
 
-ordered_json ValueJson(const Moment &moment) {
-    return moment.Serial();
+void AddDayOfBirth(const DayOfBirth &day, ordered_json &out) {
+    out["SunriseOfBirthDay"] = day.SunriseOfBirthDay.Serial();
+    out["SunsetOfBirthDay"] = day.SunsetOfBirthDay.Serial();
+    out["SunriseNextDay"] = day.SunriseNextDay.Serial();
+    out["DayCurrentDate"] = day.DayCurrentDate.Serial();
+    out["DaySunrise"] = day.DaySunrise.Serial();
+    out["DaySunset"] = day.DaySunset.Serial();
+    out["DayNextSunrise"] = day.DayNextSunrise.Serial();
+    out["DayOrNight"] = day.DayOrNight;
+    out["GulikaDay"] = day.GulikaDay.Serial();
+    out["GulikaNight"] = day.GulikaNight.Serial();
+    out["MandiDay"] = day.MandiDay.Serial();
+    out["MandiNight"] = day.MandiNight.Serial();
+    out["GulikaMoment"] = day.GulikaMoment.Serial();
+    out["MandiMoment"] = day.MandiMoment.Serial();
 }
 
-ordered_json StateJson(const State &state) {
+void AddGhatiTimes(const GhatiTimes &ghati, ordered_json &out) {
+    out["SummaryMoment"] = ghati.SummaryMoment.Serial();
+    out["LocalMeanTimeMoment"] = ghati.LocalMeanTimeMoment.Serial();
+    out["SunriseForGhati"] = ghati.SunriseForGhati.Serial();
+    out["IshtaGhatiMinutes"] = ghati.IshtaGhatiMinutes;
+    out["IshtaGhati"] = ghati.IshtaGhati;
+}
+
+void AddHouses(const Houses &houses, ordered_json &out) {
+    out["BhavaStart"] = houses.BhavaStart;
+    out["BhavaMid"] = houses.BhavaMid;
+    out["BhavaSandhi"] = houses.BhavaSandhi;
+    out["BhavaRasi"] = houses.BhavaRasi;
+    out["BhavaPlanets"] = houses.BhavaPlanets;
+}
+
+void AddMoonStar(const MoonStar &moonStar, ordered_json &out) {
+    out["MoonStarName"] = moonStar.MoonStarName;
+    out["MoonStarPada"] = moonStar.MoonStarPada;
+    out["MoonHouseNo"] = moonStar.MoonHouseNo;
+}
+
+void AddNames(const Names &names, ordered_json &out) {
+    out["ShortNames"] = names.ShortNames;
+    out["LongNames"] = names.LongNames;
+    out["RasiNames"] = names.RasiNames;
+    out["RasiShortNames"] = names.RasiShortNames;
+    out["GulikaLongName"] = names.GulikaLongName;
+    out["MaandiLongName"] = names.MaandiLongName;
+}
+
+ordered_json StateJson(const HoroscopeState &state) {
     ordered_json out = ordered_json::object();
-    for (const auto &[name, member] : resultFields) {
-        out[name] = std::visit([&state](auto field) { return ValueJson(state.*field); }, member);
-    }
+    AddPositions(state.positions, out);
+    AddDayOfBirth(state.day, out);
+    AddGhatiTimes(state.ghati, out);
+    AddHouses(state.houses, out);
+    AddMoonStar(state.moonStar, out);
+    out["DasaBalanceText"] = state.DasaBalanceText;
+    AddNames(state.names, out);
     return out;
 }
 

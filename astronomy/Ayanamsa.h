@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace kelvaro {
+
+/// The distance of the sidereal zodiac from the tropical one, by its school.
+enum class Ayanamsa {
+    Lahiri, ///< Chitrapaksha
+    Raman,
+    KP,      ///< Krishnamurti
+    Sayana,  ///< tropical: none
+    Custom,  ///< from a zero year and a yearly progress
+    Unknown, ///< a word of no school: the value found last stays
+};
+
+/// The school of a stored word.
+constexpr Ayanamsa AyanamsaOf(std::string_view word) {
+    struct Word {
+        std::string_view word;
+        Ayanamsa ayanamsa;
+    };
+    constexpr std::array<Word, 5> words{{{"Lahiri", Ayanamsa::Lahiri},
+                                         {"Raman", Ayanamsa::Raman},
+                                         {"KP", Ayanamsa::KP},
+                                         {"Sayana", Ayanamsa::Sayana},
+                                         {"Custom", Ayanamsa::Custom}}};
+    for (const Word &each : words) {
+        if (each.word == word) {
+            return each.ayanamsa;
+        }
+    }
+    return Ayanamsa::Unknown;
+}
+
+} // namespace kelvaro
