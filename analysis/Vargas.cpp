@@ -5,6 +5,7 @@
 #include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
 #include "runtime/Numbers.h"
+#include "runtime/Texts.h"
 #include "store/database/Recordset.h"
 
 #include <algorithm>
@@ -69,20 +70,11 @@ void LayOutGrid(const HoroscopeState &state, TextGrid &grid) {
     }
 }
 
-std::string TrimmedLowerCase(std::string_view text) {
-    const auto first = std::min(text.find_first_not_of(' '), text.size());
-    std::string lower(text.substr(first, text.find_last_not_of(' ') + 1 - first));
-    std::ranges::transform(lower, lower.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    });
-    return lower;
-}
-
 std::optional<std::size_t> RowOfChart(std::string_view chartName) {
-    const std::string wanted = TrimmedLowerCase(chartName);
+    const std::string_view wanted = Trimmed(chartName);
     // The Rasi chart has no name and is not found by one.
     const auto found = std::find_if(vargas.begin() + 1, vargas.end(), [&](const Varga &varga) {
-        return TrimmedLowerCase(varga.chartName) == wanted;
+        return SameIgnoringCase(Trimmed(varga.chartName), wanted);
     });
     if (found == vargas.end()) {
         return std::nullopt;

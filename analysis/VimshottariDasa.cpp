@@ -2,6 +2,7 @@
 
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -42,11 +43,6 @@ std::size_t PlaceOf(std::string_view name) {
 
 const Lord &LordAt(std::size_t place) {
     return lords.at(place % lords.size());
-}
-
-std::string_view Trimmed(std::string_view text) {
-    const auto first = std::min(text.find_first_not_of(' '), text.size());
-    return text.substr(first, text.find_last_not_of(' ') + 1 - first);
 }
 
 void ReckonDasas(VimshottariDasa &scheme, std::size_t firstPlace, Moment birth, double daysInYear) {

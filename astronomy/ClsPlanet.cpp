@@ -26,11 +26,6 @@ double OnCircle(double degrees) {
     return FnNormalize360(degrees);
 }
 
-/// A place in degrees and minutes, the sign resting on the degrees alone.
-double SignedDegrees(double degrees, double minutes) {
-    return degrees < 0 ? degrees - minutes / 60 : degrees + minutes / 60;
-}
-
 std::int32_t DaysFromNewYear(int year, Moment moment) {
     return DateDiff(Interval::Day, MomentOf({year, 1, 1}), moment);
 }

@@ -1,6 +1,8 @@
 #include "astronomy/clsSunrise.h"
 
+#include "astronomy/theory/AngleReduction.h"
 #include "runtime/FloatingPointGuard.h"
+#include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 
 #include <array>
@@ -38,20 +40,15 @@ double FnFindMJD(double day, double month, double year, double hour) {
     return 365 * year - 679004 + leapDays + std::trunc(30.6001 * (month + 1)) + day + hour / 24;
 }
 
-double Fraction(double x) {
-    const double fraction = x - std::floor(x);
-    return fraction < 0 ? fraction + 1 : fraction;
-}
-
 struct Equatorial {
     double declination;    ///< degrees
     double rightAscension; ///< hours, 0 to 24
 };
 
 Equatorial FnFindMiniSun(double T) {
-    const double M = circle * Fraction(0.993133 + 99.997361 * T);
+    const double M = circle * FractionOf(0.993133 + 99.997361 * T);
     const double DL = 6893 * std::sin(M) + 72 * std::sin(2 * M);
-    const double longitude = circle * Fraction(0.7859453 + M / circle + (6191.2 * T + DL) / 1296000);
+    const double longitude = circle * FractionOf(0.7859453 + M / circle + (6191.2 * T + DL) / 1296000);
     const double SL = std::sin(longitude);
     const double X = std::cos(longitude);
     const double Y = 0.91748 * SL;
@@ -101,10 +98,6 @@ void FnFindQuadraticRoots(double before, double middle, double after, Parabola &
             parabola.x1 = parabola.x2;
         }
     }
-}
-
-double SignedDegrees(double degrees, double minutes) {
-    return degrees < 0 ? degrees - minutes / 60 : degrees + minutes / 60;
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "report/TableLine.h"
 #include "report/TextCharts.h"
 #include "runtime/Numbers.h"
+#include "runtime/Texts.h"
 #include "store/database/Recordset.h"
 #include "store/database/StatementText.h"
 
@@ -40,18 +41,11 @@ constexpr std::string_view bhavaHeading1 =
 constexpr std::string_view bhavaHeading2 =
     "   Longitude            Lord                           Lord    Lord";
 
-std::string InCapitals(std::string_view word) {
-    std::string capitals(word);
-    std::ranges::transform(capitals, capitals.begin(), [](char letter) {
-        return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-    });
-    return capitals;
-}
-
 /// The style of a drawing of the form; null where there is none to draw.
 const StyleOfReport *StyleFor(const HoroscopeState &state, const ChartForm &form) {
-    const std::string preferred = InCapitals(state.preferences.ChartStyle);
-    const auto *const found = std::ranges::find(styles, preferred, &StyleOfReport::word);
+    const auto *const found = std::ranges::find_if(styles, [&](const StyleOfReport &style) {
+        return SameIgnoringCase(style.word, state.preferences.ChartStyle);
+    });
     return found != styles.end() && form.VisibleFrame == found->style ? found : nullptr;
 }
 

@@ -3,7 +3,7 @@
 #include "report/TextLayout.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
-#include "runtime/Trimmed.h"
+#include "runtime/Texts.h"
 
 #include <algorithm>
 #include <array>

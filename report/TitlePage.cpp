@@ -1,7 +1,7 @@
 #include "report/TitlePage.h"
 
 #include "report/TextLayout.h"
-#include "runtime/Trimmed.h"
+#include "runtime/Texts.h"
 #include "store/database/Recordset.h"
 
 #include <array>

@@ -1,6 +1,7 @@
 #include "runtime/MomentText.h"
 
 #include "runtime/RuntimeError.h"
+#include "runtime/Texts.h"
 
 #include <array>
 #include <charconv>
@@ -18,22 +19,6 @@ constexpr std::array<std::string_view, 12> monthNames{"January",   "February", "
 
 constexpr std::array<std::string_view, 7> weekdayNames{"Sunday",   "Monday", "Tuesday", "Wednesday",
                                                        "Thursday", "Friday", "Saturday"};
-
-constexpr char Lower(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-bool SameIgnoringCase(std::string_view a, std::string_view b) {
-    if (a.size() != b.size()) {
-        return false;
-    }
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (Lower(a[i]) != Lower(b[i])) {
-            return false;
-        }
-    }
-    return true;
-}
 
 [[noreturn]] void FailToRead(std::string_view text, const char *wanted) {
     throw ConversionError("Type mismatch: \"" + std::string(text) + "\" is not " + wanted);

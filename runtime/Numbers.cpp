@@ -1,7 +1,7 @@
 #include "runtime/Numbers.h"
 
 #include "runtime/RuntimeError.h"
-#include "runtime/Trimmed.h"
+#include "runtime/Texts.h"
 
 #include <array>
 #include <charconv>

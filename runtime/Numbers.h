@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -8,6 +9,11 @@ namespace kelvaro {
 
 /// The nearest whole number; a value halfway between two goes to the even one.
 double RoundHalfToEven(double value);
+
+/// What a number has above its floor, 0 to below 1.
+inline double FractionOf(double value) {
+    return value - std::floor(value);
+}
 
 /// Rounds half to even. Raises OverflowError for a value outside -32768 to 32767, NaN included.
 std::int16_t ToInt16(double value);

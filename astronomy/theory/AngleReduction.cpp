@@ -59,8 +59,8 @@ double FnArcTan2(double y, double x) {
     return y < 0 ? 9.42477796076937 / 2 : 0;
 }
 
-double FractionAboveFloor(double x) {
-    return x - std::floor(x);
+double SignedDegrees(double degrees, double minutes) {
+    return degrees < 0 ? degrees - minutes / 60 : degrees + minutes / 60;
 }
 
 } // namespace kelvaro

@@ -29,7 +29,8 @@ double FnArcSin(double x);
 /// The arc tangent of y / x in its quadrant, 0 to 2 pi.
 double FnArcTan2(double y, double x);
 
-/// The fraction of a number above its floor.
-double FractionAboveFloor(double x);
+/// Degrees and minutes of arc as decimal degrees. The minutes are never negative and go to the side of the
+/// degrees, whose sign alone tells it: at 0 degrees they count as positive.
+double SignedDegrees(double degrees, double minutes);
 
 } // namespace kelvaro

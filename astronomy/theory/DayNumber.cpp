@@ -49,7 +49,7 @@ double GreenwichSiderealHours(double dayNumber, double year, double universalHou
     const double t = dayNumber / 36525 - 1;
     const double correction = 0.0513366 * t + 2.586222e-05 * t * t - 1.722e-09 * t * t * t;
     const double atMidnight = 6.697374558 + 2400 * (t - (year - 2000) / 100);
-    return FractionAboveFloor((1.002737908 * universalHours + atMidnight + correction) / 24) * 24;
+    return FractionOf((1.002737908 * universalHours + atMidnight + correction) / 24) * 24;
 }
 
 } // namespace kelvaro

@@ -1,6 +1,7 @@
 #include "astronomy/theory/Nutation.h"
 
 #include "astronomy/theory/AngleReduction.h"
+#include "runtime/Numbers.h"
 
 #include <cmath>
 
@@ -22,11 +23,11 @@ struct Arguments {
 Arguments ArgumentsAt(double T) {
     const double T2 = T * T;
     return {
-        (279.6967 + 0.000303 * T2 + 360 * FractionAboveFloor(100.0021358 * T)) * twiceDegreesToRadians,
-        (270.4342 - 0.001133 * T2 + 360 * FractionAboveFloor(1336.855231 * T)) * twiceDegreesToRadians,
-        (358.4758 - 0.00015 * T2 + 360 * FractionAboveFloor(99.99736056 * T)) * degreesToRadians,
-        (296.1046 + 0.009192 * T2 + 360 * FractionAboveFloor(1325.552359 * T)) * degreesToRadians,
-        (259.1833 + 0.002078 * T2 - 360 * FractionAboveFloor(5.372616667 * T)) * degreesToRadians,
+        (279.6967 + 0.000303 * T2 + 360 * FractionOf(100.0021358 * T)) * twiceDegreesToRadians,
+        (270.4342 - 0.001133 * T2 + 360 * FractionOf(1336.855231 * T)) * twiceDegreesToRadians,
+        (358.4758 - 0.00015 * T2 + 360 * FractionOf(99.99736056 * T)) * degreesToRadians,
+        (296.1046 + 0.009192 * T2 + 360 * FractionOf(1325.552359 * T)) * degreesToRadians,
+        (259.1833 + 0.002078 * T2 - 360 * FractionOf(5.372616667 * T)) * degreesToRadians,
     };
 }
 

@@ -1,6 +1,7 @@
 #include "astronomy/theory/OrbitalElements.h"
 
 #include "astronomy/theory/AngleReduction.h"
+#include "runtime/Numbers.h"
 
 namespace kelvaro {
 
@@ -82,7 +83,7 @@ double At(const Polynomial &p, double T) {
 OrbitalElements FnLoadElements(Planet planet, double centuries) {
     const ElementRow &row = elementRows.at(static_cast<std::size_t>(planet));
     const double T = centuries;
-    return {FnNormalize360(row.L0 + 360 * FractionAboveFloor(row.n * T) + (row.l2 + row.l3 * T) * (T * T)),
+    return {FnNormalize360(row.L0 + 360 * FractionOf(row.n * T) + (row.l2 + row.l3 * T) * (T * T)),
             row.n * 0.009856263 + (row.l2 + row.l3) / 36525,
             At(row.perihelion, T),
             At(row.eccentricity, T),

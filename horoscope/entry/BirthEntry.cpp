@@ -5,7 +5,7 @@
 #include "horoscope/entry/DateAndTimeTests.h"
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
-#include "runtime/Trimmed.h"
+#include "runtime/Texts.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "horoscope/entry/LastChart.h"
 #include "runtime/MomentText.h"
 #include "runtime/RuntimeError.h"
-#include "runtime/Trimmed.h"
+#include "runtime/Texts.h"
 #include "store/charts/ChartStore.h"
 
 #include <cstddef>

@@ -1,14 +1,12 @@
 #include "panchanga/almanac/TimeZone.h"
 
+#include "astronomy/theory/AngleReduction.h"
+
 namespace kelvaro {
 
 void TimeZone::findTimeZone() {
     constexpr double degreesOfHour = 15;
-    constexpr double minutesOfDegree = 60;
-    const double minutes = TZoneLongitudeMinute / minutesOfDegree;
-    const double degrees =
-        TZoneLongitudeDegree < 0 ? TZoneLongitudeDegree - minutes : TZoneLongitudeDegree + minutes;
-    TimeZone = degrees / degreesOfHour;
+    TimeZone = SignedDegrees(TZoneLongitudeDegree, TZoneLongitudeMinute) / degreesOfHour;
 }
 
 } // namespace kelvaro

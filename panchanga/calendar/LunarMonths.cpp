@@ -1,6 +1,7 @@
 #include "panchanga/calendar/LunarMonths.h"
 
 #include "panchanga/calendar/KaliyugaYears.h"
+#include "runtime/Texts.h"
 
 #include <algorithm>
 #include <array>
@@ -47,14 +48,6 @@ constexpr std::array<std::string_view, 10> monthsAfterTheTurn{
     "bhadrapada", "asvina",    "karttika", "kartikka", "karttikka",
     "kartika",    "margasira", "pausha",   "magha",    "phalguna"};
 
-std::string Lowered(std::string_view text) {
-    std::string lowered(text);
-    std::transform(lowered.begin(), lowered.end(), lowered.begin(), [](char letter) {
-        return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-    });
-    return lowered;
-}
-
 /// 0 for Aries; none outside the circle.
 std::optional<std::size_t> SignIndex(double longitude) {
     if (!(longitude >= 0 && longitude <= 360)) {
@@ -85,18 +78,18 @@ std::string_view SignBeforeSun(double longitude) {
 }
 
 std::string_view LunarMonthName(std::string_view kind, std::string_view sign) {
-    const std::string word = Lowered(kind);
-    const auto *const row =
-        std::find_if(months.begin(), months.end(),
-                     [lowered = Lowered(sign)](const MonthRow &month) { return month.sign == lowered; });
+    const auto *const row = std::ranges::find_if(
+        months, [=](const MonthRow &month) { return SameIgnoringCase(month.sign, sign); });
     if (row == months.end()) {
         return {};
     }
-    return word == "purnima" ? row->fullMoon : word == "amavasya" ? row->newMoon : std::string_view();
+    return SameIgnoringCase(kind, "purnima")    ? row->fullMoon
+           : SameIgnoringCase(kind, "amavasya") ? row->newMoon
+                                                : std::string_view();
 }
 
 std::string LunarYearName(KaliyugaYears &years, Moment moment, std::string_view month) {
-    const std::string word = Lowered(month);
+    const std::string word = LowerCase(month);
     const CivilDate date = Split(moment).date;
     if (Contains(monthsBeforeTheTurn, word)) {
         return years.KaliyugaYearName(date.year);

@@ -61,10 +61,6 @@ const Correction *CorrectionOf(int year) {
     return found == corrections.end() ? nullptr : found;
 }
 
-double FractionOf(double value) {
-    return value - std::floor(value);
-}
-
 struct Clock {
     std::int32_t hours;
     std::int32_t minutes;

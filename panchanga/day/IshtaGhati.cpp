@@ -11,10 +11,6 @@ namespace {
 constexpr double ghatisOfHour = 2.5;
 constexpr double minutesOfGhati = 24;
 
-double FractionOf(double number) {
-    return number - std::floor(number);
-}
-
 } // namespace
 
 IshtaGhati IshtaGhatiOf(std::int32_t minutes) {

@@ -2,7 +2,7 @@
 
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
-#include "runtime/Trimmed.h"
+#include "runtime/Texts.h"
 #include "store/database/Recordset.h"
 #include "store/database/StatementText.h"
 

@@ -1,8 +1,8 @@
 #include "store/database/Connection.h"
 
+#include "runtime/Texts.h"
 #include "store/database/Dialect.h"
 #include "store/database/MemoryCopy.h"
-#include "store/database/NameMatch.h"
 #include "store/database/SqliteErrors.h"
 
 #include <SQLiteCpp/Database.h>
@@ -42,8 +42,8 @@ void CheckTables(SQLite::Database &database, const std::filesystem::path &file) 
         found.push_back(tables.getColumn(0).getString());
     }
     for (const std::string_view needed : neededTables) {
-        if (std::ranges::none_of(found,
-                                 [needed](const std::string &name) { return SameName(name, needed); })) {
+        if (std::ranges::none_of(
+                found, [needed](const std::string &name) { return SameIgnoringCase(name, needed); })) {
             throw StoreError("The file " + file.string() +
                              " is no database of this program: it has no table " + std::string(needed) + ".");
         }

@@ -1,6 +1,6 @@
 #include "store/database/Dialect.h"
 
-#include "store/database/NameMatch.h"
+#include "runtime/Texts.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -40,7 +40,7 @@ bool IsTableName(std::string_view word) {
 std::string Translated(std::string_view statement) {
     std::string_view rest = statement;
     std::string translated(statement);
-    if (SameName(TakeWord(rest), "delete") && TakeWord(rest) == "*") {
+    if (SameIgnoringCase(TakeWord(rest), "delete") && TakeWord(rest) == "*") {
         translated[translated.find('*')] = ' ';
     }
     return translated;
@@ -48,14 +48,15 @@ std::string Translated(std::string_view statement) {
 
 std::optional<WholeRows> AsWholeRows(std::string_view statement) {
     std::string_view rest = statement;
-    if (!SameName(TakeWord(rest), "select") || TakeWord(rest) != "*" || !SameName(TakeWord(rest), "from")) {
+    if (!SameIgnoringCase(TakeWord(rest), "select") || TakeWord(rest) != "*" ||
+        !SameIgnoringCase(TakeWord(rest), "from")) {
         return std::nullopt;
     }
     const std::string_view table = TakeWord(rest);
     const std::string_view condition = rest;
     const std::string_view next = TakeWord(rest);
-    if (!IsTableName(table) ||
-        !(next.empty() || next == ";" || SameName(next, "where") || SameName(next, "order"))) {
+    if (!IsTableName(table) || !(next.empty() || next == ";" || SameIgnoringCase(next, "where") ||
+                                 SameIgnoringCase(next, "order"))) {
         return std::nullopt;
     }
     const std::string name(table);

@@ -1,6 +1,6 @@
 #include "store/database/MemoryCopy.h"
 
-#include "store/database/NameMatch.h"
+#include "runtime/Texts.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -51,7 +51,7 @@ std::unique_ptr<SQLite::Database> CopyInMemory(const std::filesystem::path &file
     // One transaction, so that the rows of all tables are those of one moment.
     database->exec("begin");
     for (const std::string &table : CopySchema(*database)) {
-        if (!SameName(table, "tempBhukthi")) {
+        if (!SameIgnoringCase(table, "tempBhukthi")) {
             std::string copy = "insert into main.[";
             copy.append(table).append("] select * from source.[").append(table).append("]");
             database->exec(copy);

@@ -1,8 +1,8 @@
 #include "store/database/Recordset.h"
 
 #include "runtime/Numbers.h"
+#include "runtime/Texts.h"
 #include "store/database/Dialect.h"
-#include "store/database/NameMatch.h"
 #include "store/database/SqliteErrors.h"
 
 #include <SQLiteCpp/Column.h>
@@ -213,8 +213,8 @@ void Recordset::RequireOpen() const {
 
 std::size_t Recordset::FieldIndex(std::string_view field) const {
     RequireOpen();
-    const auto found =
-        std::ranges::find_if(names_, [field](const std::string &name) { return SameName(name, field); });
+    const auto found = std::ranges::find_if(
+        names_, [field](const std::string &name) { return SameIgnoringCase(name, field); });
     if (found == names_.end()) {
         throw StoreError("There is no field " + std::string(field) + " in: " + statement_);
     }

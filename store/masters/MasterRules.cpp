@@ -2,7 +2,6 @@
 
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
-#include "store/database/NameMatch.h"
 
 namespace kelvaro::store {
 
@@ -18,10 +17,6 @@ bool IsNumber(std::string_view text) {
 bool IsWithin(std::string_view text, double lowest, double highest) {
     const double number = NumberFromText(text);
     return number >= lowest && number <= highest;
-}
-
-bool BeginsWith(std::string_view text, std::string_view beginning) {
-    return SameName(text.substr(0, beginning.size()), beginning);
 }
 
 } // namespace kelvaro::store

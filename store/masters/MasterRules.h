@@ -1,7 +1,7 @@
 #pragma once
 
 #include "runtime/Notice.h"
-#include "runtime/Trimmed.h"
+#include "runtime/Texts.h"
 
 #include <cstddef>
 #include <optional>
@@ -49,8 +49,5 @@ bool IsNumber(std::string_view text);
 
 /// Whether the text is a number from the lowest to the highest, both included.
 bool IsWithin(std::string_view text, double lowest, double highest);
-
-/// Whether a text begins with another one without regard to the case of A to Z.
-bool BeginsWith(std::string_view text, std::string_view beginning);
 
 } // namespace kelvaro::store

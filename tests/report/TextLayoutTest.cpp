@@ -1,7 +1,6 @@
 #include "report/TextLayout.h"
 
 #include "runtime/RuntimeError.h"
-#include "runtime/Trimmed.h"
 
 #include <gtest/gtest.h>
 
@@ -46,11 +45,6 @@ TEST(TextLayoutTest, TakesAFieldFromTheMiddle) {
     EXPECT_EQ(FieldFrom("राशि", 5, 2), "  ");
     EXPECT_EQ(FieldFrom("", 9, 2), "  ");
     EXPECT_THROW(FieldFrom("abc", 0, 2), OverflowError);
-}
-
-TEST(TextLayoutTest, TrimsBlanksOnly) {
-    EXPECT_EQ(Trimmed("  a b "), "a b");
-    EXPECT_EQ(Trimmed("   "), "");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Texts.h"
 
 #include <nlohmann/json.hpp>
 
@@ -107,12 +108,6 @@ const json &Required(const json &birth, const char *key) {
     return *found;
 }
 
-std::string Trimmed(const std::string &text) {
-    const auto first = text.find_first_not_of(" \t");
-    return first == std::string::npos ? std::string()
-                                      : text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 std::optional<double> AsNumber(const json &value) {
     if (value.is_number()) {
         return value.get<double>();
@@ -142,7 +137,7 @@ std::optional<int> WholeFromDigits(const std::string &digits) {
 /// number. Empty for any other value.
 std::string EntryText(const json &value) {
     if (value.is_string()) {
-        return Trimmed(value.get_ref<const std::string &>());
+        return std::string(Trimmed(value.get_ref<const std::string &>()));
     }
     if (value.is_number() && value.get<double>() == std::trunc(value.get<double>())) {
         return NumberText(value.get<double>());
