@@ -59,6 +59,20 @@ double NumberFromText(std::string_view text) {
     return value;
 }
 
+bool IsNumber(std::string_view text) {
+    try {
+        NumberFromText(text);
+        return true;
+    } catch (const ConversionError &) {
+        return false;
+    }
+}
+
+bool IsWithin(std::string_view text, double lowest, double highest) {
+    const double number = NumberFromText(text);
+    return number >= lowest && number <= highest;
+}
+
 std::string NumberText(double value) {
     std::array<char, 40> buffer{};
     // Adding zero rids a negative zero of its sign.

@@ -25,6 +25,13 @@ std::int32_t ToInt32(double value);
 /// Raises ConversionError, which quotes the text, for anything else, infinities and NaN included.
 double NumberFromText(std::string_view text);
 
+/// Whether `NumberFromText` reads the text.
+bool IsNumber(std::string_view text);
+
+/// Whether a number is one from the lowest to the highest, both included. Raises ConversionError for a text
+/// that is no number.
+bool IsWithin(std::string_view text, double lowest, double highest);
+
 /// A number in its default text form: up to fifteen significant digits, no trailing zeros ("5.5", "78",
 /// "-0.25").
 std::string NumberText(double value);

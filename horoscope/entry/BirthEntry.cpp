@@ -2,45 +2,33 @@
 
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
-#include "horoscope/entry/DateAndTimeTests.h"
+#include "horoscope/entry/DateAndTimeRules.h"
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
-#include "runtime/Texts.h"
-
-#include <algorithm>
 
 namespace kelvaro {
 
-namespace {
-
-struct Test {
-    bool (*fails)(const BirthFields &);
-    std::string_view message, focus;
-};
-
 /// The last three keep a typed text that names no row from going with the place or the offset of another one.
-constexpr std::array<Test, 16> tests{{
-    {[](const BirthFields &f) { return IsBlank(f.Txt_VC_ChartName); }, "Enter Name", "Txt_VC_ChartName"},
-    {[](const BirthFields &f) { return IsBlank(f.txt_Date); }, "Enter Date of Birth", "txt_Date"},
-    {[](const BirthFields &f) { return IsBlank(f.txt_Month); }, "Enter Month", "txt_Month"},
-    {[](const BirthFields &f) { return IsBlank(f.txt_Year); }, "Enter Year", "txt_Year"},
+constexpr std::array<Rule<BirthFields>, 16> birthRules{{
+    {LacksText<&BirthFields::Txt_VC_ChartName>, "Enter Name", "Txt_VC_ChartName"},
+    {LacksText<&BirthFields::txt_Date>, "Enter Date of Birth", "txt_Date"},
+    {LacksText<&BirthFields::txt_Month>, "Enter Month", "txt_Month"},
+    {LacksText<&BirthFields::txt_Year>, "Enter Year", "txt_Year"},
     {IsNoYear, "Enter Year Between 1800 and 3000", "txt_Year"},
     {IsNoDate, "Enter Correct Date", ""},
-    {[](const BirthFields &f) { return IsBlank(f.cbHour); }, "Enter Correct Time", "cbHour"},
-    {[](const BirthFields &f) { return IsBlank(f.cbMins); }, "Enter Correct Time", "cbMins"},
+    {LacksText<&BirthFields::cbHour>, "Enter Correct Time", "cbHour"},
+    {LacksText<&BirthFields::cbMins>, "Enter Correct Time", "cbMins"},
     // Hours of a 24-hour clock pass, though the hour is one of twelve.
     {[](const BirthFields &f) { return IsOutside(f.cbHour, 24); }, "Enter Correct Time", "cbHour"},
     {[](const BirthFields &f) { return IsOutside(f.cbMins, 59); }, "Enter Correct Time", "cbMins"},
-    {[](const BirthFields &f) { return IsBlank(f.txt_VC_Country); }, "Select Country", "txt_VC_Country"},
-    {[](const BirthFields &f) { return IsBlank(f.txt_VC_City); }, "Select City", "txt_VC_City"},
-    {[](const BirthFields &f) { return IsBlank(f.cbTimeZone); }, "Select Timezone", "cbTimeZone"},
-    {[](const BirthFields &f) { return f.txt_VC_Country != f.countryOfId; }, "Select Country",
+    {LacksText<&BirthFields::txt_VC_Country>, "Select Country", "txt_VC_Country"},
+    {LacksText<&BirthFields::txt_VC_City>, "Select City", "txt_VC_City"},
+    {LacksText<&BirthFields::cbTimeZone>, "Select Timezone", "cbTimeZone"},
+    {[](const BirthFields &f) { return f.txt_VC_Country != f.chosen.country; }, "Select Country",
      "txt_VC_Country"},
-    {[](const BirthFields &f) { return f.txt_VC_City != f.cityOfPlace; }, "Select City", "txt_VC_City"},
-    {[](const BirthFields &f) { return f.cbTimeZone != f.zoneOfOffset; }, "Select Timezone", "cbTimeZone"},
+    {[](const BirthFields &f) { return f.txt_VC_City != f.chosen.city; }, "Select City", "txt_VC_City"},
+    {[](const BirthFields &f) { return f.cbTimeZone != f.chosen.zone; }, "Select Timezone", "cbTimeZone"},
 }};
-
-} // namespace
 
 void TakePlace(const store::Place &place, BirthFields &fields) {
     fields.txt_VC_LatDeg = place.latDeg;
@@ -51,12 +39,12 @@ void TakePlace(const store::Place &place, BirthFields &fields) {
     fields.txt_VC_LonEW = place.lonEW;
     fields.txtLatDetails = NumberText(place.latDeg) + " " + place.latNS + " " + NumberText(place.latMin);
     fields.txtLonDetails = NumberText(place.lonDeg) + " " + place.lonEW + " " + NumberText(place.lonMin);
-    fields.cityOfPlace = fields.txt_VC_City;
+    fields.chosen.city = fields.txt_VC_City;
 }
 
 void TakeZone(const store::Zone &zone, BirthFields &fields) {
     fields.cbTimeZone = zone.text;
-    fields.zoneOfOffset = zone.text;
+    fields.chosen.zone = zone.text;
     fields.txt_VC_TimeDiff = zone.hours;
     fields.txt_VC_TimeDiffEW = zone.direction;
 }
@@ -80,12 +68,10 @@ void ClearFields(BirthFields &fields) {
     for (std::string *text :
          {&fields.Txt_VC_ChartName, &fields.cbGender, &fields.txt_Date, &fields.txt_Month, &fields.txt_Year,
           &fields.cbHour, &fields.cbMins, &fields.txt_VC_Country, &fields.txt_VC_City, &fields.cbTimeZone,
-          &fields.txtLatDetails, &fields.txtLonDetails, &fields.countryOfId, &fields.cityOfPlace,
-          &fields.zoneOfOffset}) {
+          &fields.txtLatDetails, &fields.txtLonDetails}) {
         text->clear();
     }
-    fields.countryId = 0;
-    fields.chosenZone = 0;
+    fields.chosen = {};
     fields.isOpenedFromNoon = false;
 }
 
@@ -112,13 +98,9 @@ PlaceChoices ChooseCountry(BirthFields &fields, const store::ListItem &country,
     }
     PlaceChoices choices{lists.CitiesOf(country.key), lists.ZonesOf(country.key)};
     fields.txt_VC_Country = country.text;
-    fields.countryOfId = country.text;
-    fields.countryId = country.key;
     fields.txt_VC_City.clear();
-    fields.cityOfPlace.clear();
     fields.cbTimeZone.clear();
-    fields.zoneOfOffset.clear();
-    fields.chosenZone = 0;
+    fields.chosen = {country.text, {}, {}, country.key, 0};
     if (choices.zones.size() == 1) {
         ChooseZone(fields, choices.zones.front().number, lists, state);
     }
@@ -137,17 +119,13 @@ void ChooseCity(BirthFields &fields, const store::PlaceLists &lists) {
 void ChooseZone(BirthFields &fields, std::int32_t zoneNumber, const store::PlaceLists &lists,
                 const HoroscopeState &state) {
     TakeZone(lists.ZoneNumbered(zoneNumber), fields);
-    fields.chosenZone = zoneNumber;
+    fields.chosen.zoneNumber = zoneNumber;
     fields.txt_VC_Ayanamsa = state.preferences.AyanamsaName;
 }
 
-std::optional<Notice> TestBirth(const BirthFields &fields) {
-    const auto failed =
-        std::ranges::find_if(tests, [&fields](const Test &test) { return test.fails(fields); });
-    if (failed == tests.end()) {
-        return std::nullopt;
-    }
-    return Notice{std::string(failed->message), Notice::Icon::Information, std::string(failed->focus)};
+Site SiteOf(const BirthFields &fields) {
+    return {fields.txt_VC_LatDeg, fields.txt_VC_LatMin, fields.txt_VC_LatNS,    fields.txt_VC_LonDeg,
+            fields.txt_VC_LonMin, fields.txt_VC_LonEW,  fields.txt_VC_TimeDiff, fields.txt_VC_TimeDiffEW};
 }
 
 void HandOver(const BirthFields &fields, HoroscopeState &state) {
@@ -165,21 +143,14 @@ void HandOver(const BirthFields &fields, HoroscopeState &state) {
     state.birth.BirthCity = fields.txt_VC_City;
     state.birth.BirthCountry = fields.txt_VC_Country;
     state.preferences.AyanamsaInForce = state.preferences.AyanamsaName;
-    state.site.LatDeg = fields.txt_VC_LatDeg;
-    state.site.LatNS = fields.txt_VC_LatNS;
-    state.site.LatMin = fields.txt_VC_LatMin;
-    state.site.LonDeg = fields.txt_VC_LonDeg;
-    state.site.LonEW = fields.txt_VC_LonEW;
-    state.site.LonMin = fields.txt_VC_LonMin;
-    state.site.TimeDiff = fields.txt_VC_TimeDiff;
-    state.site.TimeDiffEW = fields.txt_VC_TimeDiffEW;
+    state.site = SiteOf(fields);
 }
 
 std::optional<Notice> AcceptBirth(const BirthFields &fields, Horoscope &horoscope) {
     if (horoscope.isCalculating) {
         return std::nullopt;
     }
-    if (auto notice = TestBirth(fields)) {
+    if (auto notice = FirstBroken(birthRules, fields)) {
         return notice;
     }
     HandOver(fields, horoscope.state);

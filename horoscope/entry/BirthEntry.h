@@ -1,7 +1,8 @@
 #pragma once
 
+#include "astronomy/Site.h"
 #include "runtime/Moment.h"
-#include "runtime/Notice.h"
+#include "runtime/Rule.h"
 #include "store/masters/PlaceLists.h"
 
 #include <array>
@@ -39,11 +40,15 @@ struct BirthFields {
     std::string txt_VC_TimeDiffEW;
     std::string txt_VC_Ayanamsa; ///< the ayanamsa in force when a zone was chosen
 
-    // A combo box takes any text. These are the texts for which the list rows, the place and the offset above
-    // were found; another text in the box has not been chosen yet.
-    std::string countryOfId, cityOfPlace, zoneOfOffset;
-    std::int32_t countryId = 0;    ///< of the chosen row of txt_VC_Country; 0 where none is chosen
-    std::int32_t chosenZone = 0;   ///< of the chosen row of cbTimeZone; 0 where none is chosen
+    /// A combo box takes any text. These are the texts for which the rows of the lists, the place and the
+    /// offset above were found; another text in the box has not been chosen yet.
+    struct Chosen {
+        std::string country, city, zone;
+        std::int32_t countryId = 0;  ///< of the row of txt_VC_Country; 0 where none is chosen
+        std::int32_t zoneNumber = 0; ///< of the row of cbTimeZone; 0 where none is chosen
+
+        friend bool operator==(const Chosen &, const Chosen &) = default;
+    } chosen;
     bool isOpenedFromNoon = false; ///< the stored hour was 12, which the form shows as 12 AM
 
     friend bool operator==(const BirthFields &, const BirthFields &) = default;
@@ -92,17 +97,20 @@ void TakePlace(const store::Place &place, BirthFields &fields);
 /// Takes text, offset and direction of a zone over.
 void TakeZone(const store::Zone &zone, BirthFields &fields);
 
-/// The tests of the fields, in their order; the first that fails is told. Raises ConversionError for a year,
-/// an hour or a minute that is no number.
-std::optional<Notice> TestBirth(const BirthFields &fields);
+/// The place of the fields and the offset of its zone.
+Site SiteOf(const BirthFields &fields);
+
+/// The rules of the fields, in their order. They raise ConversionError for a year, an hour or a minute that
+/// is no number.
+extern const std::array<Rule<BirthFields>, 16> birthRules;
 
 /// Puts the birth in force, without computing. Raises ConversionError, with the record as it was, for a time
 /// that does not exist.
 void HandOver(const BirthFields &fields, HoroscopeState &state);
 
-/// "&OK": tests the fields, puts the birth in force and computes its horoscope; the run hides the form.
-/// Returns what is to be told when a test fails, with nothing changed. Does nothing while another horoscope
-/// is being computed. Raises like `TestBirth` and `HandOver`.
+/// "&OK": checks the fields, puts the birth in force and computes its horoscope; the run hides the form.
+/// Returns what is to be told when a rule is broken, with nothing changed. Does nothing while another
+/// horoscope is being computed. Raises like the rules and `HandOver`.
 std::optional<Notice> AcceptBirth(const BirthFields &fields, Horoscope &horoscope);
 
 } // namespace kelvaro

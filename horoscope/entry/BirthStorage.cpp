@@ -13,6 +13,9 @@ namespace kelvaro {
 
 namespace {
 
+/// Of the rule that asks for a name.
+const std::string_view nameField = birthRules.front().focus;
+
 store::Place PlaceOf(const BirthFields &fields) {
     return {fields.txt_VC_LatDeg, fields.txt_VC_LatMin, fields.txt_VC_LatNS,
             fields.txt_VC_LonDeg, fields.txt_VC_LonMin, fields.txt_VC_LonEW};
@@ -23,7 +26,7 @@ store::ChartToSave NewChart(const BirthFields &fields, Moment birth) {
     chart.Txt_SC_ChartName = fields.Txt_VC_ChartName;
     chart.SC_ChartName = fields.Txt_VC_ChartName;
     chart.SC_Gender = fields.cbGender == "Male" ? "Male" : "Female";
-    chart.SC_Country = std::to_string(fields.countryId);
+    chart.SC_Country = std::to_string(fields.chosen.countryId);
     chart.SC_City = fields.txt_VC_City;
     chart.SC_Date = birth;
     chart.SC_Time = birth;
@@ -33,7 +36,7 @@ store::ChartToSave NewChart(const BirthFields &fields, Moment birth) {
     chart.SC_LonDeg = fields.txt_VC_LonDeg;
     chart.SC_LonEW = fields.txt_VC_LonEW;
     chart.SC_LonMin = fields.txt_VC_LonMin;
-    chart.SC_TimeDiff = fields.chosenZone;
+    chart.SC_TimeDiff = fields.chosen.zoneNumber;
     return chart;
 }
 
@@ -45,7 +48,7 @@ store::StoredChart ChangedChart(const BirthFields &fields, Moment birth) {
     chart.ChartName =
         store::NameWithDate(fields.Txt_VC_ChartName, fields.txt_Date, fields.txt_Month, fields.txt_Year);
     chart.Gender = fields.cbGender;
-    chart.Country = fields.countryId;
+    chart.Country = fields.chosen.countryId;
     chart.City = fields.txt_VC_City;
     chart.ChartDay = parts.date.day;
     chart.ChartMonth = parts.date.month;
@@ -53,7 +56,8 @@ store::StoredChart ChangedChart(const BirthFields &fields, Moment birth) {
     chart.ChartHour = parts.clock.hour;
     chart.ChartMinute = parts.clock.minute;
     chart.place = PlaceOf(fields);
-    chart.TimeDifference = fields.chosenZone == 0 ? fields.txt_VC_TimeDiffId : fields.chosenZone;
+    const std::int32_t zone = fields.chosen.zoneNumber;
+    chart.TimeDifference = zone == 0 ? fields.txt_VC_TimeDiffId : zone;
     return chart;
 }
 
@@ -63,14 +67,14 @@ Notice InsertBirth(BirthFields &fields, Moment birth, store::Connection &connect
     store::Transaction transaction(connection);
     store::SavedOrNot outcome = charts.SC_SaveChart(NewChart(fields, birth));
     if (!outcome.isSaved) {
-        outcome.notice.focus = "Txt_VC_ChartName";
+        outcome.notice.focus = nameField;
         return outcome.notice;
     }
     const std::int32_t number = charts.NewestNumber();
     transaction.Commit();
     fields.txt_VC_UserId = number;
     try {
-        KeepLastChart(fields, settings);
+        KeepLastChart(LastChartOf(fields), settings);
     } catch (const RuntimeError &error) {
         throw RuntimeError(std::string("The chart is saved, but it will not come back at the next start. ") +
                            error.what());
@@ -84,7 +88,14 @@ Notice UpdateBirth(const BirthFields &fields, Moment birth, store::Connection &c
     store::ChartStore(connection).Update(ChangedChart(fields, birth));
     // The settings come before the row, which stands only with the commit, but not before the database has
     // taken the row's values: a chart that has gone must not become the last chart.
-    KeepLastChartAround([&transaction] { transaction.Commit(); }, fields, settings);
+    const LastChart before = LastChartIn(settings);
+    KeepLastChart(LastChartOf(fields), settings);
+    try {
+        transaction.Commit();
+    } catch (...) {
+        KeepLastChart(before, settings);
+        throw;
+    }
     return {"Details are Sucessfully Updated", Notice::Icon::None};
 }
 
@@ -103,7 +114,7 @@ void TakeHour(std::int32_t hour, BirthFields &fields) {
 } // namespace
 
 Notice SaveBirth(BirthFields &fields, store::Connection &connection, SettingsStore &settings) {
-    if (auto notice = TestBirth(fields)) {
+    if (auto notice = FirstBroken(birthRules, fields)) {
         return *std::move(notice);
     }
     const Moment birth = MomentOfBirth(fields);
@@ -137,7 +148,7 @@ OpenedBirth OpenBirth(const store::ListItem &chart, store::Connection &connectio
     TakePlace(stored.place, fields);
     if (stored.TimeDifference) {
         TakeZone(lists.ZoneNumbered(*stored.TimeDifference), fields);
-        fields.chosenZone = 0;
+        fields.chosen.zoneNumber = 0;
         fields.txt_VC_TimeDiffId = *stored.TimeDifference;
     }
     return opened;
@@ -158,7 +169,7 @@ bool CanDeleteFromToolbar(const BirthFields &fields) {
 Notice DeleteBirth(BirthFields &fields, store::Connection &connection) {
     store::ChartStore(connection).Delete(fields.txt_VC_UserId);
     ClearFields(fields);
-    return {"Successfully Deleted", Notice::Icon::Information, "Txt_VC_ChartName"};
+    return {"Successfully Deleted", Notice::Icon::Information, std::string(nameField)};
 }
 
 } // namespace kelvaro

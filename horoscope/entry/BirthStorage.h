@@ -13,7 +13,7 @@ struct OpenedBirth {
     PlaceChoices choices;
 };
 
-/// "&Save": tests the fields and stores them, as a new chart or over the saved one, and as the last chart in
+/// "&Save": checks the fields and stores them, as a new chart or over the saved one, and as the last chart in
 /// the settings. Returns what is to be told in either case. The horoscope in force stays. Raises StoreError
 /// or ConversionError with database, settings and fields as they were, and RuntimeError for settings that
 /// cannot be written: a saved chart then keeps its row, a new one is stored all the same.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -32,13 +32,16 @@ public:
 /// comes in force, and the words for the status bar are returned; they are empty otherwise.
 std::string RestoreLastChart(SettingsStore &settings, HoroscopeState &state);
 
-/// Writes all eighteen keys together. Raises ConversionError for an hour that is no number, and RuntimeError
-/// where the settings cannot be written, with nothing written.
-void KeepLastChart(const BirthFields &fields, SettingsStore &settings);
+/// The texts of the eighteen keys, in their order.
+using LastChart = std::array<std::string, 18>;
 
-/// Does the same around some work that may fail: the keys are written first, and where the work raises they
-/// get back what they held, a missing key its part of the sample chart. Raises what the work raises.
-void KeepLastChartAround(const std::function<void()> &work, const BirthFields &fields,
-                         SettingsStore &settings);
+/// Raises ConversionError for an hour that is no number.
+LastChart LastChartOf(const BirthFields &fields);
+
+/// What the settings hold; a key that is missing counts as that of the sample chart.
+LastChart LastChartIn(SettingsStore &settings);
+
+/// Writes all keys together. Raises RuntimeError where the settings cannot be written, with nothing written.
+void KeepLastChart(const LastChart &chart, SettingsStore &settings);
 
 } // namespace kelvaro

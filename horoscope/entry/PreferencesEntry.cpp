@@ -1,9 +1,9 @@
 #include "horoscope/entry/PreferencesEntry.h"
 
+#include "astronomy/Ayanamsa.h"
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
 #include "runtime/Numbers.h"
-#include "runtime/RuntimeError.h"
 
 #include <algorithm>
 #include <span>
@@ -24,47 +24,8 @@ std::string ValueOf(Choices choices, std::string_view text) {
     return std::string(found == choices.end() ? text : found->value);
 }
 
-std::optional<double> NumberIn(const std::string &text) {
-    try {
-        return NumberFromText(text);
-    } catch (const ConversionError &) {
-        return std::nullopt;
-    }
-}
-
-/// The tests of the custom ayanamsa; the first that fails is told.
-std::optional<Notice> TestCustom(const PreferenceFields &fields) {
-    const auto notice = [](const char *text, const char *focus) {
-        return Notice{text, Notice::Icon::Information, focus};
-    };
-    if (fields.txtZero.empty()) {
-        return notice("Enter Zero Year", "txtZero");
-    }
-    if (fields.txtPogression.empty()) {
-        return notice("Enter Progression", "txtPogression");
-    }
-    const auto zeroYear = NumberIn(fields.txtZero);
-    if (!zeroYear) {
-        return notice("Enter Year in Number", "txtZero");
-    }
-    const auto progress = NumberIn(fields.txtPogression);
-    if (!progress) {
-        return notice("Enter Progression in Number ", "txtPogression");
-    }
-    // The limit is this year and not that of the clock, whatever the message says.
-    if (*zeroYear > 2003) {
-        return notice("Enter Zero Year Less than current Year ", "txtZero");
-    }
-    if (*zeroYear < 0) {
-        return notice("Enter Positive Zero Year ", "txtZero");
-    }
-    if (*progress < 0) {
-        return notice("Enter Positive Progression ", "txtPogression");
-    }
-    if (*progress > 1000) {
-        return notice("Enter Progression less than 1000", "txtPogression");
-    }
-    return std::nullopt;
+template <auto text, const auto &choices> bool IsNoChoice(const PreferenceFields &fields) {
+    return std::ranges::find(choices, fields.*text, &PreferenceChoice::text) == choices.end();
 }
 
 store::OnLoadClass PreferencesIn(const PreferenceFields &fields) {
@@ -75,43 +36,50 @@ store::OnLoadClass PreferencesIn(const PreferenceFields &fields) {
     preferences.clsChart_Type = ValueOf(chartChoices, fields.cbChart);
     preferences.clsLanguage = ValueOf(languageChoices, fields.cbLanguage);
     // A custom year that is not in force must not stay behind.
-    const bool isCustom = preferences.clsAyanamsa == "Custom";
+    const bool isCustom = IsCustom(fields);
     preferences.clsYear = isCustom ? NumberFromText(fields.txtZero) : 0;
     preferences.clsProgress = isCustom ? NumberFromText(fields.txtPogression) : 0;
     return preferences;
 }
 
-/// A combo box takes any text; one that is no choice must not become a preference.
-std::optional<Notice> TestChoices(const PreferenceFields &fields) {
-    struct Combo {
-        Choices choices;
-        const std::string &text;
-        const char *control;
-        const char *label;
-    };
-    for (const Combo &combo : {Combo{ayanamsaChoices, fields.cbAyanamsa, "cbAyanamsa", "Ayanamsa"},
-                               Combo{dayChoices, fields.Cbdays, "Cbdays", "Days in a Year"},
-                               Combo{bhavaChoices, fields.cbBhava, "cbBhava", "Bhava"},
-                               Combo{chartChoices, fields.cbChart, "cbChart", "Chart Style"},
-                               Combo{languageChoices, fields.cbLanguage, "cbLanguage", "Language"}}) {
-        if (std::ranges::find(combo.choices, combo.text, &PreferenceChoice::text) == combo.choices.end()) {
-            return Notice{std::string("Choose one of the list for ") + combo.label, Notice::Icon::Information,
-                          combo.control};
-        }
-    }
-    return std::nullopt;
-}
-
-std::optional<Notice> TestFields(const PreferenceFields &fields) {
-    if (ValueOf(ayanamsaChoices, fields.cbAyanamsa) == "Custom") {
-        if (auto notice = TestCustom(fields)) {
-            return notice;
-        }
-    }
-    return TestChoices(fields);
+std::optional<Notice> FirstBrokenOf(const PreferenceFields &fields) {
+    auto notice = IsCustom(fields) ? FirstBroken(customRules, fields) : std::nullopt;
+    return notice ? notice : FirstBroken(choiceRules, fields);
 }
 
 } // namespace
+
+constexpr std::array<Rule<PreferenceFields>, 8> customRules{{
+    {[](const PreferenceFields &f) { return f.txtZero.empty(); }, "Enter Zero Year", "txtZero"},
+    {[](const PreferenceFields &f) { return f.txtPogression.empty(); }, "Enter Progression", "txtPogression"},
+    {LacksNumber<&PreferenceFields::txtZero>, "Enter Year in Number", "txtZero"},
+    {LacksNumber<&PreferenceFields::txtPogression>, "Enter Progression in Number ", "txtPogression"},
+    // The limit is this year and not that of the clock, whatever the message says.
+    {[](const PreferenceFields &f) { return NumberFromText(f.txtZero) > 2003; },
+     "Enter Zero Year Less than current Year ", "txtZero"},
+    {[](const PreferenceFields &f) { return NumberFromText(f.txtZero) < 0; }, "Enter Positive Zero Year ",
+     "txtZero"},
+    {[](const PreferenceFields &f) { return NumberFromText(f.txtPogression) < 0; },
+     "Enter Positive Progression ", "txtPogression"},
+    {[](const PreferenceFields &f) { return NumberFromText(f.txtPogression) > 1000; },
+     "Enter Progression less than 1000", "txtPogression"},
+}};
+
+constexpr std::array<Rule<PreferenceFields>, 5> choiceRules{{
+    {IsNoChoice<&PreferenceFields::cbAyanamsa, ayanamsaChoices>, "Choose one of the list for Ayanamsa",
+     "cbAyanamsa"},
+    {IsNoChoice<&PreferenceFields::Cbdays, dayChoices>, "Choose one of the list for Days in a Year",
+     "Cbdays"},
+    {IsNoChoice<&PreferenceFields::cbBhava, bhavaChoices>, "Choose one of the list for Bhava", "cbBhava"},
+    {IsNoChoice<&PreferenceFields::cbChart, chartChoices>, "Choose one of the list for Chart Style",
+     "cbChart"},
+    {IsNoChoice<&PreferenceFields::cbLanguage, languageChoices>, "Choose one of the list for Language",
+     "cbLanguage"},
+}};
+
+bool IsCustom(const PreferenceFields &fields) {
+    return AyanamsaOf(ValueOf(ayanamsaChoices, fields.cbAyanamsa)) == Ayanamsa::Custom;
+}
 
 PreferenceFields FieldsOfPreferences(const store::OnLoadClass &preferences) {
     return {TextOf(ayanamsaChoices, preferences.clsAyanamsa),
@@ -124,20 +92,18 @@ PreferenceFields FieldsOfPreferences(const store::OnLoadClass &preferences) {
 }
 
 void PutPreferencesInForce(const store::OnLoadClass &preferences, HoroscopeState &state) {
-    state.preferences.DaysInYear = preferences.clsDays_in_a_Year;
-    state.preferences.AyanamsaName = preferences.clsAyanamsa;
-    state.preferences.AyanamsaInForce = preferences.clsAyanamsa;
-    state.preferences.BhavaSystem = preferences.clsBhava;
-    state.preferences.ChartStyle = preferences.clsChart_Type;
-    state.preferences.Language = preferences.clsLanguage;
-    state.preferences.PrefProgress = preferences.clsProgress;
-    state.preferences.ProgressInForce = preferences.clsProgress;
-    state.preferences.PrefYear = preferences.clsYear;
-    state.preferences.YearInForce = preferences.clsYear;
+    Preferences &inForce = state.preferences;
+    inForce.DaysInYear = preferences.clsDays_in_a_Year;
+    inForce.AyanamsaName = inForce.AyanamsaInForce = preferences.clsAyanamsa;
+    inForce.BhavaSystem = preferences.clsBhava;
+    inForce.ChartStyle = preferences.clsChart_Type;
+    inForce.Language = preferences.clsLanguage;
+    inForce.PrefProgress = inForce.ProgressInForce = preferences.clsProgress;
+    inForce.PrefYear = inForce.YearInForce = preferences.clsYear;
 }
 
 std::optional<Notice> SavePreferences(const PreferenceFields &fields, Horoscope &horoscope) {
-    if (auto notice = TestFields(fields)) {
+    if (auto notice = FirstBrokenOf(fields)) {
         return notice;
     }
     const store::OnLoadClass preferences = PreferencesIn(fields);
@@ -148,7 +114,7 @@ std::optional<Notice> SavePreferences(const PreferenceFields &fields, Horoscope 
 }
 
 std::optional<Notice> ApplyPreferences(const PreferenceFields &fields, Horoscope &horoscope) {
-    if (auto notice = TestFields(fields)) {
+    if (auto notice = FirstBrokenOf(fields)) {
         return notice;
     }
     store::OnLoadClass preferences = PreferencesIn(fields);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/Notice.h"
+#include "runtime/Rule.h"
 #include "store/masters/OnLoadClass.h"
 
 #include <array>
@@ -48,15 +48,23 @@ struct PreferenceFields {
     std::string txtZero, txtPogression;
 };
 
+/// The rules of the custom ayanamsa, which hold only while it is chosen, and those after them for all
+/// choices: a combo box takes any text, and one that is no choice must not become a preference.
+extern const std::array<Rule<PreferenceFields>, 8> customRules;
+extern const std::array<Rule<PreferenceFields>, 5> choiceRules;
+
+/// Whether the custom ayanamsa is chosen.
+bool IsCustom(const PreferenceFields &fields);
+
 /// The fields for a stored row. A value that is no choice shows as it is.
 PreferenceFields FieldsOfPreferences(const store::OnLoadClass &preferences);
 
 /// Copies preferences into the record, the ayanamsa also into the birth details in force.
 void PutPreferencesInForce(const store::OnLoadClass &preferences, HoroscopeState &state);
 
-/// Tests the fields, stores them, puts them in force and computes the horoscope anew. Returns what is to be
-/// told when a test fails, with nothing stored and nothing changed. Raises StoreError when the row cannot be
-/// written.
+/// Checks the fields, stores them, puts them in force and computes the horoscope anew. Returns what is to be
+/// told when a rule is broken, with nothing stored and nothing changed. Raises StoreError when the row cannot
+/// be written.
 std::optional<Notice> SavePreferences(const PreferenceFields &fields, Horoscope &horoscope);
 
 /// The same without storing; the bhava system stays as it is in force.

@@ -1,79 +1,53 @@
 #include "horoscope/entry/TimeConverters.h"
 
-#include "horoscope/entry/DateAndTimeTests.h"
+#include "horoscope/entry/DateAndTimeRules.h"
 #include "panchanga/day/IshtaGhati.h"
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
-#include "runtime/RuntimeError.h"
-#include "runtime/Texts.h"
-
-#include <algorithm>
 
 namespace kelvaro {
 
 namespace {
 
-enum class Asked { Clock, Ghatis };
+using ConverterRules = std::array<Rule<BirthFields>, 12>;
+using IsBroken = bool (*)(const BirthFields &);
 
-constexpr double highestHour = 24; // as the form of birth details has it
-constexpr double highestGhati = 60;
-constexpr double highestMinute = 59;
-
-bool IsNoYearOrNoNumber(const BirthFields &fields) {
-    try {
-        return IsNoYear(fields);
-    } catch (const ConversionError &) {
-        return true;
-    }
-}
-
-struct Test {
-    bool (*fails)(const BirthFields &, Asked);
-    std::string_view message, focus;
-};
-
-/// A place that was typed and names no row of its list has not been chosen.
-constexpr std::array<Test, 12> tests{{
-    {[](const BirthFields &f, Asked) { return IsBlank(f.txt_Date); }, "Enter Date", "txt_Date"},
-    {[](const BirthFields &f, Asked) { return IsBlank(f.txt_Month); }, "Enter Month", "txt_Month"},
-    {[](const BirthFields &f, Asked) { return IsBlank(f.txt_Year); }, "Enter Year", "txt_Year"},
-    {[](const BirthFields &f, Asked) { return IsNoYearOrNoNumber(f); }, "Enter Year Between 1800 and 3000",
-     "txt_Year"},
-    // With ghatis the date is not tested: one that does not exist is told when it is read.
-    {[](const BirthFields &f, Asked asked) { return asked == Asked::Clock && IsNoDate(f); },
-     "Enter Correct Date", ""},
-    {[](const BirthFields &f, Asked) { return IsBlank(f.cbHour); }, "Enter Correct Time", "cbHour"},
-    {[](const BirthFields &f, Asked) { return IsBlank(f.cbMins); }, "Enter Correct Time", "cbMins"},
-    {[](const BirthFields &f, Asked asked) {
-         return IsOutside(f.cbHour, asked == Asked::Clock ? highestHour : highestGhati);
-     },
-     "Enter Correct Time", "cbHour"},
-    {[](const BirthFields &f, Asked) { return IsOutside(f.cbMins, highestMinute); }, "Enter Correct Time",
-     "cbMins"},
-    {[](const BirthFields &f, Asked) {
-         return IsBlank(f.txt_VC_Country) || f.txt_VC_Country != f.countryOfId;
-     },
-     "Select Country", "Cmb_VP_Country"},
-    {[](const BirthFields &f, Asked) { return IsBlank(f.txt_VC_City) || f.txt_VC_City != f.cityOfPlace; },
-     "Select City", "Cmb_VP_City"},
-    // The result would rest on another zone otherwise.
-    {[](const BirthFields &f, Asked) { return IsBlank(f.cbTimeZone) || f.cbTimeZone != f.zoneOfOffset; },
-     "Select Timezone", "cbTimeZone"},
-}};
-
-std::optional<Notice> FailureOf(const BirthFields &fields, Asked asked) {
-    const auto failed =
-        std::ranges::find_if(tests, [&](const Test &test) { return test.fails(fields, asked); });
-    if (failed == tests.end()) {
-        return std::nullopt;
-    }
-    return Notice{std::string(failed->message), Notice::Icon::Information, std::string(failed->focus)};
+/// The converters differ in the rules for the date and for what the list of hours takes.
+constexpr ConverterRules RulesWith(IsBroken isNoDate, IsBroken isHourOutside) {
+    // A place or a zone that was typed and names no row of its list has not been chosen.
+    return {{
+        {LacksText<&BirthFields::txt_Date>, "Enter Date", "txt_Date"},
+        {LacksText<&BirthFields::txt_Month>, "Enter Month", "txt_Month"},
+        {LacksText<&BirthFields::txt_Year>, "Enter Year", "txt_Year"},
+        {[](const BirthFields &f) { return !IsNumber(f.txt_Year) || IsNoYear(f); },
+         "Enter Year Between 1800 and 3000", "txt_Year"},
+        {isNoDate, "Enter Correct Date", ""},
+        {LacksText<&BirthFields::cbHour>, "Enter Correct Time", "cbHour"},
+        {LacksText<&BirthFields::cbMins>, "Enter Correct Time", "cbMins"},
+        {isHourOutside, "Enter Correct Time", "cbHour"},
+        {[](const BirthFields &f) { return IsOutside(f.cbMins, 59); }, "Enter Correct Time", "cbMins"},
+        {[](const BirthFields &f) {
+             return IsBlank(f.txt_VC_Country) || f.txt_VC_Country != f.chosen.country;
+         },
+         "Select Country", "Cmb_VP_Country"},
+        {[](const BirthFields &f) { return IsBlank(f.txt_VC_City) || f.txt_VC_City != f.chosen.city; },
+         "Select City", "Cmb_VP_City"},
+        {[](const BirthFields &f) { return IsBlank(f.cbTimeZone) || f.cbTimeZone != f.chosen.zone; },
+         "Select Timezone", "cbTimeZone"},
+    }};
 }
 
 } // namespace
 
+constexpr ConverterRules clockTimeRules =
+    RulesWith(IsNoDate, [](const BirthFields &f) { return IsOutside(f.cbHour, 24); });
+
+// With ghatis the date has no rule: one that does not exist is told when it is read.
+constexpr ConverterRules ghatiRules = RulesWith([](const BirthFields &) { return false; },
+                                                [](const BirthFields &f) { return IsOutside(f.cbHour, 60); });
+
 TimeConverters::Result TimeConverters::IshtaGhatiOfBirthTime(const BirthFields &fields) {
-    if (auto notice = FailureOf(fields, Asked::Clock)) {
+    if (auto notice = FirstBroken(clockTimeRules, fields)) {
         return *std::move(notice);
     }
     const Moment birth = MomentOfBirth(fields);
@@ -87,7 +61,7 @@ TimeConverters::Result TimeConverters::IshtaGhatiOfBirthTime(const BirthFields &
 }
 
 TimeConverters::Result TimeConverters::BirthTimeOfIshtaGhati(const BirthFields &fields) {
-    if (auto notice = FailureOf(fields, Asked::Ghatis)) {
+    if (auto notice = FirstBroken(ghatiRules, fields)) {
         return *std::move(notice);
     }
     const Moment sunrise = SunriseOf(ReadMoment(DateTextOf(fields)), fields);

@@ -8,15 +8,13 @@
 #include <functional>
 #include <memory>
 
-class QComboBox;
-class QMenu;
-
 namespace Ui {
 class frm_OpenChart;
 } // namespace Ui
 
 namespace kelvaro {
 
+class BirthPlaces;
 class ChartListDialog;
 class SettingsStore;
 
@@ -57,24 +55,13 @@ protected:
 private:
     struct Command;
 
-    void FillLists();
-    void PrepareLabels();
     void BuildMenu();
     void BuildToolbar();
     void ConnectFields();
 
     void Guard(const std::function<void()> &work);
     void Tell(const Notice &notice);
-    void GoToNextField();
-
-    void Read();
-    void Show();
-    void ShowRemark();
-
-    void ListPlaces(const PlaceChoices &choices);
-    void TakeCountry();
-    void TakeCity();
-    void TakeZone();
+    void Show(const PlaceChoices &choices);
     void TakePlaces();
 
     void Confirm();
@@ -89,9 +76,9 @@ private:
 
     Horoscope &horoscope_;
     SettingsStore &settings_;
-    store::PlaceLists lists_;
     BirthFields fields_;
     std::unique_ptr<Ui::frm_OpenChart> controls_;
+    std::unique_ptr<BirthPlaces> places_;
     std::unique_ptr<ChartListDialog> chartList_; ///< left over from an earlier opening, hidden
     QTimer secondClick_; ///< runs while a click may still be the second one of a double click in the list
     QWidget *firstField_ = nullptr; ///< takes the focus when the form is shown

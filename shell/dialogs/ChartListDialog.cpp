@@ -1,11 +1,11 @@
 #include "shell/dialogs/ChartListDialog.h"
 
 #include "horoscope/entry/BirthStorage.h"
+#include "shell/widgets/FormKeys.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/TextOf.h"
 #include "store/charts/ChartStore.h"
 #include "ui_ChartListDialog.h"
-
-#include <QKeyEvent>
 
 namespace kelvaro {
 
@@ -23,11 +23,11 @@ ChartListDialog::~ChartListDialog() = default;
 
 void ChartListDialog::fnFillChart() {
     const store::ChartList charts = store::ChartStore(connection_).fnFillChart(DataGen);
-    controls_->Lab_Details->setText(QString::fromStdString(charts.Lab_Details));
+    controls_->Lab_Details->setText(TextOf(charts.Lab_Details));
     QListWidget *list = controls_->List_VC_ChartName;
     list->clear();
     for (const store::ListItem &chart : charts.List_VC_ChartName) {
-        auto *row = new QListWidgetItem(QString::fromStdString(chart.text), list);
+        auto *row = new QListWidgetItem(TextOf(chart.text), list);
         row->setData(Qt::UserRole, chart.key);
     }
 }
@@ -52,8 +52,7 @@ bool ChartListDialog::eventFilter(QObject *watched, QEvent *event) {
 }
 
 void ChartListDialog::keyPressEvent(QKeyEvent *event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isEnter) {
+    if (!IsEnter(*event)) {
         QDialog::keyPressEvent(event);
     } else if (controls_->Cmd_Close->hasFocus()) {
         reject();

@@ -1,11 +1,9 @@
 #pragma once
 
-#include "shell/dialogs/MasterDialog.h"
+#include "shell/dialogs/PlaceMasterDialog.h"
 #include "store/masters/CityMaster.h"
 
 #include <memory>
-
-class QComboBox;
 
 namespace Ui {
 class frm_New_LatLon;
@@ -13,10 +11,8 @@ class frm_New_LatLon;
 
 namespace kelvaro {
 
-class MasterGrid;
-
 /// The dialog that adds, edits and finds cities.
-class CityDialog : public MasterDialog {
+class CityDialog : public PlaceMasterDialog {
     Q_OBJECT
 
 public:
@@ -38,23 +34,13 @@ private:
         QComboBox *lonEW;
     };
 
-    void FillLists(store::Connection &connection);
-    void ConnectChoices();
-    void ConnectButtons();
-    store::CityList ShowCities(const QComboBox *country, MasterGrid *grid) const;
-    void ShowEditedCountry();
     void ShowCity();
-    void Show(const store::CityFields &fields);
     static store::CityFields FieldsOf(const Entry &entry);
-    void Conclude(const store::Outcome &outcome);
-    void Refill();
-    void Find();
-    void FollowSearch();
+    store::Found Search();
 
     store::CityMaster master_;
     std::unique_ptr<Ui::frm_New_LatLon> controls_;
     Entry add_{}, edit_{};
-    store::CityList viewed_;
 };
 
 } // namespace kelvaro

@@ -1,8 +1,8 @@
 #include "shell/dialogs/CountryDialog.h"
 
+#include "shell/widgets/FormKeys.h"
+#include "shell/widgets/TextOf.h"
 #include "ui_CountryDialog.h"
-
-#include <QKeyEvent>
 
 namespace kelvaro {
 
@@ -18,8 +18,8 @@ CountryDialog::CountryDialog(store::Connection &connection, QWidget *parent)
     connect(controls_->lstEditBox, &QListWidget::itemSelectionChanged, this, &CountryDialog::ShowChosen);
     connect(controls_->lstEditBox, &QListWidget::itemClicked, this, &CountryDialog::ShowChosen);
     connect(controls_->TabStrip1, &QTabWidget::currentChanged, controls_->txtEdit, &QLineEdit::clear);
-    connect(controls_->cmdAddSave, &QPushButton::clicked, this, [this] { Guard([this] { Add(); }); });
-    connect(controls_->cmdEditUpdate, &QPushButton::clicked, this, [this] { Guard([this] { Rename(); }); });
+    OnPress(controls_->cmdAddSave, [this] { Add(); });
+    OnPress(controls_->cmdEditUpdate, [this] { Rename(); });
     connect(controls_->cmdAddCLose, &QPushButton::clicked, this, &QDialog::reject);
     controls_->txtSearch->setFocus();
 }
@@ -31,7 +31,7 @@ void CountryDialog::Fill() {
     for (SearchLine &search : searches_) {
         search.list->clear();
         for (const store::ListItem &country : countries_) {
-            auto *item = new QListWidgetItem(QString::fromStdString(country.text), search.list);
+            auto *item = new QListWidgetItem(TextOf(country.text), search.list);
             item->setData(Qt::UserRole, country.key);
         }
         search.answered.clear();
@@ -72,9 +72,7 @@ void CountryDialog::ShowChosen() {
 }
 
 void CountryDialog::Add() {
-    const store::Outcome outcome = master_.Add(controls_->txtAddName->text().toStdString());
-    Tell(outcome.notice);
-    if (outcome.isStored) {
+    if (Conclude(master_.Add(controls_->txtAddName->text().toStdString()))) {
         Fill();
     }
 }
@@ -84,9 +82,7 @@ void CountryDialog::Rename() {
     for (const QListWidgetItem *item : controls_->lstEditBox->selectedItems()) {
         chosen = {item->text().toStdString(), item->data(Qt::UserRole).toInt()};
     }
-    const store::Outcome outcome = master_.Rename(chosen, controls_->txtEdit->text().toStdString());
-    Tell(outcome.notice);
-    if (outcome.isStored) {
+    if (Conclude(master_.Rename(chosen, controls_->txtEdit->text().toStdString()))) {
         controls_->txtEdit->clear();
         Fill();
     }
@@ -94,7 +90,7 @@ void CountryDialog::Rename() {
 
 /// Enter in a name presses the button beside it.
 void CountryDialog::keyPressEvent(QKeyEvent *event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isEnter = IsEnter(*event);
     if (isEnter && focusWidget() == controls_->txtAddName) {
         controls_->cmdAddSave->click();
     } else if (isEnter && focusWidget() == controls_->txtEdit) {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+class QLineEdit;
 class QListWidget;
 
 namespace Ui {

@@ -1,22 +1,19 @@
 #include "shell/dialogs/MasterDialog.h"
 
 #include "shell/widgets/FieldFocus.h"
+#include "shell/widgets/FormKeys.h"
+#include "shell/widgets/ListedChoice.h"
 #include "shell/widgets/MessageBoxes.h"
 
-#include <QKeyEvent>
 #include <QPushButton>
-#include <QRegularExpressionValidator>
 #include <QScreen>
 
 namespace kelvaro {
 
 void MasterDialog::keyPressEvent(QKeyEvent *event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isEnter) {
+    if (!IsEnter(*event)) {
         QDialog::keyPressEvent(event);
-    } else if (auto *button = qobject_cast<QPushButton *>(focusWidget())) {
-        button->click();
-    } else {
+    } else if (!PressFocused(this)) {
         focusNextChild();
         SelectText(focusWidget());
     }
@@ -30,22 +27,20 @@ void MasterDialog::showEvent(QShowEvent *event) {
 
 void MasterDialog::Tell(const Notice &notice) {
     ShowNotice(this, notice);
-    if (!notice.focus.empty()) {
-        SelectText(findChild<QWidget *>(QString::fromStdString(notice.focus)));
-    }
+    SelectText(FieldOf(*this, notice));
 }
 
-void MasterDialog::Guard(const std::function<void()> &work) {
-    try {
-        work();
-    } catch (const std::exception &error) {
-        ShowError(this, error);
-    }
+bool MasterDialog::Conclude(const store::Outcome &outcome) {
+    Tell(outcome.notice);
+    return outcome.isStored;
 }
 
-void MasterDialog::TakeDigitsOnly(QLineEdit *line) {
-    static const QRegularExpression digits(QStringLiteral("[0-9]*"));
-    line->setValidator(new QRegularExpressionValidator(digits, line));
+void MasterDialog::OnPress(QPushButton *button, const std::function<void()> &work) {
+    connect(button, &QPushButton::clicked, this, [this, work] { Guarded(this, work); });
+}
+
+void MasterDialog::OnChoiceOf(QComboBox *box, const std::function<void()> &work) {
+    OnChoice(box, [this, work] { Guarded(this, work); });
 }
 
 } // namespace kelvaro

@@ -1,11 +1,13 @@
 #pragma once
 
-#include "runtime/Notice.h"
+#include "store/masters/Masters.h"
 
 #include <QDialog>
-#include <QLineEdit>
 
 #include <functional>
+
+class QComboBox;
+class QPushButton;
 
 namespace kelvaro {
 
@@ -23,11 +25,13 @@ protected:
     /// Shows a notice; what stands in the line that it names is selected, ready to be typed over.
     void Tell(const Notice &notice);
 
-    /// Does some work and shows the error that breaks it off.
-    void Guard(const std::function<void()> &work);
+    /// Tells what came of storing a row. Whether it is stored.
+    bool Conclude(const store::Outcome &outcome);
 
-    /// Lets only digits be typed or pasted into a line.
-    static void TakeDigitsOnly(QLineEdit *line);
+    /// Does some work whenever a button is pressed, or a list chooses another row, and shows the error that
+    /// breaks it off.
+    void OnPress(QPushButton *button, const std::function<void()> &work);
+    void OnChoiceOf(QComboBox *box, const std::function<void()> &work);
 };
 
 } // namespace kelvaro

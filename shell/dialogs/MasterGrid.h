@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/widgets/TextGridView.h"
-#include "store/masters/MasterRules.h"
+#include "store/masters/Masters.h"
 
 #include <string_view>
 

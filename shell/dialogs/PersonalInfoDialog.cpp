@@ -1,5 +1,6 @@
 #include "shell/dialogs/PersonalInfoDialog.h"
 
+#include "shell/widgets/TextOf.h"
 #include "ui_PersonalInfoDialog.h"
 
 #include <array>
@@ -33,8 +34,8 @@ PersonalInfoDialog::PersonalInfoDialog(store::Connection &connection, QWidget *p
     controls_->setupUi(this);
     Show(store::ReadPersonalDetails(connection));
     connect(controls_->cmdEdit, &QPushButton::clicked, this, [this] { controls_->txtName->setFocus(); });
-    connect(controls_->cmdNew, &QPushButton::clicked, this, [this] { Guard([this] { BeginAnew(); }); });
-    connect(controls_->cmdSave, &QPushButton::clicked, this, [this] { Guard([this] { Save(); }); });
+    OnPress(controls_->cmdNew, [this] { BeginAnew(); });
+    OnPress(controls_->cmdSave, [this] { Tell(store::SavePersonalDetails(Details(), connection_)); });
     connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -42,7 +43,7 @@ PersonalInfoDialog::~PersonalInfoDialog() = default;
 
 void PersonalInfoDialog::Show(const PersonalDetails &details) {
     for (const Field &field : fields) {
-        ((*controls_).*field.line)->setText(QString::fromStdString(details.*field.text));
+        ((*controls_).*field.line)->setText(TextOf(details.*field.text));
     }
 }
 
@@ -57,10 +58,6 @@ PersonalDetails PersonalInfoDialog::Details() const {
 void PersonalInfoDialog::BeginAnew() {
     Show({});
     store::DeletePersonalDetails(connection_);
-}
-
-void PersonalInfoDialog::Save() {
-    Tell(store::SavePersonalDetails(Details(), connection_));
 }
 
 } // namespace kelvaro

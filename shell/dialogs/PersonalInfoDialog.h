@@ -27,7 +27,6 @@ private:
     void Show(const store::PersonalDetails &details);
     store::PersonalDetails Details() const;
     void BeginAnew();
-    void Save();
 
     store::Connection &connection_;
     std::unique_ptr<Ui::frm_Details> controls_;

@@ -1,11 +1,12 @@
 #include "shell/dialogs/PreferencesDialog.h"
 
 #include "horoscope/Horoscope.h"
+#include "shell/widgets/FormKeys.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/TextOf.h"
 #include "shell/widgets/TypeAhead.h"
 #include "ui_PreferencesDialog.h"
 
-#include <QKeyEvent>
 #include <QLineEdit>
 
 #include <span>
@@ -13,10 +14,6 @@
 namespace kelvaro {
 
 namespace {
-
-QString TextOf(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// Lists the choices; one that is not listed only shows as text.
 void Fill(QComboBox *box, std::span<const PreferenceChoice> choices, const std::string &present) {
@@ -74,29 +71,22 @@ void PreferencesDialog::Accept(Acceptance acceptance) {
     if (horoscope_.isCalculating) {
         return;
     }
-    try {
+    Guarded(this, [this, acceptance] {
         if (const auto notice = acceptance(Fields(), horoscope_)) {
             ShowNotice(this, *notice);
-            return;
+        } else {
+            accept();
         }
-        accept();
-    } catch (const std::exception &error) {
-        ShowError(this, error);
-    }
+    });
 }
 
 /// Enter goes on to the next field; a button with the focus is pressed by it.
 void PreferencesDialog::keyPressEvent(QKeyEvent *event) {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && qobject_cast<QPushButton *>(focusWidget()) == nullptr) {
+    if (!IsEnter(*event)) {
+        QDialog::keyPressEvent(event);
+    } else if (!PressFocused(this)) {
         focusNextChild();
-        return;
     }
-    if (isEnter) {
-        qobject_cast<QPushButton *>(focusWidget())->click();
-        return;
-    }
-    QDialog::keyPressEvent(event);
 }
 
 } // namespace kelvaro

@@ -2,15 +2,16 @@
 
 #include "horoscope/Horoscope.h"
 #include "runtime/Now.h"
+#include "shell/dialogs/BirthControls.h"
 #include "shell/widgets/FieldFocus.h"
 #include "shell/widgets/ListedChoice.h"
+#include "shell/widgets/TextOf.h"
 #include "ui_TimeConverterDialog.h"
 
 namespace kelvaro {
 
 namespace {
 
-constexpr int placeColumns = 44; ///< characters of the longest zones
 constexpr int ghatisOfDay = 60;
 
 } // namespace
@@ -26,13 +27,13 @@ TimeConverterDialog::TimeConverterDialog(const Kind &kind, Horoscope &horoscope,
     if (kind.takesGhatis) {
         TakeGhatis();
     }
-    OnChoice(controls_->Cmb_VP_Country, [this] { Guard([this] { TakeCountry(); }); });
+    OnChoiceOf(controls_->Cmb_VP_Country, [this] { TakeCountry(); });
     // A result never stands beside fields that it does not belong to.
     for (const QComboBox *box : findChildren<QComboBox *>()) {
         connect(box, &QComboBox::currentTextChanged, controls_->result, &QLineEdit::clear);
     }
     connect(controls_->Opt_PM, &QRadioButton::toggled, controls_->result, &QLineEdit::clear);
-    connect(controls_->cmdSubmit, &QPushButton::clicked, this, [this] { Guard([this] { Convert(); }); });
+    OnPress(controls_->cmdSubmit, [this] { Convert(); });
     connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &QDialog::reject);
     FocusOn(controls_->txt_Date);
 }
@@ -40,23 +41,14 @@ TimeConverterDialog::TimeConverterDialog(const Kind &kind, Horoscope &horoscope,
 TimeConverterDialog::~TimeConverterDialog() = default;
 
 void TimeConverterDialog::FillLists() {
-    struct TextList {
-        QComboBox *box;
-        int columns;
-        QStringList texts;
-        const std::string &present;
-    };
-    for (const auto &[box, columns, texts, present] :
-         {TextList{controls_->txt_Date, 2, NumbersFromTo(1, 31, 2), fields_.txt_Date},
-          TextList{controls_->txt_Month, 3, TextsOf(monthChoices), fields_.txt_Month},
-          TextList{controls_->txt_Year, 4, NumbersFromTo(firstListedYear, lastListedYear, 4),
-                   fields_.txt_Year},
-          TextList{controls_->cbHour, 2, NumbersFromTo(1, 12, 2), fields_.cbHour},
-          TextList{controls_->cbMins, 2, NumbersFromTo(0, 59, 2), fields_.cbMins}}) {
-        PrepareList(box, columns);
-        FillList(box, texts);
-        ShowText(box, present);
-    }
+    const DateAndTimeBoxes boxes{controls_->txt_Date, controls_->txt_Month, controls_->txt_Year,
+                                 controls_->cbHour, controls_->cbMins};
+    ListDatesAndTimes(boxes);
+    ShowText(boxes.date, fields_.txt_Date);
+    ShowText(boxes.month, fields_.txt_Month);
+    ShowText(boxes.year, fields_.txt_Year);
+    ShowText(boxes.hour, fields_.cbHour);
+    ShowText(boxes.minute, fields_.cbMins);
     (fields_.Opt_PM ? controls_->Opt_PM : controls_->Opt_AM)->setChecked(true);
     for (QComboBox *box : {controls_->Cmb_VP_Country, controls_->Cmb_VP_City, controls_->cbTimeZone}) {
         PrepareList(box, placeColumns);
@@ -114,12 +106,9 @@ void TimeConverterDialog::Convert() {
     const TimeConverters::Result result = (converters_.*kind_.convert)(fields_);
     if (const auto *notice = std::get_if<Notice>(&result)) {
         Tell(*notice);
-        if (const auto *box = findChild<QComboBox *>(QString::fromStdString(notice->focus))) {
-            box->lineEdit()->selectAll(); // ready to be typed over
-        }
         return;
     }
-    controls_->result->setText(QString::fromStdString(std::get<std::string>(result)));
+    controls_->result->setText(TextOf(std::get<std::string>(result)));
 }
 
 IshtaGhatiDialog::IshtaGhatiDialog(Horoscope &horoscope, QWidget *parent)

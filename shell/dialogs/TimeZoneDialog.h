@@ -1,11 +1,9 @@
 #pragma once
 
-#include "shell/dialogs/MasterDialog.h"
+#include "shell/dialogs/PlaceMasterDialog.h"
 #include "store/masters/TimeZoneMaster.h"
 
 #include <memory>
-
-class QComboBox;
 
 namespace Ui {
 class frm_AddTimeZone;
@@ -13,10 +11,8 @@ class frm_AddTimeZone;
 
 namespace kelvaro {
 
-class MasterGrid;
-
 /// The dialog that adds and edits time zones.
-class TimeZoneDialog : public MasterDialog {
+class TimeZoneDialog : public PlaceMasterDialog {
     Q_OBJECT
 
 public:
@@ -36,15 +32,8 @@ private:
         QComboBox *direction;
     };
 
-    void FillLists(store::Connection &connection);
-    void ConnectChoices();
-    void ConnectButtons();
-    store::ZoneList ShowZones(const QComboBox *country, MasterGrid *grid) const;
-    void ShowEditedCountry();
     void ShowZone();
     static store::ZoneFields FieldsOf(const Entry &entry);
-    void Conclude(const store::Outcome &outcome);
-    void Refill();
 
     store::TimeZoneMaster master_;
     std::unique_ptr<Ui::frm_AddTimeZone> controls_;

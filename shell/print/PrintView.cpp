@@ -5,7 +5,9 @@
 #include "report/TextLayout.h"
 #include "shell/print/ReportPrinter.h"
 #include "shell/widgets/ChartColours.h"
+#include "shell/widgets/FormKeys.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/TextOf.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +16,6 @@
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QMessageBox>
 #include <QMimeDatabase>
 #include <QPrintDialog>
@@ -26,7 +27,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <exception>
 
 namespace kelvaro {
 
@@ -58,10 +58,6 @@ public:
     WaitCursor &operator=(const WaitCursor &) = delete;
     ~WaitCursor() { QGuiApplication::restoreOverrideCursor(); }
 };
-
-QString TextOf(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QRadioButton *NewOption(const char *name, const char *caption) {
     auto *option = new QRadioButton(QString::fromLatin1(caption));
@@ -232,7 +228,7 @@ void PrintView::Refresh(const Horoscope &horoscope) {
 }
 
 void PrintView::keyPressEvent(QKeyEvent *event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (IsEnter(*event)) {
         focusNextChild();
         return;
     }
@@ -266,16 +262,14 @@ AntraSection PrintView::Antra() const {
 void PrintView::Print() {
     outcome_->clear();
     outcome_->setToolTip({});
-    try {
+    Guarded(this, [this] {
         Compose();
         if (Op5_->isChecked()) {
             PrintDirectly();
         } else {
             SaveAs(Op3_->isChecked() ? htmlFile : textFile);
         }
-    } catch (const std::exception &error) {
-        ShowError(this, error);
-    }
+    });
 }
 
 void PrintView::Compose() {

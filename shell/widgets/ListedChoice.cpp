@@ -1,5 +1,6 @@
 #include "shell/widgets/ListedChoice.h"
 
+#include "shell/widgets/TextOf.h"
 #include "shell/widgets/TypeAhead.h"
 
 #include <QListView>
@@ -53,7 +54,7 @@ QStringList NumbersFromTo(int first, int last, int width) {
 QStringList TextsOf(std::span<const std::string_view> texts) {
     QStringList list;
     for (const std::string_view text : texts) {
-        list << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+        list << TextOf(text);
     }
     return list;
 }
@@ -72,7 +73,7 @@ void FillList(QComboBox *box, const std::vector<store::ListItem> &items) {
     // A box chooses the first row that it gets.
     const QSignalBlocker quiet(box);
     for (const store::ListItem &item : items) {
-        box->addItem(QString::fromStdString(item.text), item.key);
+        box->addItem(TextOf(item.text), item.key);
     }
     ChooseRow(box, -1);
 }
@@ -85,7 +86,7 @@ void FillList(QComboBox *box, const QStringList &texts) {
 }
 
 void ShowText(QComboBox *box, const std::string &text) {
-    const QString shown = QString::fromStdString(text);
+    const QString shown = TextOf(text);
     if (box->itemText(box->currentIndex()) != shown) {
         box->setCurrentIndex(box->findText(shown, Qt::MatchFixedString | Qt::MatchCaseSensitive));
     }

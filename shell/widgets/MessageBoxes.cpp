@@ -1,5 +1,7 @@
 #include "shell/widgets/MessageBoxes.h"
 
+#include "shell/widgets/TextOf.h"
+
 #include <QMessageBox>
 
 namespace kelvaro {
@@ -20,18 +22,27 @@ QMessageBox::Icon IconOf(Notice::Icon icon) {
 
 } // namespace
 
+QWidget *FieldOf(const QWidget &window, const Notice &notice) {
+    return notice.focus.empty() ? nullptr : window.findChild<QWidget *>(TextOf(notice.focus));
+}
+
 void ShowError(QWidget *parent, const std::exception &error) {
     QMessageBox::critical(parent, QString(), QString::fromUtf8(error.what()));
 }
 
-void ShowNotice(QWidget *window, const Notice &notice) {
-    const QString text = QString::fromStdString(notice.text);
-    QMessageBox(IconOf(notice.icon), window->windowTitle(), text, QMessageBox::Ok, window).exec();
-    if (notice.focus.empty()) {
-        return;
+void Guarded(QWidget *parent, const std::function<void()> &work) {
+    try {
+        work();
+    } catch (const std::exception &error) {
+        ShowError(parent, error);
     }
-    if (auto *control = window->findChild<QWidget *>(QString::fromStdString(notice.focus))) {
-        control->setFocus();
+}
+
+void ShowNotice(QWidget *window, const Notice &notice) {
+    QMessageBox(IconOf(notice.icon), window->windowTitle(), TextOf(notice.text), QMessageBox::Ok, window)
+        .exec();
+    if (QWidget *field = FieldOf(*window, notice)) {
+        field->setFocus();
     }
 }
 

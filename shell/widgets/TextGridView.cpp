@@ -1,6 +1,7 @@
 #include "shell/widgets/TextGridView.h"
 
 #include "shell/widgets/ChartColours.h"
+#include "shell/widgets/TextOf.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -34,10 +35,6 @@ public:
 private:
     static constexpr QChar blank = u'\u2004'; // as wide as a third of a letter's height
 };
-
-QString TextOf(const std::string &text) {
-    return QString::fromStdString(text);
-}
 
 QFont Sized(QFont font, double points, bool isBold) {
     font.setPointSizeF(points);

@@ -15,6 +15,7 @@
 #include "shell/views/ServerPane.h"
 #include "shell/widgets/ChartColours.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/TextOf.h"
 #include "shell/window/HoroscopeViews.h"
 #include "shell/window/MainHoroscope.h"
 #include "shell/window/MainMenu.h"
@@ -57,10 +58,6 @@ constexpr std::array<const char *, 18> unloadOrder{
 std::size_t ViewNamed(std::string_view name) {
     const auto row = std::ranges::find(horoscopeViews, name, &HoroscopeViewRow::viewName);
     return row == horoscopeViews.end() ? 0 : static_cast<std::size_t>(row - horoscopeViews.begin());
-}
-
-QString TextOf(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 } // namespace
@@ -250,11 +247,7 @@ void MDILight::Guard(const std::function<void()> &work) {
     if (!connection_.IsOpen() || horoscope_.isCalculating) {
         return;
     }
-    try {
-        work();
-    } catch (const std::exception &error) {
-        ShowError(this, error);
-    }
+    Guarded(this, work);
 }
 
 template <class Dialog, class Subject> void MDILight::ShowModally(Subject &subject) {

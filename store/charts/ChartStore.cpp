@@ -91,14 +91,6 @@ ChartList ChartStore::fnFillChart(std::string_view DataGen) const {
     return list;
 }
 
-SavedOrNot ChartStore::SaveUnderNameOfBox(ChartToSave chart) {
-    if (chart.Txt_SC_ChartName.empty()) {
-        return {false, {"Enter Chart Name", Notice::Icon::Information, "Txt_SC_ChartName"}};
-    }
-    chart.SC_ChartName = Trimmed(chart.Txt_SC_ChartName);
-    return SC_SaveChart(chart);
-}
-
 SavedOrNot ChartStore::SC_SaveChart(const ChartToSave &chart) {
     // Stored names end in a date and the box holds none, so two charts of one person do not collide here.
     if (IsNameUsed(Trimmed(chart.Txt_SC_ChartName))) {

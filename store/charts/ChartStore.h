@@ -71,9 +71,6 @@ public:
     /// The charts for "All", "Male" or "Female", or the couples for "G", by name. Nothing for another word.
     ChartList fnFillChart(std::string_view DataGen) const;
 
-    /// The "&Save Chart" button: saves under the trimmed name of the box.
-    SavedOrNot SaveUnderNameOfBox(ChartToSave chart);
-
     /// Inserts a row, unless the name in the box is that of a stored chart as a whole, date included. Raises
     /// StoreError for a quote in a text.
     SavedOrNot SC_SaveChart(const ChartToSave &chart);

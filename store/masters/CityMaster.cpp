@@ -1,74 +1,40 @@
 #include "store/masters/CityMaster.h"
 
 #include "runtime/Numbers.h"
+#include "runtime/Texts.h"
 #include "store/database/Recordset.h"
 #include "store/database/StatementText.h"
 
 #include <algorithm>
-#include <array>
 
 namespace kelvaro::store {
 
 namespace {
 
-using Test = FieldTest<CityFields>;
+using CityRule = Rule<CityFields>;
 
-constexpr std::array<Test, 12> addTests{{
-    {[](const CityFields &f) { return f.countryId == 0; }, "Select Country ", "cbAddCountry"},
-    {[](const CityFields &f) { return IsBlank(f.city); }, "Enter City ", "txtAddCity"},
-    {[](const CityFields &f) { return IsBlank(f.latDeg); }, "Enter Lat Deg", "txtAddLatDeg"},
-    {[](const CityFields &f) { return IsBlank(f.latMin); }, "Enter Lat Min", "txtAddLAtMin"},
-    {[](const CityFields &f) { return f.latNS.empty(); }, "Add Lat Zone", "cbAddNS"},
-    {[](const CityFields &f) { return IsBlank(f.lonDeg); }, "Enter Lon Deg", "txtAddLonDeg"},
-    {[](const CityFields &f) { return IsBlank(f.lonMin); }, "Enter Lon Min", "txtAddLonMin"},
-    {[](const CityFields &f) { return f.lonEW.empty(); }, "Add Lon Zone", "cbAddEW"},
-    {[](const CityFields &f) { return !IsNumber(f.latDeg); }, "Enter Number ", "txtAddLatDeg"},
-    {[](const CityFields &f) { return !IsNumber(f.latMin); }, "Enter Number ", "txtAddLAtMin"},
-    {[](const CityFields &f) { return !IsNumber(f.lonDeg); }, "Enter Number ", "txtAddLonDeg"},
-    {[](const CityFields &f) { return !IsNumber(f.lonMin); }, "Enter Number ", "txtAddLonMin"},
-}};
+constexpr const char *nameOfNewCity = "txtAddCity";
 
-/// An empty latitude degree has no test of its own here; the test for a number catches it.
-constexpr std::array<Test, 12> updateTests{{
-    {[](const CityFields &f) { return f.countryId == 0; }, "Select Country ", "cbEditCountry"},
-    {[](const CityFields &f) { return f.cityId == 0; }, "Select CIty", "cbEditCity"},
-    {[](const CityFields &f) { return IsBlank(f.city); }, "Enter City ", "txtEditCity"},
-    {[](const CityFields &f) { return IsBlank(f.latMin); }, "Enter Lat Min", "txtEditLatMIn"},
-    {[](const CityFields &f) { return f.latNS.empty(); }, "Add Lat Zone", "cbEditNS"},
-    {[](const CityFields &f) { return IsBlank(f.lonDeg); }, "Enter Lon Deg", "txtEditLonDeg"},
-    {[](const CityFields &f) { return IsBlank(f.lonMin); }, "Enter Lon Min", "txtEditLonMin"},
-    {[](const CityFields &f) { return f.lonEW.empty(); }, "Add Lon Zone", "cbEditEW"},
-    {[](const CityFields &f) { return !IsNumber(f.latDeg); }, "Enter Number ", "txtEditLatDeg"},
-    {[](const CityFields &f) { return !IsNumber(f.latMin); }, "Enter Number ", "txtEditLatMIn"},
-    {[](const CityFields &f) { return !IsNumber(f.lonDeg); }, "Enter Number ", "txtEditLonDeg"},
-    {[](const CityFields &f) { return !IsNumber(f.lonMin); }, "Enter Number ", "txtEditLonMin"},
-}};
-
-/// Whether an angle lies beyond the highest degree or has too many minutes of arc.
-bool IsBeyond(const std::string &degrees, const std::string &minutes, double highest) {
-    constexpr double minutesOfDegree = 60;
-    const double angle = NumberFromText(degrees) + NumberFromText(minutes) / minutesOfDegree;
-    return NumberFromText(degrees) < 0 || angle > highest;
+bool LacksCountry(const CityFields &fields) {
+    return fields.countryId == 0;
 }
 
+template <auto minutes> bool HasWrongMinutes(const CityFields &fields) {
+    return !IsWithin(fields.*minutes, 0, 59);
+}
+
+/// Whether an angle is negative or beyond the highest degree.
+template <auto degrees, auto minutes, int highest> bool IsBeyond(const CityFields &fields) {
+    constexpr double minutesOfDegree = 60;
+    const double whole = NumberFromText(fields.*degrees);
+    return whole < 0 || whole + NumberFromText(fields.*minutes) / minutesOfDegree > highest;
+}
+
+constexpr auto isBeyondPole = IsBeyond<&CityFields::latDeg, &CityFields::latMin, 90>;
+constexpr auto isBeyondAntimeridian = IsBeyond<&CityFields::lonDeg, &CityFields::lonMin, 180>;
 constexpr std::string_view minutesRange = "Minutes run from 0 to 59.";
 constexpr std::string_view latitudeRange = "Latitude runs from 0 to 90 degrees.";
 constexpr std::string_view longitudeRange = "Longitude runs from 0 to 180 degrees.";
-
-/// A place that does not exist would make wrong horoscopes. These come after all other tests.
-constexpr std::array<Test, 4> addRanges{{
-    {[](const CityFields &f) { return !IsWithin(f.latMin, 0, 59); }, minutesRange, "txtAddLAtMin"},
-    {[](const CityFields &f) { return IsBeyond(f.latDeg, f.latMin, 90); }, latitudeRange, "txtAddLatDeg"},
-    {[](const CityFields &f) { return !IsWithin(f.lonMin, 0, 59); }, minutesRange, "txtAddLonMin"},
-    {[](const CityFields &f) { return IsBeyond(f.lonDeg, f.lonMin, 180); }, longitudeRange, "txtAddLonDeg"},
-}};
-
-constexpr std::array<Test, 4> updateRanges{{
-    {addRanges[0].fails, minutesRange, "txtEditLatMIn"},
-    {addRanges[1].fails, latitudeRange, "txtEditLatDeg"},
-    {addRanges[2].fails, minutesRange, "txtEditLonMin"},
-    {addRanges[3].fails, longitudeRange, "txtEditLonDeg"},
-}};
 
 /// A number as it is joined into a statement.
 std::string NumberIn(const std::string &text) {
@@ -89,14 +55,57 @@ std::string InsertOf(const CityFields &fields) {
 
 } // namespace
 
-CityList CityMaster::Cities(std::int32_t countryId) const {
+constexpr std::array<CityRule, 12> cityAddRules{{
+    {LacksCountry, "Select Country ", "cbAddCountry"},
+    {LacksText<&CityFields::city>, "Enter City ", nameOfNewCity},
+    {LacksText<&CityFields::latDeg>, "Enter Lat Deg", "txtAddLatDeg"},
+    {LacksText<&CityFields::latMin>, "Enter Lat Min", "txtAddLAtMin"},
+    {LacksText<&CityFields::latNS>, "Add Lat Zone", "cbAddNS"},
+    {LacksText<&CityFields::lonDeg>, "Enter Lon Deg", "txtAddLonDeg"},
+    {LacksText<&CityFields::lonMin>, "Enter Lon Min", "txtAddLonMin"},
+    {LacksText<&CityFields::lonEW>, "Add Lon Zone", "cbAddEW"},
+    {LacksNumber<&CityFields::latDeg>, "Enter Number ", "txtAddLatDeg"},
+    {LacksNumber<&CityFields::latMin>, "Enter Number ", "txtAddLAtMin"},
+    {LacksNumber<&CityFields::lonDeg>, "Enter Number ", "txtAddLonDeg"},
+    {LacksNumber<&CityFields::lonMin>, "Enter Number ", "txtAddLonMin"},
+}};
+
+/// A place that does not exist would make wrong horoscopes.
+constexpr std::array<CityRule, 4> cityAddRanges{{
+    {HasWrongMinutes<&CityFields::latMin>, minutesRange, "txtAddLAtMin"},
+    {isBeyondPole, latitudeRange, "txtAddLatDeg"},
+    {HasWrongMinutes<&CityFields::lonMin>, minutesRange, "txtAddLonMin"},
+    {isBeyondAntimeridian, longitudeRange, "txtAddLonDeg"},
+}};
+
+/// An empty latitude degree has no rule of its own here; the one for a number catches it.
+constexpr std::array<CityRule, 16> cityUpdateRules{{
+    {LacksCountry, "Select Country ", "cbEditCountry"},
+    {[](const CityFields &f) { return f.cityId == 0; }, "Select CIty", "cbEditCity"},
+    {LacksText<&CityFields::city>, "Enter City ", "txtEditCity"},
+    {LacksText<&CityFields::latMin>, "Enter Lat Min", "txtEditLatMIn"},
+    {LacksText<&CityFields::latNS>, "Add Lat Zone", "cbEditNS"},
+    {LacksText<&CityFields::lonDeg>, "Enter Lon Deg", "txtEditLonDeg"},
+    {LacksText<&CityFields::lonMin>, "Enter Lon Min", "txtEditLonMin"},
+    {LacksText<&CityFields::lonEW>, "Add Lon Zone", "cbEditEW"},
+    {LacksNumber<&CityFields::latDeg>, "Enter Number ", "txtEditLatDeg"},
+    {LacksNumber<&CityFields::latMin>, "Enter Number ", "txtEditLatMIn"},
+    {LacksNumber<&CityFields::lonDeg>, "Enter Number ", "txtEditLonDeg"},
+    {LacksNumber<&CityFields::lonMin>, "Enter Number ", "txtEditLonMin"},
+    {HasWrongMinutes<&CityFields::latMin>, minutesRange, "txtEditLatMIn"},
+    {isBeyondPole, latitudeRange, "txtEditLatDeg"},
+    {HasWrongMinutes<&CityFields::lonMin>, minutesRange, "txtEditLonMin"},
+    {isBeyondAntimeridian, longitudeRange, "txtEditLonDeg"},
+}};
+
+MasterRows CityMaster::Cities(std::int32_t countryId) const {
     Recordset rows;
     rows.Open("Select * from City_Master where CountryId = " + std::to_string(countryId) +
                   " order by CityName",
               connection_);
-    CityList list;
+    MasterRows list;
     for (; !rows.IsEndOfFile(); rows.MoveNext()) {
-        list.cities.push_back({rows.Text("cityName"), rows.Integer("CityID")});
+        list.items.push_back({rows.Text("cityName"), rows.Integer("CityID")});
         list.rows.push_back({rows.Text("cityName"), rows.Text("LatitudeDegree"), rows.Text("Latitude_NS"),
                              rows.Text("LatitudeMinute"), rows.Text("LongitudeDegree"),
                              rows.Text("Longitude_EW"), rows.Text("LongitudeMinute")});
@@ -105,17 +114,17 @@ CityList CityMaster::Cities(std::int32_t countryId) const {
 }
 
 Outcome CityMaster::Add(const CityFields &fields) {
-    if (auto notice = FirstFailure<CityFields>(addTests, fields)) {
+    if (auto notice = FirstBroken(cityAddRules, fields)) {
         return {false, *notice};
     }
     if (IsNameUsed(fields)) {
-        return {false, {"City Details Already Exists", Notice::Icon::Information, "txtAddCity"}};
+        return {false, {"City Details Already Exists", Notice::Icon::Information, nameOfNewCity}};
     }
-    if (auto notice = FirstFailure<CityFields>(addRanges, fields)) {
+    if (auto notice = FirstBroken(cityAddRanges, fields)) {
         return {false, *notice};
     }
     connection_.Execute(InsertOf(fields));
-    return {true, {"City Details Saved", Notice::Icon::Information, "txtAddCity"}};
+    return {true, {"City Details Saved", Notice::Icon::Information, nameOfNewCity}};
 }
 
 bool CityMaster::IsNameUsed(const CityFields &fields) const {
@@ -139,10 +148,7 @@ void CityMaster::Show(std::string_view cityName, CityFields &fields) const {
 }
 
 Outcome CityMaster::Update(const CityFields &fields) {
-    if (auto notice = FirstFailure<CityFields>(updateTests, fields)) {
-        return {false, *notice};
-    }
-    if (auto notice = FirstFailure<CityFields>(updateRanges, fields)) {
+    if (auto notice = FirstBroken(cityUpdateRules, fields)) {
         return {false, *notice};
     }
     Recordset row;

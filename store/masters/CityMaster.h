@@ -1,13 +1,13 @@
 #pragma once
 
+#include "runtime/Rule.h"
 #include "store/database/Connection.h"
-#include "store/masters/MasterRules.h"
-#include "store/masters/PlaceLists.h"
+#include "store/masters/Masters.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kelvaro::store {
 
@@ -29,11 +29,11 @@ struct CityFields {
     friend bool operator==(const CityFields &, const CityFields &) = default;
 };
 
-/// The cities of a country by name: for a list, with their `CityID`, and as rows of a grid.
-struct CityList {
-    std::vector<ListItem> cities;
-    GridRows rows;
-};
+/// The rules of the two tabs, in their order. That the name of a city to be added is new in its country comes
+/// before the ranges.
+extern const std::array<Rule<CityFields>, 12> cityAddRules;
+extern const std::array<Rule<CityFields>, 4> cityAddRanges;
+extern const std::array<Rule<CityFields>, 16> cityUpdateRules;
 
 /// Adds, edits and finds cities. Notices name the controls of the dialog of cities. All operations raise
 /// StoreError, with nothing changed, where the database fails.
@@ -42,9 +42,10 @@ public:
     /// The connection must outlive the object.
     explicit CityMaster(Connection &connection) : connection_(connection) {}
 
-    CityList Cities(std::int32_t countryId) const;
+    /// The cities of a country with their `CityID`, by name.
+    MasterRows Cities(std::int32_t countryId) const;
 
-    /// Adds a city under its trimmed name; the tests come first. The name must be new in its country only.
+    /// Adds a city under its trimmed name where no rule is broken. The name must be new in its country only.
     /// Raises StoreError for a name with a quote.
     Outcome Add(const CityFields &fields);
 
@@ -52,8 +53,8 @@ public:
     /// with one name the database decides. Raises StoreError for a name with a quote or without a city.
     void Show(std::string_view cityName, CityFields &fields) const;
 
-    /// Writes name and place into the row of the chosen city; the tests come first. Unlike `Add` it has no
-    /// test of its own for an empty latitude degree, and none for a name in use.
+    /// Writes name and place into the row of the chosen city where no rule is broken. Unlike `Add` it has no
+    /// rule of its own for an empty latitude degree, and none for a name in use.
     Outcome Update(const CityFields &fields);
 
     /// The first row that begins with the trimmed text in any case.

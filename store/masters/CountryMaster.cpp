@@ -1,5 +1,6 @@
 #include "store/masters/CountryMaster.h"
 
+#include "runtime/Texts.h"
 #include "store/database/Recordset.h"
 #include "store/database/StatementText.h"
 
@@ -10,11 +11,32 @@ namespace kelvaro::store {
 
 namespace {
 
-Outcome Refusal(const char *message, const char *focus) {
-    return {false, {message, Notice::Icon::Information, focus}};
+constexpr const char *newName = "txtAddName";
+
+bool IsNameEmpty(const CountryName &entry) {
+    return entry.name.empty();
+}
+
+bool IsNameUsed(const CountryName &entry) {
+    Recordset rows;
+    rows.Open("Select * from Country_Master where CountryName =" + Quoted(entry.name), entry.connection);
+    return !rows.IsEndOfFile();
 }
 
 } // namespace
+
+constexpr std::array<Rule<CountryName>, 2> countryAddRules{{
+    {IsNameEmpty, "Enter a Country Name", newName},
+    {IsNameUsed, "Country Name already Exists", newName},
+}};
+
+constexpr std::array<Rule<CountryName>, 4> countryRenameRules{{
+    {IsNameEmpty, "Enter the New Name", "txtEdit"},
+    {[](const CountryName &entry) { return entry.name == entry.chosen.text; }, "No Modifications Done",
+     "txtEdit"},
+    {IsNameUsed, "Country Name already Exists", "txtEdit"},
+    {[](const CountryName &entry) { return entry.chosen.key == 0; }, "Select Country", "lstEditBox"},
+}};
 
 std::vector<ListItem> CountryMaster::Countries() const {
     Recordset rows;
@@ -39,42 +61,24 @@ Found CountryMaster::Search(const std::vector<ListItem> &countries, std::string_
 
 Outcome CountryMaster::Add(std::string_view name) {
     const std::string_view trimmed = Trimmed(name);
-    if (trimmed.empty()) {
-        return Refusal("Enter a Country Name", "txtAddName");
-    }
-    if (IsNameUsed(trimmed)) {
-        return Refusal("Country Name already Exists", "txtAddName");
+    if (auto notice = FirstBroken(countryAddRules, CountryName{connection_, trimmed, {}})) {
+        return {false, *notice};
     }
     connection_.Execute("insert into Country_Master([CountryName],[TimeZoneID]) values (" + Quoted(trimmed) +
                         ",'')");
-    return {true, {"Details Saved", Notice::Icon::Information, "txtAddName"}};
+    return {true, {"Details Saved", Notice::Icon::Information, newName}};
 }
 
 Outcome CountryMaster::Rename(const ListItem &chosen, std::string_view name) {
     const std::string_view trimmed = Trimmed(name);
-    if (trimmed.empty()) {
-        return Refusal("Enter the New Name", "txtEdit");
-    }
-    if (trimmed == chosen.text) {
-        return Refusal("No Modifications Done", "txtEdit");
-    }
-    if (IsNameUsed(trimmed)) {
-        return Refusal("Country Name already Exists", "txtEdit");
-    }
-    if (chosen.key == 0) {
-        return Refusal("Select Country", "lstEditBox");
+    if (auto notice = FirstBroken(countryRenameRules, CountryName{connection_, trimmed, chosen})) {
+        return {false, *notice};
     }
     Recordset row;
     row.Open("select * from Country_Master where CountryID = " + std::to_string(chosen.key), connection_);
     row.Assign("CountryName", std::string(trimmed));
     row.Update();
     return {true, {"Successfully Updated"}};
-}
-
-bool CountryMaster::IsNameUsed(std::string_view name) const {
-    Recordset rows;
-    rows.Open("Select * from Country_Master where CountryName =" + Quoted(name), connection_);
-    return !rows.IsEndOfFile();
 }
 
 } // namespace kelvaro::store

@@ -1,13 +1,25 @@
 #pragma once
 
+#include "runtime/Rule.h"
 #include "store/database/Connection.h"
-#include "store/masters/MasterRules.h"
-#include "store/masters/PlaceLists.h"
+#include "store/masters/Masters.h"
 
+#include <array>
 #include <string_view>
 #include <vector>
 
 namespace kelvaro::store {
+
+/// A name to be given to a country.
+struct CountryName {
+    Connection &connection;
+    std::string_view name; ///< trimmed
+    ListItem chosen;       ///< the country to be renamed; key 0 where none is chosen
+};
+
+/// The rules of the two tabs, in their order. Raise StoreError for a name with a quote.
+extern const std::array<Rule<CountryName>, 2> countryAddRules;
+extern const std::array<Rule<CountryName>, 4> countryRenameRules;
 
 /// Adds, renames and finds countries. Notices name the controls of the dialog of countries. All operations
 /// raise StoreError, with nothing changed, where the database fails and for a name with a quote.
@@ -30,8 +42,6 @@ public:
     Outcome Rename(const ListItem &chosen, std::string_view name);
 
 private:
-    bool IsNameUsed(std::string_view name) const;
-
     Connection &connection_;
 };
 

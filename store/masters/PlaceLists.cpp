@@ -22,9 +22,10 @@ std::vector<ListItem> ItemsOf(Recordset rows, std::string_view textField, std::s
 }
 
 Zone ZoneIn(const Recordset &row) {
+    const std::string place = row.Text("Place");
     const std::string direction = row.Text("TimeZone");
-    return {row.Text("Place") + "  (" + row.Text("TimeDifference") + " hrs " + direction + ")",
-            row.Integer("SNo"), row.Number("TimeDifference"), direction};
+    return {place, place + "  (" + row.Text("TimeDifference") + " hrs " + direction + ")", row.Integer("SNo"),
+            row.Number("TimeDifference"), direction};
 }
 
 /// The parts between the commas; none for the empty text.

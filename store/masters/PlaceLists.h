@@ -29,7 +29,8 @@ struct Place {
 };
 
 struct Zone {
-    std::string text; ///< "Indian Standard Time  (5.5 hrs E)"
+    std::string place; ///< "Indian Standard Time"
+    std::string text;  ///< "Indian Standard Time  (5.5 hrs E)"
     std::int32_t number = 0;
     double hours = 0;      ///< from Greenwich, never negative
     std::string direction; ///< "E" or "W"

@@ -1,54 +1,29 @@
 #include "store/masters/TimeZoneMaster.h"
 
 #include "runtime/Numbers.h"
+#include "runtime/Texts.h"
 #include "store/database/Recordset.h"
 #include "store/database/StatementText.h"
 
-#include <array>
 #include <cmath>
-#include <sstream>
 
 namespace kelvaro::store {
 
 namespace {
 
-using Test = FieldTest<ZoneFields>;
+using ZoneRule = Rule<ZoneFields>;
 
-/// The zone's name is asked for as a city, whatever its label says.
-constexpr std::array<Test, 7> addTests{{
-    {[](const ZoneFields &f) { return f.countryId == 0; }, "Select Country ", "cbAddCountry"},
-    {[](const ZoneFields &f) { return IsBlank(f.place); }, "Enter City ", "txtAddCity"},
-    {[](const ZoneFields &f) { return IsBlank(f.hours); }, "Enter Time Hours", "txtAddLatDeg"},
-    {[](const ZoneFields &f) { return IsBlank(f.minutes); }, "Enter Time Min", "txtAddLAtMin"},
-    {[](const ZoneFields &f) { return f.direction.empty(); }, "Enter Zone", "cbAddEW"},
-    {[](const ZoneFields &f) { return !IsNumber(f.hours); }, "Enter Number ", "txtAddLatDeg"},
-    {[](const ZoneFields &f) { return !IsNumber(f.minutes); }, "Enter Number ", "txtAddLAtMin"},
-}};
-
-constexpr std::array<Test, 8> updateTests{{
-    {[](const ZoneFields &f) { return f.countryId == 0; }, "Select Country ", "cbEditCountry"},
-    {[](const ZoneFields &f) { return f.zoneId == 0; }, "Select Time Zone", "cbEditCity"},
-    {[](const ZoneFields &f) { return IsBlank(f.place); }, "Enter Time Zone ", "txtEditCity"},
-    {[](const ZoneFields &f) { return IsBlank(f.hours); }, "Enter Hours", "txtEditLatDeg"},
-    {[](const ZoneFields &f) { return IsBlank(f.minutes); }, "Enter Minutes", "txtEditLatMIn"},
-    {[](const ZoneFields &f) { return f.direction.empty(); }, "Add Zone", "cbEditEW"},
-    {[](const ZoneFields &f) { return !IsNumber(f.hours); }, "Enter Number ", "txtEditLatDeg"},
-    {[](const ZoneFields &f) { return !IsNumber(f.minutes); }, "Enter Number ", "txtEditLatMIn"},
-}};
-
+constexpr const char *nameOfNewZone = "txtAddCity";
 constexpr std::string_view hoursRange = "Time zones run from 0 to 14 hours.";
-constexpr std::string_view minutesRange = "Minutes run from 0 to 59.";
 
-/// No clock is further from Greenwich. These come after all other tests.
-constexpr std::array<Test, 2> addRanges{{
-    {[](const ZoneFields &f) { return !IsWithin(f.hours, 0, 14); }, hoursRange, "txtAddLatDeg"},
-    {[](const ZoneFields &f) { return !IsWithin(f.minutes, 0, 59); }, minutesRange, "txtAddLAtMin"},
-}};
+bool LacksCountry(const ZoneFields &fields) {
+    return fields.countryId == 0;
+}
 
-/// The minutes are let pass: a zone of 5.75 shows 75 there, and the announcement tells what that means.
-constexpr std::array<Test, 1> updateRanges{{
-    {addRanges[0].fails, hoursRange, "txtEditLatDeg"},
-}};
+/// No clock is further from Greenwich.
+bool HasWrongHours(const ZoneFields &fields) {
+    return !IsWithin(fields.hours, 0, 14);
+}
 
 /// Decimal hours with two places: 5 hours 20 minutes are 5.33.
 double OffsetOf(const ZoneFields &fields) {
@@ -95,33 +70,50 @@ void Insert(const ZoneFields &fields, Connection &connection) {
 
 } // namespace
 
-ZoneList TimeZoneMaster::Zones(std::int32_t countryId) const {
-    Recordset country;
-    country.Open("select * from Country_Master Where CountryID = " + std::to_string(countryId), connection_);
-    std::istringstream numbers(country.Text("TimeZoneID"));
-    ZoneList list;
-    for (std::string number; std::getline(numbers, number, ',');) {
-        Recordset rows;
-        rows.Open("select * from TimeZone where SNo = " + number + " order by Place", connection_);
-        for (; !rows.IsEndOfFile(); rows.MoveNext()) {
-            list.zones.push_back({rows.Text("Place"), rows.Integer("SNo")});
-            list.rows.push_back(
-                {rows.Text("Place"), rows.Text("SNo"), rows.Text("TimeDifference"), rows.Text("TimeZone")});
-        }
+/// The zone's name is asked for as a city, whatever its label says.
+constexpr std::array<ZoneRule, 9> zoneAddRules{{
+    {LacksCountry, "Select Country ", "cbAddCountry"},
+    {LacksText<&ZoneFields::place>, "Enter City ", nameOfNewZone},
+    {LacksText<&ZoneFields::hours>, "Enter Time Hours", "txtAddLatDeg"},
+    {LacksText<&ZoneFields::minutes>, "Enter Time Min", "txtAddLAtMin"},
+    {LacksText<&ZoneFields::direction>, "Enter Zone", "cbAddEW"},
+    {LacksNumber<&ZoneFields::hours>, "Enter Number ", "txtAddLatDeg"},
+    {LacksNumber<&ZoneFields::minutes>, "Enter Number ", "txtAddLAtMin"},
+    {HasWrongHours, hoursRange, "txtAddLatDeg"},
+    {[](const ZoneFields &f) { return !IsWithin(f.minutes, 0, 59); }, "Minutes run from 0 to 59.",
+     "txtAddLAtMin"},
+}};
+
+/// The minutes have no range: a zone of 5.75 shows 75 there, and the announcement tells what that means.
+constexpr std::array<ZoneRule, 9> zoneUpdateRules{{
+    {LacksCountry, "Select Country ", "cbEditCountry"},
+    {[](const ZoneFields &f) { return f.zoneId == 0; }, "Select Time Zone", "cbEditCity"},
+    {LacksText<&ZoneFields::place>, "Enter Time Zone ", "txtEditCity"},
+    {LacksText<&ZoneFields::hours>, "Enter Hours", "txtEditLatDeg"},
+    {LacksText<&ZoneFields::minutes>, "Enter Minutes", "txtEditLatMIn"},
+    {LacksText<&ZoneFields::direction>, "Add Zone", "cbEditEW"},
+    {LacksNumber<&ZoneFields::hours>, "Enter Number ", "txtEditLatDeg"},
+    {LacksNumber<&ZoneFields::minutes>, "Enter Number ", "txtEditLatMIn"},
+    {HasWrongHours, hoursRange, "txtEditLatDeg"},
+}};
+
+MasterRows TimeZoneMaster::Zones(std::int32_t countryId) const {
+    MasterRows list;
+    for (const Zone &zone : PlaceLists(connection_).ZonesOf(countryId)) {
+        list.items.push_back({zone.place, zone.number});
+        list.rows.push_back(
+            {zone.place, std::to_string(zone.number), NumberText(zone.hours), zone.direction});
     }
     return list;
 }
 
 Outcome TimeZoneMaster::Add(const ZoneFields &fields, const Teller &announce) {
-    if (auto notice = FirstFailure<ZoneFields>(addTests, fields)) {
-        return {false, *notice};
-    }
-    if (auto notice = FirstFailure<ZoneFields>(addRanges, fields)) {
+    if (auto notice = FirstBroken(zoneAddRules, fields)) {
         return {false, *notice};
     }
     announce({Announcement(fields, "  hours ", "  Minutes ")});
     Insert(fields, connection_);
-    return {true, {"Details successfully saved", Notice::Icon::Information, "txtAddCity"}};
+    return {true, {"Details successfully saved", Notice::Icon::Information, nameOfNewZone}};
 }
 
 void TimeZoneMaster::Show(std::int32_t zoneId, ZoneFields &fields) const {
@@ -136,10 +128,7 @@ void TimeZoneMaster::Show(std::int32_t zoneId, ZoneFields &fields) const {
 }
 
 Outcome TimeZoneMaster::Update(const ZoneFields &fields, const Teller &announce) {
-    if (auto notice = FirstFailure<ZoneFields>(updateTests, fields)) {
-        return {false, *notice};
-    }
-    if (auto notice = FirstFailure<ZoneFields>(updateRanges, fields)) {
+    if (auto notice = FirstBroken(zoneUpdateRules, fields)) {
         return {false, *notice};
     }
     announce({Announcement(fields, "  hours  ", " Minutes  ")});

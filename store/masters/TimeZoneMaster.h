@@ -1,14 +1,14 @@
 #pragma once
 
+#include "runtime/Rule.h"
 #include "store/database/Connection.h"
-#include "store/masters/MasterRules.h"
-#include "store/masters/PlaceLists.h"
+#include "store/masters/Masters.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kelvaro::store {
 
@@ -27,12 +27,9 @@ struct ZoneFields {
     friend bool operator==(const ZoneFields &, const ZoneFields &) = default;
 };
 
-/// The zones of a country in the order in which it lists them: for a list, with their `SNo`, and as rows of a
-/// grid.
-struct ZoneList {
-    std::vector<ListItem> zones;
-    GridRows rows;
-};
+/// The rules of the two tabs, in their order.
+extern const std::array<Rule<ZoneFields>, 9> zoneAddRules;
+extern const std::array<Rule<ZoneFields>, 9> zoneUpdateRules;
 
 /// Adds and edits time zones and keeps the countries' lists of them. Notices name the controls of the dialog
 /// of time zones. All operations raise StoreError, with nothing changed, where the database fails.
@@ -44,18 +41,19 @@ public:
     /// The connection must outlive the object.
     explicit TimeZoneMaster(Connection &connection) : connection_(connection) {}
 
-    /// Raises StoreError for a country that does not exist.
-    ZoneList Zones(std::int32_t countryId) const;
+    /// The zones of a country with their `SNo`, in the order in which it lists them. Raises StoreError for a
+    /// country that does not exist.
+    MasterRows Zones(std::int32_t countryId) const;
 
-    /// Adds a zone under its trimmed name to the end of its country's list; the tests come first. What will
-    /// be stored is announced before anything is. Raises StoreError for a name with a quote.
+    /// Adds a zone under its trimmed name to the end of its country's list where no rule is broken. What
+    /// will be stored is announced before anything is. Raises StoreError for a name with a quote.
     Outcome Add(const ZoneFields &fields, const Teller &announce);
 
     /// Puts the details of a zone into the fields. The digits behind the point of its hours stand as they are
     /// in the minutes: 5.5 hours show as 5 and 5, 11 hours as 11 and 00.
     void Show(std::int32_t zoneId, ZoneFields &fields) const;
 
-    /// Writes the fields into the row of the chosen zone; the tests come first. What will be stored is
+    /// Writes the fields into the row of the chosen zone where no rule is broken. What will be stored is
     /// announced before anything is. A zone that `Show` has filled in and nobody has corrected is stored with
     /// the shown minutes: 5.5 hours become 5 hours 5 minutes.
     Outcome Update(const ZoneFields &fields, const Teller &announce);

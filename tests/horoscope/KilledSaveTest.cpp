@@ -42,7 +42,7 @@ protected:
         progress_.saved = number;
         next.txt_VC_UserId = 1;
         next.Txt_VC_ChartName = "First";
-        next.txt_VC_City = next.cityOfPlace =
+        next.txt_VC_City = next.chosen.city =
             std::string(static_cast<std::size_t>(number % 4) * 3000 + 1, 'x');
         SaveBirth(next, connection, settings_);
     }

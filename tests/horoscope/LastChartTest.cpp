@@ -66,7 +66,7 @@ TEST(LastChartTest, NothingKeptGivesTheSampleChart) {
 
 TEST(LastChartTest, ComesBackAsItWasKept) {
     MemorySettings settings;
-    KeepLastChart(BirthInRio(), settings);
+    KeepLastChart(LastChartOf(BirthInRio()), settings);
     EXPECT_EQ(settings.values.size(), 18U);
     EXPECT_EQ(settings.values["Hour"], "0");
     EXPECT_EQ(settings.values["LatMin"], "54.5");
@@ -85,7 +85,7 @@ TEST(LastChartTest, UnreadableKeyGivesTheSampleChartAsAWhole) {
                                     {"TimeDiff", "3,5"},     {"TimeDiffEW", ""}};
     for (const auto &[key, value] : cases) {
         MemorySettings settings;
-        KeepLastChart(BirthInRio(), settings);
+        KeepLastChart(LastChartOf(BirthInRio()), settings);
         settings.values[key] = value;
         HoroscopeState state;
         EXPECT_NE(RestoreLastChart(settings, state), "") << key << value;

@@ -31,9 +31,9 @@ const std::vector<Place> places{{"Hyderabad", 17, "N", 78, "E", 5.5, "E"},
 
 BirthFields At(const Place &place) {
     BirthFields fields = FieldsAtLoad(MomentOf({1990, 3, 21}, {12, 0, 0}));
-    fields.txt_VC_Country = fields.countryOfId = "Somewhere";
-    fields.txt_VC_City = fields.cityOfPlace = place.name;
-    fields.cbTimeZone = fields.zoneOfOffset = "Zone";
+    fields.txt_VC_Country = fields.chosen.country = "Somewhere";
+    fields.txt_VC_City = fields.chosen.city = place.name;
+    fields.cbTimeZone = fields.chosen.zone = "Zone";
     fields.txt_VC_LatDeg = place.latDeg;
     fields.txt_VC_LatNS = place.latNS;
     fields.txt_VC_LonDeg = place.lonDeg;
@@ -86,6 +86,10 @@ TEST(TimeConverters, TestsComeInTheirOrder) {
         clock.*field = text;
         ghatis.*field = text;
     };
+    const auto choose = [&](std::string BirthFields::Chosen::*field, const std::string &text) {
+        clock.chosen.*field = text;
+        ghatis.chosen.*field = text;
+    };
     const auto expect = [&](const std::string &told) {
         EXPECT_EQ(TextOf(converters.IshtaGhatiOfBirthTime(clock)), told);
         EXPECT_EQ(TextOf(converters.BirthTimeOfIshtaGhati(ghatis)), told);
@@ -117,15 +121,15 @@ TEST(TimeConverters, TestsComeInTheirOrder) {
     expect("Select Country@Cmb_VP_Country");
     mend(&BirthFields::txt_VC_Country, "India");
     expect("Select Country@Cmb_VP_Country");
-    mend(&BirthFields::countryOfId, "India");
+    choose(&BirthFields::Chosen::country, "India");
     expect("Select City@Cmb_VP_City");
     mend(&BirthFields::txt_VC_City, "Hyderabad (A.P)");
     expect("Select City@Cmb_VP_City");
-    mend(&BirthFields::cityOfPlace, "Hyderabad (A.P)");
+    choose(&BirthFields::Chosen::city, "Hyderabad (A.P)");
     expect("Select Timezone@cbTimeZone");
     mend(&BirthFields::cbTimeZone, "IST");
     expect("Select Timezone@cbTimeZone");
-    mend(&BirthFields::zoneOfOffset, "IST");
+    choose(&BirthFields::Chosen::zone, "IST");
     EXPECT_THROW(converters.BirthTimeOfIshtaGhati(ghatis), ConversionError) << "the 31st of April";
 }
 

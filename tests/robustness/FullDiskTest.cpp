@@ -81,7 +81,7 @@ protected:
         for (; saved < 2000; ++saved) {
             BirthFields next = entered;
             next.txt_VC_UserId = 0;
-            next.txt_VC_City = next.cityOfPlace = std::string(2000, 'x');
+            next.txt_VC_City = next.chosen.city = std::string(2000, 'x');
             const BirthFields typed = next;
             std::string refusal = store::ErrorOf([&] { SaveBirth(next, connection, settings); });
             if (!refusal.empty()) {
@@ -101,7 +101,7 @@ protected:
         Require(refusal.find(words) != std::string::npos, "\"" + refusal + "\" tells: " + words);
 
         BirthFields longer = first_;
-        longer.txt_VC_City = longer.cityOfPlace = std::string(100'000, 'y');
+        longer.txt_VC_City = longer.chosen.city = std::string(100'000, 'y');
         Require(!store::ErrorOf([&] { SaveBirth(longer, connection, settings_); }).empty(),
                 "a chart that grows is refused");
         RecordingDisplay display;

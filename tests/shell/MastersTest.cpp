@@ -1,11 +1,16 @@
 #include "horoscope/Horoscope.h"
 #include "horoscope/NoDisplay.h"
+#include "horoscope/entry/BirthStorage.h"
 #include "shell/dialogs/BirthDialog.h"
+#include "shell/dialogs/ChartListDialog.h"
 #include "shell/dialogs/CityDialog.h"
 #include "shell/dialogs/CountryDialog.h"
 #include "shell/dialogs/MasterGrid.h"
 #include "shell/dialogs/PersonalInfoDialog.h"
+#include "shell/dialogs/PreferencesDialog.h"
+#include "shell/dialogs/TimeConverterDialog.h"
 #include "shell/dialogs/TimeZoneDialog.h"
+#include "shell/widgets/TextOf.h"
 #include "shell/window/UserSettings.h"
 #include "store/database/DatabaseFile.h"
 #include "tests/shell/MessageBoxAnswer.h"
@@ -39,6 +44,7 @@ private slots:
     void EnterWalksTheFieldsInOrder();
     void AQuoteIsToldAndNothingTypedIsLost();
     void Letterhead();
+    void EveryNoticeNamesAFieldOfItsDialog();
 
 private:
     template <typename Dialog> std::unique_ptr<Dialog> Open(int tab = 0) {
@@ -353,6 +359,38 @@ void MastersTest::Letterhead() {
     QCOMPARE(store::ReadPersonalDetails(connection_).Zipcode, std::string());
     Press(*dialog, "CMDCANCEl");
     QCOMPARE(dialog->result(), static_cast<int>(QDialog::Rejected));
+}
+
+void MastersTest::EveryNoticeNamesAFieldOfItsDialog() {
+    const auto hasField = [](const QDialog &dialog, const auto &rules) {
+        for (const auto &rule : rules) {
+            const bool isThere =
+                rule.focus.empty() || dialog.findChild<QWidget *>(TextOf(rule.focus)) != nullptr;
+            QVERIFY2(isThere, qPrintable(dialog.objectName() + TextOf(rule.focus)));
+        }
+    };
+    NoDisplay display;
+    Horoscope horoscope(connection_, display);
+    UserSettings settings(folder_->filePath(QStringLiteral("settings.ini")));
+    hasField(BirthDialog(horoscope, settings), birthRules);
+    hasField(IshtaGhatiDialog(horoscope), clockTimeRules);
+    hasField(BirthTimeDialog(horoscope), ghatiRules);
+    const PreferencesDialog preferences(horoscope);
+    hasField(preferences, customRules);
+    hasField(preferences, choiceRules);
+    const CountryDialog countries(connection_);
+    hasField(countries, store::countryAddRules);
+    hasField(countries, store::countryRenameRules);
+    const TimeZoneDialog zones(connection_);
+    hasField(zones, store::zoneAddRules);
+    hasField(zones, store::zoneUpdateRules);
+    const CityDialog cities(connection_);
+    hasField(cities, store::cityAddRules);
+    hasField(cities, store::cityAddRanges);
+    hasField(cities, store::cityUpdateRules);
+    hasField(cities,
+             std::array{*store::CityMaster::Find({}, "").notice, *store::CityMaster::Find({}, "x").notice});
+    hasField(ChartListDialog(connection_), std::array{NoChartChosen()});
 }
 
 QTEST_MAIN(MastersTest)

@@ -59,12 +59,12 @@ TEST_F(CityMasterTest, AddsToItsCountry) {
     EXPECT_EQ(master_.Add(Fields(3)).notice.text, "City Details Already Exists");
     EXPECT_EQ(master_.Add(Fields(4)).notice.text, "City Details Saved");
     EXPECT_EQ(First("select count(*) from City_Master where CityName = 'Upper Hill Town'"), "2");
-    const CityList list = master_.Cities(3);
+    const MasterRows list = master_.Cities(3);
     const auto row = CityMaster::Find(list.rows, "upper hill t").row;
     ASSERT_TRUE(row);
     EXPECT_EQ(list.rows[*row],
               (std::vector<std::string>{"Upper Hill Town", "8", "S", "59", "180", "W", "0"}));
-    EXPECT_EQ(list.cities[*row].text, "Upper Hill Town");
+    EXPECT_EQ(list.items[*row].text, "Upper Hill Town");
 }
 
 TEST_F(CityMasterTest, UpdateTestsComeInTheirOrder) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/masters/MasterRules.h"
+#include "store/masters/Masters.h"
 
 #include <gtest/gtest.h>
 

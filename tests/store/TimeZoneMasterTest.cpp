@@ -89,9 +89,9 @@ TEST_F(TimeZoneMasterTest, AddAnnouncesThenStoresZoneAndList) {
     connection_.Execute("update Country_Master set TimeZoneID = '' where CountryID = 4");
     master_.Add(Fields(4), Keep());
     EXPECT_EQ(ListOf(4), std::to_string(std::stoi(number) + 1));
-    const ZoneList list = master_.Zones(3);
+    const MasterRows list = master_.Zones(3);
     EXPECT_EQ(list.rows.back(), (std::vector<std::string>{"Hill Time", number, "5.5", "W"}));
-    EXPECT_EQ(list.zones.back(), (ListItem{"Hill Time", std::stoi(number)}));
+    EXPECT_EQ(list.items.back(), (ListItem{"Hill Time", std::stoi(number)}));
 }
 
 TEST_F(TimeZoneMasterTest, OffsetsHaveTwoPlaces) {
@@ -110,7 +110,7 @@ TEST_F(TimeZoneMasterTest, OffsetsHaveTwoPlaces) {
 
 TEST_F(TimeZoneMasterTest, AnUneditedZoneIsStoredAsItShows) {
     master_.Add(Fields(3), Keep());
-    const std::int32_t number = master_.Zones(3).zones.back().key;
+    const std::int32_t number = master_.Zones(3).items.back().key;
     ZoneFields fields;
     fields.countryId = 3;
     fields.zoneId = number;

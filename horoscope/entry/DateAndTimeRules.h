@@ -6,7 +6,8 @@ namespace kelvaro {
 
 struct BirthFields;
 
-// Tests of the date and the time of a form, shared by the form of birth details and the time converters.
+// What the rules for the date and the time of a form ask; those of birth details and of the time converters
+// share it.
 
 /// Day, month and year joined by "/".
 std::string DateTextOf(const BirthFields &fields);

@@ -1,4 +1,4 @@
-#include "horoscope/entry/DateAndTimeTests.h"
+#include "horoscope/entry/DateAndTimeRules.h"
 
 #include "horoscope/entry/BirthEntry.h"
 #include "runtime/MomentText.h"
