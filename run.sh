@@ -7,12 +7,12 @@ cd "$(dirname "$0")"
 
 has_display() { [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; }
 
-packages=("${build_packages[@]}" "${display_packages[@]}")
-has_display || packages+=("${virtual_display_packages[@]}")
+packages=("${build_packages[@]}" "${desktop_packages[@]}")
+has_display || packages+=("${display_packages[@]}" "${picture_packages[@]}")
 scripts/install-packages.sh "${packages[@]}"
 
-[ -f build/release/build.ninja ] || cmake --preset release
-cmake --build --preset release --target kelvaro
+cmake --preset release >/dev/null
+cmake --build --preset release
 
 if has_display; then
     exec build/release/kelvaro

@@ -1,7 +1,6 @@
+#include "bench/HeadlessHoroscope.h"
 #include "horoscope/CalculateHoroscope.h"
-#include "horoscope/Horoscope.h"
 #include "report/HoroscopeReport.h"
-#include "tools/horoscope-json/RunStatus.h"
 
 #include <benchmark/benchmark.h>
 
@@ -11,13 +10,11 @@ using namespace kelvaro;
 
 void BM_ComposeReport(benchmark::State &state) {
     const auto antra = state.range(0) == 0 ? AntraSection::Without : AntraSection::With;
-    RunStatus status;
-    store::Connection connection;
-    connection.OpenCopyInMemory(KELVARO_SEED_DATABASE);
-    Horoscope horoscope(connection, status);
-    CalculateHoroscope(horoscope);
+    HeadlessHoroscope headless;
+    const Horoscope &horoscope = headless.horoscope;
+    CalculateHoroscope(headless.horoscope);
     for ([[maybe_unused]] auto _ : state) {
-        benchmark::DoNotOptimize(ComposeReport(horoscope.state, horoscope.forms, connection, antra));
+        benchmark::DoNotOptimize(ComposeReport(horoscope.state, horoscope.forms, headless.connection, antra));
     }
 }
 BENCHMARK(BM_ComposeReport)->ArgName("antra")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);

@@ -23,4 +23,8 @@ function(kelvaro_add_tidy)
   endforeach()
   file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/tidy)
   add_custom_target(tidy DEPENDS ${stamps})
+  if(TARGET kelvaro_shell)
+    # Makes the headers of the dialogs.
+    add_dependencies(tidy kelvaro_shell_autogen)
+  endif()
 endfunction()

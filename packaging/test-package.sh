@@ -5,10 +5,11 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
-scripts/install-packages.sh "${build_packages[@]}" "${virtual_display_packages[@]}" "${package_packages[@]}"
+scripts/install-packages.sh "${build_packages[@]}" "${desktop_packages[@]}" "${display_packages[@]}" \
+    "${picture_packages[@]}" "${package_packages[@]}"
 
 echo "== Package"
-[ -f build/release/build.ninja ] || cmake --preset release
+cmake --preset release >/dev/null
 rm -rf build/package
 cpack --config build/release/CPackConfig.cmake -B "$PWD/build/package"
 package=$(echo "$PWD"/build/package/*.deb)

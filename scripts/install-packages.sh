@@ -11,13 +11,17 @@ if [ "${#missing[@]}" -eq 0 ]; then
     exit 0
 fi
 
-if [ "$(id -u)" -eq 0 ]; then
-    as_root=()
-elif command -v sudo >/dev/null; then
-    as_root=(sudo)
-else
-    echo "These packages are missing and there is no sudo to install them: ${missing[*]}" >&2
+refuse() {
+    echo "These packages are missing and $1: ${missing[*]}" >&2
     exit 1
+}
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || refuse "there is no sudo to install them"
+    # Where nobody can be asked for a password, sudo must do without.
+    as_root=(sudo)
+    [ -t 0 ] || as_root+=(-n)
+    "${as_root[@]}" true || refuse "you have no right to install them"
 fi
 echo "Installing: ${missing[*]}"
 "${as_root[@]}" apt-get update -qq

@@ -1,15 +1,26 @@
-# The Debian packages that the program and its tests need; read by run.sh and test.sh.
+# The Debian packages that each part needs; read by the scripts that build.
 build_packages=(
     g++ cmake ninja-build
-    qt6-base-dev libgl-dev
     sqlite3 libsqlitecpp-dev libsqlite3-dev
-    libgtest-dev libbenchmark-dev nlohmann-json3-dev
 )
-display_packages=(
+desktop_packages=(
+    qt6-base-dev libgl-dev
     libqt6gui6 libqt6svg6 qt6-qpa-plugins fonts-dejavu-core fonts-liberation
 )
-virtual_display_packages=(
-    xvfb xauth xdotool imagemagick
+display_packages=(
+    xvfb xauth
+)
+picture_packages=(
+    xdotool imagemagick
+)
+tool_packages=(
+    nlohmann-json3-dev
+)
+test_packages=(
+    libgtest-dev
+)
+benchmark_packages=(
+    libbenchmark-dev
 )
 check_packages=(
     git clang libclang-rt-dev clang-format clang-tidy

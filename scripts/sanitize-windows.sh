@@ -3,8 +3,9 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
-scripts/install-packages.sh "${build_packages[@]}" "${display_packages[@]}" "${virtual_display_packages[@]}"
+scripts/install-packages.sh "${build_packages[@]}" "${desktop_packages[@]}" "${display_packages[@]}" \
+    "${tool_packages[@]}" "${test_packages[@]}"
 
-[ -f build/window-sanitizers/build.ninja ] || cmake --preset window-sanitizers
+cmake --preset window-sanitizers >/dev/null
 cmake --build --preset window-sanitizers
 xvfb-run -a -s "-screen 0 1920x1080x24" ctest --preset window-sanitizers

@@ -219,13 +219,19 @@ TEST_F(DamagedDatabaseTest, NonsenseInAColumnIsTold) {
                   {"-1", false},         {"9223372036854775807", false},
                   {"x'00fffe27'", true}, {"replace(hex(zeroblob(2000)), '00', 'ab''')", true},
                   {"'1 or 1 = 1'", true}};
+    int count = 0;
     for (const auto &[table, column] : ColumnsOf(Sound())) {
         const std::string loosened = Loosened(table);
+        const auto needed = neededColumns.find(table + "." + column);
+        const bool isNeeded = needed != neededColumns.end();
         for (const auto &v : values) {
+            // The columns that no use must have take turns with the values.
+            if (!isNeeded && ++count % 4 != 0) {
+                continue;
+            }
             const auto refused =
                 RefusedAfter(loosened + "update " + table + " set [" + column + "] = " + v.value);
-            const auto needed = neededColumns.find(table + "." + column);
-            if (v.isNonsense && needed != neededColumns.end()) {
+            if (v.isNonsense && isNeeded) {
                 EXPECT_TRUE(refused.contains(needed->second)) << needed->first << " = " << v.value;
             }
         }
