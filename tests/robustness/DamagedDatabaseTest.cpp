@@ -239,32 +239,23 @@ TEST_F(DamagedDatabaseTest, NonsenseInAColumnIsTold) {
 }
 
 TEST_F(DamagedDatabaseTest, EmptyTablesAreTold) {
-    const struct {
-        const char *table, *refused;
-    } cases[] = {{"Preference", "preferences"},
-                 {"ChartSave", "stored chart"},
-                 {"Country_Master", "new chart"},
-                 {"TimeZone", "stored chart"},
-                 {"tempdasasandhi", ""},
-                 {"KaliyugaYearDetails", ""},
-                 {"chartsmaster", ""},
-                 {"City_Master", ""}};
-    for (const auto &c : cases) {
-        const auto refused = RefusedAfter(std::string("delete from ") + c.table);
-        EXPECT_TRUE(*c.refused == '\0' || refused.contains(c.refused)) << c.table;
+    EXPECT_TRUE(RefusedAfter("delete from Preference").contains("preferences"));
+    EXPECT_TRUE(RefusedAfter("delete from ChartSave").contains("stored chart"));
+    EXPECT_TRUE(RefusedAfter("delete from Country_Master").contains("new chart"));
+    EXPECT_TRUE(RefusedAfter("delete from TimeZone").contains("stored chart"));
+    for (const char *table : {"tempdasasandhi", "KaliyugaYearDetails", "chartsmaster", "City_Master"}) {
+        RefusedAfter(std::string("delete from ") + table);
     }
 }
 
 TEST_F(DamagedDatabaseTest, ATriggerThatRefusesIsTold) {
-    EXPECT_EQ(
-        RefusedAfter("create trigger T before insert on ChartSave begin select raise(abort, 'no'); end"),
-        std::set<std::string>{"new chart"});
-    EXPECT_EQ(
-        RefusedAfter("create trigger T after update on ChartSave begin select raise(rollback, 'no'); end"),
-        std::set<std::string>{"stored chart"});
-    EXPECT_EQ(
-        RefusedAfter("create trigger T before insert on tempBhukthi begin select raise(fail, 'no'); end"),
-        std::set<std::string>{"horoscope"});
+    const auto refusedBy = [&](const std::string &when, const std::string &how) {
+        return RefusedAfter("create trigger T " + when + " begin select raise(" + how + ", 'no'); end");
+    };
+    using Names = std::set<std::string>;
+    EXPECT_EQ(refusedBy("before insert on ChartSave", "abort"), Names{"new chart"});
+    EXPECT_EQ(refusedBy("after update on ChartSave", "rollback"), Names{"stored chart"});
+    EXPECT_EQ(refusedBy("before insert on tempBhukthi", "fail"), Names{"horoscope"});
 }
 
 TEST_F(DamagedDatabaseTest, BytesOverwrittenAnywhereDoNoHarm) {

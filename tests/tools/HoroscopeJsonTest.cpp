@@ -1,9 +1,12 @@
 // Runs the tool HOROSCOPE_JSON on streams of births.
 
+#include "tests/tools/Mutator.h"
+
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
@@ -45,14 +48,15 @@ std::string SampleWithout(const char *key) {
     return birth.dump();
 }
 
-/// The answers, line by line, to a stream given byte for byte.
+/// The answers, line by line, to a stream given byte for byte. A line without an end does not hold up the
+/// tests.
 std::vector<std::string> AnswerLines(const std::string &births, const std::string &options = "") {
     const auto folder = std::filesystem::temp_directory_path();
     const std::string in = folder / ("births-" + std::to_string(getpid()));
     const std::string out = folder / ("answers-" + std::to_string(getpid()));
     std::ofstream(in, std::ios::binary) << births;
-    const int status =
-        std::system(("'" HOROSCOPE_JSON "' " + options + " < '" + in + "' > '" + out + "'").c_str());
+    const int status = std::system(
+        ("timeout 120 '" HOROSCOPE_JSON "' " + options + " < '" + in + "' > '" + out + "'").c_str());
     std::ifstream answers(out, std::ios::binary);
     std::vector<std::string> lines;
     for (std::string line; std::getline(answers, line);) {
@@ -227,6 +231,33 @@ TEST(HoroscopeJson, WritesTheReportWhenAsked) {
     answer.erase("report");
     EXPECT_EQ(answer, plain);
     EXPECT_THROW(AnswerLines("", "--raport"), std::runtime_error);
+}
+
+/// Either one error in words or a horoscope in which every number is one.
+bool IsAnAnswer(const json &answer) {
+    if (answer.contains("error")) {
+        return answer.size() == 1 && !answer.at("error").get_ref<const std::string &>().empty();
+    }
+    const json results = answer.at("HoroscopeState").flatten();
+    return std::none_of(results.begin(), results.end(), [](const json &result) { return result.is_null(); });
+}
+
+TEST(HoroscopeJson, GivesEachMutatedBirthOneAnswer) {
+    constexpr std::size_t lineCount = 30'000;
+    std::string stream;
+    Mutator mutator;
+    for (std::size_t i = 0; i < lineCount; ++i) {
+        stream += mutator.Line() + '\n';
+    }
+    const auto lines = AnswerLines(stream);
+    ASSERT_EQ(lines.size(), lineCount);
+    std::size_t horoscopes = 0;
+    for (std::size_t i = 0; i < lineCount; ++i) {
+        const json answer = json::parse(lines[i], nullptr, false);
+        ASSERT_TRUE(!answer.is_discarded() && IsAnAnswer(answer)) << i << ": " << lines[i];
+        horoscopes += answer.contains("error") ? 0U : 1U;
+    }
+    EXPECT_GT(horoscopes, lineCount / 1000) << "hardly a line got past the reader";
 }
 
 /// Numbers within what two orders of arithmetic may differ by, all else to the letter.
