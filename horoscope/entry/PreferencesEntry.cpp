@@ -28,6 +28,10 @@ template <auto text, const auto &choices> bool IsNoChoice(const PreferenceFields
     return std::ranges::find(choices, fields.*text, &PreferenceChoice::text) == choices.end();
 }
 
+bool IsCustom(const PreferenceFields &fields) {
+    return AyanamsaOf(ValueOf(ayanamsaChoices, fields.cbAyanamsa)) == Ayanamsa::Custom;
+}
+
 store::OnLoadClass PreferencesIn(const PreferenceFields &fields) {
     store::OnLoadClass preferences;
     preferences.clsAyanamsa = ValueOf(ayanamsaChoices, fields.cbAyanamsa);
@@ -76,10 +80,6 @@ constexpr std::array<Rule<PreferenceFields>, 5> choiceRules{{
     {IsNoChoice<&PreferenceFields::cbLanguage, languageChoices>, "Choose one of the list for Language",
      "cbLanguage"},
 }};
-
-bool IsCustom(const PreferenceFields &fields) {
-    return AyanamsaOf(ValueOf(ayanamsaChoices, fields.cbAyanamsa)) == Ayanamsa::Custom;
-}
 
 PreferenceFields FieldsOfPreferences(const store::OnLoadClass &preferences) {
     return {TextOf(ayanamsaChoices, preferences.clsAyanamsa),

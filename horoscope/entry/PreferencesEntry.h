@@ -53,9 +53,6 @@ struct PreferenceFields {
 extern const std::array<Rule<PreferenceFields>, 8> customRules;
 extern const std::array<Rule<PreferenceFields>, 5> choiceRules;
 
-/// Whether the custom ayanamsa is chosen.
-bool IsCustom(const PreferenceFields &fields);
-
 /// The fields for a stored row. A value that is no choice shows as it is.
 PreferenceFields FieldsOfPreferences(const store::OnLoadClass &preferences);
 

@@ -3,8 +3,8 @@
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 #include "runtime/Texts.h"
+#include "store/database/Dialect.h"
 #include "store/database/Recordset.h"
-#include "store/database/StatementText.h"
 
 #include <algorithm>
 #include <array>

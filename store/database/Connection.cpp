@@ -20,8 +20,6 @@ namespace kelvaro::store {
 
 namespace {
 
-constexpr int busyMilliseconds = 3000;
-
 constexpr std::array<std::string_view, 11> neededTables = {
     "ChartSave",           "GChartSave",   "Country_Master", "City_Master",    "TimeZone",       "Preference",
     "KaliyugaYearDetails", "chartsmaster", "tempBhukthi",    "tempdasasandhi", "PersonalDetails"};
@@ -56,7 +54,9 @@ bool HasTransaction(SQLite::Database &database) {
 
 } // namespace
 
-Connection::Connection() = default;
+Connection::Connection(std::chrono::milliseconds longestWait)
+    : longestWait_(static_cast<int>(longestWait.count())) {}
+
 Connection::~Connection() = default;
 
 void Connection::Open(const std::filesystem::path &file) {
@@ -64,7 +64,7 @@ void Connection::Open(const std::filesystem::path &file) {
     file_ = ExistingFile(file);
     try {
         auto database =
-            std::make_unique<SQLite::Database>(file_.string(), SQLite::OPEN_READWRITE, busyMilliseconds);
+            std::make_unique<SQLite::Database>(file_.string(), SQLite::OPEN_READWRITE, longestWait_);
         CheckTables(*database, file_);
         // A rollback journal (SQLite's default) that is flushed to the disk at each commit: a power cut costs
         // the change under way at most. A write-ahead log would be quicker, but keeps saved charts in a
@@ -81,7 +81,7 @@ void Connection::OpenCopyInMemory(const std::filesystem::path &file) {
     Open(file);
     Close();
     try {
-        database_ = CopyInMemory(file_, busyMilliseconds);
+        database_ = CopyInMemory(file_, longestWait_);
     } catch (const SQLite::Exception &error) {
         throw StoreError(InWords(error, file_));
     }

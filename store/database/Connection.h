@@ -2,6 +2,7 @@
 
 #include "runtime/RuntimeError.h"
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <string_view>
@@ -23,10 +24,13 @@ public:
 /// Statements are those of the program: plain SQL with values joined into the text. Only the first statement
 /// of a text runs, whatever stands behind a semicolon. All operations but `Open`, `OpenCopyInMemory`,
 /// `IsOpen` and `Close` raise StoreError on a closed connection. A database that another program has locked
-/// is waited for, a second at most.
+/// is waited for.
 class Connection {
 public:
-    Connection();
+    static constexpr std::chrono::milliseconds patience{3000};
+
+    /// Waits at most that time for another program's lock.
+    explicit Connection(std::chrono::milliseconds longestWait = patience);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
     ~Connection();
@@ -56,6 +60,7 @@ private:
 
     SQLite::Database &Database();
 
+    int longestWait_; ///< milliseconds
     std::filesystem::path file_;
     std::unique_ptr<SQLite::Database> database_;
 };

@@ -1,6 +1,7 @@
 #include "store/database/Dialect.h"
 
 #include "runtime/Texts.h"
+#include "store/database/Connection.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -44,6 +45,16 @@ std::string Translated(std::string_view statement) {
         translated[translated.find('*')] = ' ';
     }
     return translated;
+}
+
+std::string Quoted(std::string_view text) {
+    if (text.find('\'') != std::string_view::npos) {
+        throw StoreError("Syntax error: the quote in " + std::string(text) +
+                         " ends the text of the statement. Leave it out.");
+    }
+    std::string quoted = "'";
+    quoted.append(text).append("'");
+    return quoted;
 }
 
 std::optional<WholeRows> AsWholeRows(std::string_view statement) {

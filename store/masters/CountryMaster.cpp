@@ -1,8 +1,8 @@
 #include "store/masters/CountryMaster.h"
 
 #include "runtime/Texts.h"
+#include "store/database/Dialect.h"
 #include "store/database/Recordset.h"
-#include "store/database/StatementText.h"
 
 #include <algorithm>
 #include <string>

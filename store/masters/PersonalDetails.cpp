@@ -1,7 +1,7 @@
 #include "store/masters/PersonalDetails.h"
 
+#include "store/database/Dialect.h"
 #include "store/database/Recordset.h"
-#include "store/database/StatementText.h"
 
 #include <array>
 #include <string_view>

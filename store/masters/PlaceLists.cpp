@@ -1,7 +1,7 @@
 #include "store/masters/PlaceLists.h"
 
+#include "store/database/Dialect.h"
 #include "store/database/Recordset.h"
-#include "store/database/StatementText.h"
 
 namespace kelvaro::store {
 

@@ -2,8 +2,8 @@
 
 #include "runtime/Numbers.h"
 #include "runtime/Texts.h"
+#include "store/database/Dialect.h"
 #include "store/database/Recordset.h"
-#include "store/database/StatementText.h"
 
 #include <cmath>
 

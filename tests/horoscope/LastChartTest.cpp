@@ -14,25 +14,13 @@ namespace kelvaro {
 namespace {
 
 BirthFields BirthInRio() {
-    BirthFields fields;
+    BirthFields fields = FieldsAtLoad(MomentOf({2000, 2, 29}, {0, 5, 0}));
     fields.Txt_VC_ChartName = "Uma O'Brien";
     fields.cbGender = "Female";
-    fields.txt_Date = "29";
-    fields.txt_Month = "Feb";
-    fields.txt_Year = "2000";
-    fields.cbHour = "12";
-    fields.cbMins = "05";
     fields.txt_VC_Country = "Brazil";
     fields.txt_VC_City = "Rio de Janeiro";
-    fields.cbTimeZone = "Brasilia Time  (3 hrs W)";
-    fields.txt_VC_LatDeg = 22;
-    fields.txt_VC_LatMin = 54.5;
-    fields.txt_VC_LatNS = std::string("S");
-    fields.txt_VC_LonDeg = 43;
-    fields.txt_VC_LonMin = 12;
-    fields.txt_VC_LonEW = std::string("W");
-    fields.txt_VC_TimeDiff = 3;
-    fields.txt_VC_TimeDiffEW = std::string("W");
+    TakePlace({22, 54.5, "S", 43, 12, "W"}, fields);
+    TakeZone({"Brasilia Time", "Brasilia Time  (3 hrs W)", 1, 3, "W"}, fields);
     return fields;
 }
 

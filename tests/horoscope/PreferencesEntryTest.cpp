@@ -1,5 +1,6 @@
 #include "horoscope/entry/PreferencesEntry.h"
 
+#include "tests/RuleOrder.h"
 #include "tests/horoscope/HoroscopeFixture.h"
 
 namespace kelvaro {
@@ -22,27 +23,25 @@ protected:
     }
 };
 
-TEST_F(PreferencesEntryTest, TestsOfTheCustomAyanamsaInTheirOrder) {
+TEST_F(PreferencesEntryTest, RulesOfTheCustomAyanamsaComeInTheirOrder) {
     struct Case {
-        const char *zeroYear, *progress, *message, *focus;
+        const char *zeroYear, *progress, *told;
     };
     const std::vector<Case> cases{
-        {"", "", "Enter Zero Year", "txtZero"},
-        {"abc", "", "Enter Progression", "txtPogression"},
-        {"abc", "x", "Enter Year in Number", "txtZero"},
-        {"2004", "x", "Enter Progression in Number ", "txtPogression"},
-        {"2004", "-1", "Enter Zero Year Less than current Year ", "txtZero"},
-        {"-1", "-1", "Enter Positive Zero Year ", "txtZero"},
-        {"0", "-0.5", "Enter Positive Progression ", "txtPogression"},
-        {"2003", "1000.5", "Enter Progression less than 1000", "txtPogression"},
+        {"", "", "Enter Zero Year@txtZero"},
+        {"abc", "", "Enter Progression@txtPogression"},
+        {"abc", "x", "Enter Year in Number@txtZero"},
+        {"2004", "x", "Enter Progression in Number @txtPogression"},
+        {"2004", "-1", "Enter Zero Year Less than current Year @txtZero"},
+        {"-1", "-1", "Enter Positive Zero Year @txtZero"},
+        {"0", "-0.5", "Enter Positive Progression @txtPogression"},
+        {"2003", "1000.5", "Enter Progression less than 1000@txtPogression"},
     };
     for (const Case &test : cases) {
         for (const auto accept : {SavePreferences, ApplyPreferences}) {
             const auto notice = accept(Custom(test.zeroYear, test.progress), horoscope);
-            ASSERT_TRUE(notice) << test.message;
-            EXPECT_EQ(notice->text, test.message);
-            EXPECT_EQ(notice->focus, test.focus);
-            EXPECT_EQ(notice->icon, Notice::Icon::Information);
+            ASSERT_TRUE(notice) << test.told;
+            EXPECT_EQ(Told(*notice), test.told);
         }
     }
     EXPECT_EQ(Stored().clsAyanamsa, "Lahiri");
@@ -97,12 +96,16 @@ TEST_F(PreferencesEntryTest, ApplyStoresNothingAndTakesNoBhava) {
     EXPECT_EQ(horoscope.state.preferences.BhavaSystem, "Not Equal");
 }
 
-TEST_F(PreferencesEntryTest, TextThatIsNoChoiceIsRefused) {
+TEST_F(PreferencesEntryTest, TextsThatAreNoChoiceAreRefused) {
     PreferenceFields fields = FieldsOfPreferences(Stored());
-    fields.cbChart = "Sout";
-    const auto notice = SavePreferences(fields, horoscope);
-    ASSERT_TRUE(notice);
-    EXPECT_EQ(notice->focus, "cbChart");
+    fields = ExpectOrder<PreferenceFields>(
+        fields,
+        {{"Choose one of the list for Ayanamsa@cbAyanamsa", &PreferenceFields::cbAyanamsa, {"lahiri"}},
+         {"Choose one of the list for Days in a Year@Cbdays", &PreferenceFields::Cbdays, {""}},
+         {"Choose one of the list for Bhava@cbBhava", &PreferenceFields::cbBhava, {"Equal"}},
+         {"Choose one of the list for Chart Style@cbChart", &PreferenceFields::cbChart, {"Sout"}},
+         {"Choose one of the list for Language@cbLanguage", &PreferenceFields::cbLanguage, {"Latin"}}},
+        [this](const PreferenceFields &wrong) { return Told(*SavePreferences(wrong, horoscope)); });
     EXPECT_EQ(Stored().clsChart_Type, "South");
 }
 

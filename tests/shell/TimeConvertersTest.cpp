@@ -1,28 +1,13 @@
 #include "horoscope/Horoscope.h"
 #include "horoscope/NoDisplay.h"
 #include "shell/dialogs/TimeConverterDialog.h"
+#include "tests/shell/DialogFixture.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
-
-#include <memory>
 
 using namespace kelvaro;
-
-namespace {
-
-/// Types a text into the control with the focus and goes on with Enter.
-void Enter(QWidget *dialog, const char *text) {
-    QWidget *field = dialog->focusWidget();
-    QTest::keyClicks(field, QString::fromLatin1(text));
-    QTest::keyClick(field, Qt::Key_Return);
-}
-
-} // namespace
+using namespace Qt::StringLiterals;
 
 class TimeConvertersTest : public QObject {
     Q_OBJECT
@@ -35,10 +20,6 @@ private slots:
     void FaultsAreToldAndTheFieldWaits();
 
 private:
-    static QString ResultIn(QDialog &dialog, const char *name) {
-        return dialog.findChild<QLineEdit *>(QString::fromLatin1(name))->text();
-    }
-
     NoDisplay display_;
     store::Connection connection_;
     Horoscope horoscope_{connection_, display_};
@@ -47,30 +28,30 @@ private:
 void TimeConvertersTest::BirthTimeBecomesIshtaGhatiAndComesBack() {
     const MessageBoxAnswer answer;
     IshtaGhatiDialog there(horoscope_);
-    QCOMPARE(there.objectName(), QStringLiteral("frm_BirthTimetoIshtaGhatika"));
+    QCOMPARE(there.objectName(), u"frm_BirthTimetoIshtaGhatika"_s);
     there.show();
     QVERIFY(QTest::qWaitForWindowExposed(&there));
     for (const char *text : {"14", "jul", "1965", "02", "15"}) {
-        Enter(&there, text);
+        Enter(there, text);
     }
-    there.findChild<QRadioButton *>(QStringLiteral("Opt_PM"))->setFocus();
+    there.findChild<QRadioButton *>(u"Opt_PM"_s)->setFocus();
     QTest::keyClick(there.focusWidget(), Qt::Key_Space);
     QTest::keyClick(there.focusWidget(), Qt::Key_Return);
-    Enter(&there, "india");
-    Enter(&there, "hyderabad (a");
+    Enter(there, "india");
+    Enter(there, "hyderabad (a");
     QTest::keyClick(there.focusWidget(), Qt::Key_Return); // the one zone of the country stands there
     QTest::keyClick(there.focusWidget(), Qt::Key_Return); // the button
     QCOMPARE(answer.Text(), QString());
     // The sun rose at 05:50, 505 minutes before.
-    QCOMPARE(ResultIn(there, "txtIshtaGhati"), QStringLiteral("Ishta Ghati : 21:2:30"));
+    QCOMPARE(TextIn(there, "txtIshtaGhati"), u"Ishta Ghati : 21:2:30"_s);
 
     BirthTimeDialog back(horoscope_);
     back.show();
     QVERIFY(QTest::qWaitForWindowExposed(&back));
     for (const char *text : {"14", "jul", "1965", "21", "2.5", "india", "hyderabad (a", "", ""}) {
-        Enter(&back, text);
+        Enter(back, text);
     }
-    QCOMPARE(ResultIn(back, "txtBirthTime"), QStringLiteral("Birth Time : 02:15 PM"));
+    QCOMPARE(TextIn(back, "txtBirthTime"), u"Birth Time : 02:15 PM"_s);
 }
 
 void TimeConvertersTest::FaultsAreToldAndTheFieldWaits() {
@@ -78,27 +59,20 @@ void TimeConvertersTest::FaultsAreToldAndTheFieldWaits() {
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
     const MessageBoxAnswer answer;
-    auto *submit = dialog.findChild<QPushButton *>(QStringLiteral("cmdSubmit"));
-    QTest::mouseClick(submit, Qt::LeftButton);
-    QCOMPARE(answer.Text(), QStringLiteral("Select Country"));
-    QCOMPARE(dialog.focusWidget()->objectName(), QStringLiteral("Cmb_VP_Country"));
-    Enter(&dialog, "india");
-    QTest::keyClicks(dialog.focusWidget(), QStringLiteral("no such town"));
-    QTest::mouseClick(submit, Qt::LeftButton);
-    QCOMPARE(answer.Text(), QStringLiteral("Select City"));
-    QCOMPARE(dialog.findChild<QComboBox *>(QStringLiteral("Cmb_VP_City"))->currentText().toLower(),
-             QStringLiteral("no such town"));
-    for (const char *name : {"Cmb_VP_City", "txt_Date", "txt_Month"}) {
-        auto *box = dialog.findChild<QComboBox *>(QString::fromLatin1(name));
-        box->setFocus();
-        box->lineEdit()->selectAll();
-        Enter(&dialog, name == std::string("txt_Date")    ? "31"
-                       : name == std::string("txt_Month") ? "feb"
-                                                          : "delhi");
-    }
-    QTest::mouseClick(submit, Qt::LeftButton);
+    Press(dialog, "cmdSubmit");
+    QCOMPARE(answer.Text(), u"Select Country"_s);
+    QCOMPARE(FocusIn(dialog), u"Cmb_VP_Country"_s);
+    Enter(dialog, "india");
+    QTest::keyClicks(dialog.focusWidget(), u"no such town"_s);
+    Press(dialog, "cmdSubmit");
+    QCOMPARE(answer.Text(), u"Select City"_s);
+    QCOMPARE(TextIn(dialog, "Cmb_VP_City").toLower(), u"no such town"_s);
+    Type(dialog, "Cmb_VP_City", "delhi");
+    Type(dialog, "txt_Date", "31");
+    Type(dialog, "txt_Month", "feb");
+    Press(dialog, "cmdSubmit");
     QCOMPARE(answer.Icon(), QMessageBox::Critical);
-    QVERIFY2(answer.Text().contains(QStringLiteral("31/2/")), qPrintable(answer.Text()));
+    QVERIFY2(answer.Text().contains(u"31/2/"_s), qPrintable(answer.Text()));
 }
 
 QTEST_MAIN(TimeConvertersTest)

@@ -6,22 +6,20 @@ namespace kelvaro::store {
 namespace {
 
 ChartToSave SampleChart(const std::string &person, const std::string &gender = "Male") {
-    ChartToSave chart;
-    chart.Txt_SC_ChartName = person;
-    chart.SC_ChartName = person;
-    chart.SC_Gender = gender;
-    chart.SC_Country = "101";
-    chart.SC_City = "Hyderabad (A.P)";
-    chart.SC_Date = MomentOf({1965, 7, 4});
-    chart.SC_Time = MomentOf({1965, 7, 4}, {14, 5, 0});
-    chart.SC_LatDeg = 17;
-    chart.SC_LatMin = 20;
-    chart.SC_LatNS.assign(1, 'N');
-    chart.SC_LonDeg = 78;
-    chart.SC_LonMin = 30.5;
-    chart.SC_LonEW.assign(1, 'E');
-    chart.SC_TimeDiff = 181;
-    return chart;
+    return {person,
+            person,
+            gender,
+            "101",
+            "Hyderabad (A.P)",
+            MomentOf({1965, 7, 4}),
+            MomentOf({1965, 7, 4}, {14, 5, 0}),
+            17,
+            "N",
+            20,
+            78,
+            "E",
+            30.5,
+            181};
 }
 
 class ChartStoreTest : public StoreTest {

@@ -1,6 +1,6 @@
 #include "store/masters/CityMaster.h"
 
-#include "tests/store/MasterSteps.h"
+#include "tests/RuleOrder.h"
 #include "tests/store/StoreFixture.h"
 
 namespace kelvaro::store {
@@ -24,33 +24,30 @@ protected:
     CityMaster master_{connection_};
 };
 
-TEST_F(CityMasterTest, AddTestsComeInTheirOrder) {
-    CityFields fields{0, 0, "", "", "", "", "", "", ""};
-    Notice notice = master_.Add(fields).notice;
-    EXPECT_EQ(notice.text + notice.focus, "Select Country cbAddCountry");
-    fields.countryId = 101;
-    ExpectSteps(fields,
-                {
-                    {"Enter City ", "txtAddCity", &CityFields::city, " hyderabad (a.p) "},
-                    {"Enter Lat Deg", "txtAddLatDeg", &CityFields::latDeg, "x"},
-                    {"Enter Lat Min", "txtAddLAtMin", &CityFields::latMin, "x"},
-                    {"Add Lat Zone", "cbAddNS", &CityFields::latNS, "N"},
-                    {"Enter Lon Deg", "txtAddLonDeg", &CityFields::lonDeg, "x"},
-                    {"Enter Lon Min", "txtAddLonMin", &CityFields::lonMin, "x"},
-                    {"Add Lon Zone", "cbAddEW", &CityFields::lonEW, "E"},
-                    {"Enter Number ", "txtAddLatDeg", &CityFields::latDeg, "90"},
-                    {"Enter Number ", "txtAddLAtMin", &CityFields::latMin, "60"},
-                    {"Enter Number ", "txtAddLonDeg", &CityFields::lonDeg, "181"},
-                    {"Enter Number ", "txtAddLonMin", &CityFields::lonMin, "60"},
-                    {"City Details Already Exists", "txtAddCity", &CityFields::city, "Upper Hill Town"},
-                    {"Minutes run from 0 to 59.", "txtAddLAtMin", &CityFields::latMin, "1"},
-                    {"Latitude runs from 0 to 90 degrees.", "txtAddLatDeg", &CityFields::latMin, "0"},
-                    {"Minutes run from 0 to 59.", "txtAddLonMin", &CityFields::lonMin, "59"},
-                    {"Longitude runs from 0 to 180 degrees.", "txtAddLonDeg", &CityFields::lonDeg, "-1"},
-                    {"Longitude runs from 0 to 180 degrees.", "txtAddLonDeg", &CityFields::lonDeg, "179"},
-                },
-                [&] { return master_.Add(fields); });
-    EXPECT_TRUE(master_.Add(fields).isStored);
+TEST_F(CityMasterTest, AddRulesComeInTheirOrder) {
+    CityFields fields = ExpectOrder<CityFields>(
+        Fields(101),
+        {
+            {"Enter City @txtAddCity", &CityFields::city, {"", " "}},
+            {"Enter Lat Deg@txtAddLatDeg", &CityFields::latDeg, {""}},
+            {"Enter Lat Min@txtAddLAtMin", &CityFields::latMin, {""}},
+            {"Add Lat Zone@cbAddNS", &CityFields::latNS, {""}},
+            {"Enter Lon Deg@txtAddLonDeg", &CityFields::lonDeg, {""}},
+            {"Enter Lon Min@txtAddLonMin", &CityFields::lonMin, {""}},
+            {"Add Lon Zone@cbAddEW", &CityFields::lonEW, {""}},
+            {"Enter Number @txtAddLatDeg", &CityFields::latDeg, {"x"}},
+            {"Enter Number @txtAddLAtMin", &CityFields::latMin, {"x"}},
+            {"Enter Number @txtAddLonDeg", &CityFields::lonDeg, {"x"}},
+            {"Enter Number @txtAddLonMin", &CityFields::lonMin, {"x"}},
+            {"City Details Already Exists@txtAddCity", &CityFields::city, {" hyderabad (a.p) "}},
+            {"Minutes run from 0 to 59.@txtAddLAtMin", &CityFields::latMin, {"60", "-1"}},
+            {"Latitude runs from 0 to 90 degrees.@txtAddLatDeg", &CityFields::latDeg, {"90", "-1"}},
+            {"Minutes run from 0 to 59.@txtAddLonMin", &CityFields::lonMin, {"60", "-1"}},
+            {"Longitude runs from 0 to 180 degrees.@txtAddLonDeg", &CityFields::lonDeg, {"181", "-1"}},
+        },
+        [this](const CityFields &broken) { return Told(master_.Add(broken).notice); });
+    fields.countryId = 0;
+    EXPECT_EQ(Told(master_.Add(fields).notice), "Select Country @cbAddCountry");
 }
 
 TEST_F(CityMasterTest, AddsToItsCountry) {
@@ -67,31 +64,33 @@ TEST_F(CityMasterTest, AddsToItsCountry) {
     EXPECT_EQ(list.items[*row].text, "Upper Hill Town");
 }
 
-TEST_F(CityMasterTest, UpdateTestsComeInTheirOrder) {
-    CityFields fields{0, 0, "", "", "", "", "", "", ""};
-    Notice notice = master_.Update(fields).notice;
-    EXPECT_EQ(notice.text + notice.focus, "Select Country cbEditCountry");
-    fields.countryId = 1;
-    notice = master_.Update(fields).notice;
-    EXPECT_EQ(notice.text + notice.focus, "Select CItycbEditCity");
-    fields.cityId = 1;
-    ExpectSteps(fields,
-                {
-                    // The latitude degree stays empty: it is not asked for here.
-                    {"Enter City ", "txtEditCity", &CityFields::city, "Adraskan"},
-                    {"Enter Lat Min", "txtEditLatMIn", &CityFields::latMin, "x"},
-                    {"Add Lat Zone", "cbEditNS", &CityFields::latNS, "S"},
-                    {"Enter Lon Deg", "txtEditLonDeg", &CityFields::lonDeg, "x"},
-                    {"Enter Lon Min", "txtEditLonMin", &CityFields::lonMin, "x"},
-                    {"Add Lon Zone", "cbEditEW", &CityFields::lonEW, "W"},
-                    {"Enter Number ", "txtEditLatDeg", &CityFields::latDeg, "95"},
-                    {"Enter Number ", "txtEditLatMIn", &CityFields::latMin, "7"},
-                    {"Enter Number ", "txtEditLonDeg", &CityFields::lonDeg, "8"},
-                    {"Enter Number ", "txtEditLonMin", &CityFields::lonMin, "60"},
-                    {"Latitude runs from 0 to 90 degrees.", "txtEditLatDeg", &CityFields::latDeg, "6"},
-                    {"Minutes run from 0 to 59.", "txtEditLonMin", &CityFields::lonMin, "9"},
-                },
-                [&] { return master_.Update(fields); });
+TEST_F(CityMasterTest, UpdateRulesComeInTheirOrder) {
+    CityFields broken = ExpectOrder<CityFields>(
+        Fields(1, 1),
+        {
+            // The latitude degree is not asked for here.
+            {"Enter City @txtEditCity", &CityFields::city, {""}},
+            {"Enter Lat Min@txtEditLatMIn", &CityFields::latMin, {""}},
+            {"Add Lat Zone@cbEditNS", &CityFields::latNS, {""}},
+            {"Enter Lon Deg@txtEditLonDeg", &CityFields::lonDeg, {""}},
+            {"Enter Lon Min@txtEditLonMin", &CityFields::lonMin, {""}},
+            {"Add Lon Zone@cbEditEW", &CityFields::lonEW, {""}},
+            {"Enter Number @txtEditLatDeg", &CityFields::latDeg, {"x", ""}},
+            {"Enter Number @txtEditLatMIn", &CityFields::latMin, {"x"}},
+            {"Enter Number @txtEditLonDeg", &CityFields::lonDeg, {"x"}},
+            {"Enter Number @txtEditLonMin", &CityFields::lonMin, {"x"}},
+            {"Minutes run from 0 to 59.@txtEditLatMIn", &CityFields::latMin, {"60"}},
+            {"Latitude runs from 0 to 90 degrees.@txtEditLatDeg", &CityFields::latDeg, {"90"}},
+            {"Minutes run from 0 to 59.@txtEditLonMin", &CityFields::lonMin, {"60"}},
+            {"Longitude runs from 0 to 180 degrees.@txtEditLonDeg", &CityFields::lonDeg, {"181"}},
+        },
+        [this](const CityFields &fields) { return Told(master_.Update(fields).notice); });
+    broken.cityId = 0;
+    EXPECT_EQ(Told(master_.Update(broken).notice), "Select CIty@cbEditCity");
+    broken.countryId = 0;
+    EXPECT_EQ(Told(master_.Update(broken).notice), "Select Country @cbEditCountry");
+
+    CityFields fields{1, 1, "", "6", "7", "S", "8", "9", "W"};
     fields.city = "L'Aquila East"; // no statement holds the text, so a quote does no harm here
     EXPECT_EQ(master_.Update(fields).notice.text, "Successfully Updated");
     EXPECT_EQ(RowOf("L''Aquila East"), "L'Aquila East/1/6.0S7.0/8.0W9.0");

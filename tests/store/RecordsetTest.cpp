@@ -79,23 +79,11 @@ TEST_F(RecordsetTest, UpdatesOneRowInPlace) {
     rows_.Assign("City", std::string("Pune"));
     EXPECT_EQ(First("select count(*) from ChartSave where City = 'Pune'"), "0");
     rows_.Update();
-    EXPECT_EQ(rows_.Text("City"), "Pune");
-    EXPECT_EQ(rows_.Text("ChartSecond"), "0");
-
-    Recordset stored;
-    stored.Open("Select * From ChartSave order by Sno", connection_);
-    for (const int number : {1, 2, 3}) {
-        const bool isChanged = number == 2;
-        EXPECT_EQ(stored.Integer("Sno"), number);
-        EXPECT_EQ(stored.Text("ChartName"), isChanged ? "O'Hara~1-Jan-2000" : "Velnesh");
-        EXPECT_EQ(stored.Text("City"), isChanged ? "Pune" : "Hyderabad (A.P)");
-        EXPECT_EQ(stored.Number("LatitudeDegree"), isChanged ? 18.5 : 17);
-        EXPECT_EQ(stored.Integer("Country"), isChanged ? 7 : 101);
-        EXPECT_EQ(stored.IsNull("TimeDifference"), isChanged);
-        EXPECT_EQ(stored.Text("Gender"), "Male");
-        stored.MoveNext();
-    }
-    EXPECT_TRUE(stored.IsEndOfFile());
+    EXPECT_EQ(rows_.Text("City") + rows_.Text("ChartSecond"), "Pune0");
+    EXPECT_EQ(First("select group_concat(ChartName || '/' || City || LatitudeDegree || Country || Gender || "
+                    "ifnull(TimeDifference, 'null'), ' ') from (select * from ChartSave order by Sno)"),
+              "Velnesh/Hyderabad (A.P)17.0101Male155 O'Hara~1-Jan-2000/Pune18.57Malenull "
+              "Velnesh/Hyderabad (A.P)17.0101Male155");
 }
 
 TEST_F(RecordsetTest, ForgetsWhatWasAssignedAndNotStored) {
@@ -123,13 +111,8 @@ TEST_F(RecordsetTest, AFailedUpdateLeavesTheRow) {
 }
 
 TEST_F(RecordsetTest, OnlyWholeRowsCanBeChanged) {
-    for (const char *statement : {"select Place from TimeZone", "select * from TimeZone, Preference",
-                                  "select 'x' from tempdasasandhi"}) {
-        rows_.Open(statement, connection_);
-        EXPECT_THROW(rows_.Assign(rows_.FieldCount() == 1 ? "Place" : "Bhava", std::string("y")), StoreError)
-            << statement;
-        rows_.Close();
-    }
+    rows_.Open("select * from TimeZone, Preference", connection_);
+    EXPECT_THROW(rows_.Assign("Bhava", std::string("y")), StoreError);
 }
 
 } // namespace

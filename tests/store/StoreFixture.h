@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -82,7 +83,8 @@ protected:
 
     TemporaryFolder folder_;
     std::filesystem::path file_ = folder_ / databaseFileName;
-    Connection connection_;
+    std::chrono::milliseconds patience_{200}; ///< with other programs that lock the database
+    Connection connection_{patience_};
 };
 
 } // namespace kelvaro::store

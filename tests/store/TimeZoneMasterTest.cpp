@@ -1,6 +1,6 @@
 #include "store/masters/TimeZoneMaster.h"
 
-#include "tests/store/MasterSteps.h"
+#include "tests/RuleOrder.h"
 #include "tests/store/StoreFixture.h"
 
 namespace kelvaro::store {
@@ -32,48 +32,41 @@ protected:
     std::string announced_, zonesAtAnnouncement_;
 };
 
-TEST_F(TimeZoneMasterTest, AddTestsComeInTheirOrder) {
-    ZoneFields fields{0, 0, "", "", "", ""};
-    Notice notice = master_.Add(fields, Keep()).notice;
-    EXPECT_EQ(notice.text + notice.focus, "Select Country cbAddCountry");
-    fields.countryId = 101;
-    ExpectSteps(fields,
-                {
-                    {"Enter City ", "txtAddCity", &ZoneFields::place, "Hill Time"},
-                    {"Enter Time Hours", "txtAddLatDeg", &ZoneFields::hours, "x"},
-                    {"Enter Time Min", "txtAddLAtMin", &ZoneFields::minutes, "x"},
-                    {"Enter Zone", "cbAddEW", &ZoneFields::direction, "E"},
-                    {"Enter Number ", "txtAddLatDeg", &ZoneFields::hours, "15"},
-                    {"Enter Number ", "txtAddLAtMin", &ZoneFields::minutes, "60"},
-                    {"Time zones run from 0 to 14 hours.", "txtAddLatDeg", &ZoneFields::hours, "14"},
-                    {"Minutes run from 0 to 59.", "txtAddLAtMin", &ZoneFields::minutes, "0"},
-                },
-                [&] { return master_.Add(fields, Keep()); });
-    EXPECT_EQ(announced_, "");
-    EXPECT_TRUE(master_.Add(fields, Keep()).isStored);
-}
+TEST_F(TimeZoneMasterTest, RulesComeInTheirOrder) {
+    ZoneFields fields = ExpectOrder<ZoneFields>(
+        Fields(101),
+        {
+            {"Enter City @txtAddCity", &ZoneFields::place, {"", " "}},
+            {"Enter Time Hours@txtAddLatDeg", &ZoneFields::hours, {""}},
+            {"Enter Time Min@txtAddLAtMin", &ZoneFields::minutes, {""}},
+            {"Enter Zone@cbAddEW", &ZoneFields::direction, {""}},
+            {"Enter Number @txtAddLatDeg", &ZoneFields::hours, {"x"}},
+            {"Enter Number @txtAddLAtMin", &ZoneFields::minutes, {"x"}},
+            {"Time zones run from 0 to 14 hours.@txtAddLatDeg", &ZoneFields::hours, {"15", "-1"}},
+            {"Minutes run from 0 to 59.@txtAddLAtMin", &ZoneFields::minutes, {"60", "-1"}},
+        },
+        [this](const ZoneFields &broken) { return Told(master_.Add(broken, Keep()).notice); });
+    fields.countryId = 0;
+    EXPECT_EQ(Told(master_.Add(fields, Keep()).notice), "Select Country @cbAddCountry");
 
-TEST_F(TimeZoneMasterTest, UpdateTestsComeInTheirOrder) {
-    ZoneFields fields{0, 0, "", "", "", ""};
-    Notice notice = master_.Update(fields, Keep()).notice;
-    EXPECT_EQ(notice.text + notice.focus, "Select Country cbEditCountry");
-    fields.countryId = 101;
-    notice = master_.Update(fields, Keep()).notice;
-    EXPECT_EQ(notice.text + notice.focus, "Select Time ZonecbEditCity");
-    fields.zoneId = 1;
-    ExpectSteps(fields,
-                {
-                    {"Enter Time Zone ", "txtEditCity", &ZoneFields::place, "Hill Time"},
-                    {"Enter Hours", "txtEditLatDeg", &ZoneFields::hours, "x"},
-                    {"Enter Minutes", "txtEditLatMIn", &ZoneFields::minutes, "x"},
-                    {"Add Zone", "cbEditEW", &ZoneFields::direction, "E"},
-                    {"Enter Number ", "txtEditLatDeg", &ZoneFields::hours, "15"},
-                    {"Enter Number ", "txtEditLatMIn", &ZoneFields::minutes, "75"},
-                    {"Time zones run from 0 to 14 hours.", "txtEditLatDeg", &ZoneFields::hours, "5"},
-                },
-                [&] { return master_.Update(fields, Keep()); });
+    fields = ExpectOrder<ZoneFields>(
+        Fields(101, 1),
+        {
+            {"Enter Time Zone @txtEditCity", &ZoneFields::place, {""}},
+            {"Enter Hours@txtEditLatDeg", &ZoneFields::hours, {""}},
+            {"Enter Minutes@txtEditLatMIn", &ZoneFields::minutes, {""}},
+            {"Add Zone@cbEditEW", &ZoneFields::direction, {""}},
+            {"Enter Number @txtEditLatDeg", &ZoneFields::hours, {"x"}},
+            {"Enter Number @txtEditLatMIn", &ZoneFields::minutes, {"x"}},
+            {"Time zones run from 0 to 14 hours.@txtEditLatDeg", &ZoneFields::hours, {"15"}},
+        },
+        [this](const ZoneFields &broken) { return Told(master_.Update(broken, Keep()).notice); });
+    fields.zoneId = 0;
+    EXPECT_EQ(Told(master_.Update(fields, Keep()).notice), "Select Time Zone@cbEditCity");
+    fields.countryId = 0;
+    EXPECT_EQ(Told(master_.Update(fields, Keep()).notice), "Select Country @cbEditCountry");
     EXPECT_EQ(announced_, "");
-    EXPECT_TRUE(master_.Update(fields, Keep()).isStored);
+    EXPECT_TRUE(master_.Update({101, 1, "Hill Time", "5", "75", "E"}, Keep()).isStored);
     EXPECT_EQ(First("select TimeDifference from TimeZone where SNo = 1"), "6.25") << "5 hours 75 minutes";
 }
 
@@ -95,16 +88,11 @@ TEST_F(TimeZoneMasterTest, AddAnnouncesThenStoresZoneAndList) {
 }
 
 TEST_F(TimeZoneMasterTest, OffsetsHaveTwoPlaces) {
-    struct Case {
-        const char *hours, *minutes, *stored;
-    };
-    for (const Case &each : {Case{"5", "45", "Hill Time/5.75W"}, Case{"5", "20", "Hill Time/5.33W"},
-                             Case{"0", "40", "Hill Time/0.67W"}, Case{"11", "00", "Hill Time/11.0W"}}) {
-        ZoneFields fields = Fields(3);
-        fields.hours = each.hours;
-        fields.minutes = each.minutes;
-        master_.Add(fields, Keep());
-        EXPECT_EQ(Newest(), each.stored);
+    for (const auto &[hours, minutes, stored] :
+         {std::array{"5", "20", "Hill Time/5.33W"}, std::array{"0", "40", "Hill Time/0.67W"},
+          std::array{"14", "00", "Hill Time/14.0W"}}) {
+        master_.Add({3, 0, "Hill Time", hours, minutes, "W"}, Keep());
+        EXPECT_EQ(Newest(), stored);
     }
 }
 
