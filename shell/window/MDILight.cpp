@@ -318,13 +318,8 @@ void MDILight::HideOpenChart() {
 
 void MDILight::ShowCurrentView(std::string_view currentView) {
     const std::size_t shown = ViewNamed(currentView);
-    const bool isInTree = tree_->isAncestorOf(focusWidget());
     views_->ShowView(shown, horoscope_);
     tree_->MarkView(shown);
-    if (isInTree) {
-        // The shown window drew the keys to itself, and the user is still on the way through the tree.
-        tree_->setFocus();
-    }
 }
 
 void MDILight::RunFailed(std::string_view step, std::string_view cause) {

@@ -15,6 +15,7 @@ constexpr int contentShift = 20; // to the left of the panel's middle
 constexpr int trackWidth = 210;
 constexpr int trackHeight = 14;
 constexpr int stepsOfTrack = 14;
+constexpr int paintInterval = 16; // milliseconds, that of most screens
 
 void TurnMessageLoop() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -57,13 +58,25 @@ void StatusPanel::Open(const QRect &area) {
     Frame1_->move(Frame1_->x() - contentShift, Frame1_->y());
     raise();
     show();
+    Paint();
+}
+
+/// Updates are enabled for no longer than this: a repaint for each pixel of the fill would take longer than the run.
+void StatusPanel::Paint() {
+    PicOut_->setUpdatesEnabled(true);
     TurnMessageLoop();
+    PicOut_->setUpdatesEnabled(false);
+    sincePaint_.start();
 }
 
 void StatusPanel::Advance() {
     const int target = PicIn_->width() + PicOut_->width() / stepsOfTrack;
     while (PicIn_->width() < target) {
-        TurnMessageLoop();
+        if (sincePaint_.hasExpired(paintInterval)) {
+            Paint();
+        } else {
+            TurnMessageLoop();
+        }
         PicIn_->resize(PicIn_->width() + 1, trackHeight);
     }
 }

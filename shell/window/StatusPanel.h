@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QFrame>
 #include <QWidget>
 
@@ -7,7 +8,8 @@ namespace kelvaro {
 
 /// The panel `PicMask` that lies over the main window during a run: a label and a track with a creeping fill.
 ///
-/// Every movement gives the message loop a turn, in which all but the input of the user is handled.
+/// Every movement gives the message loop a turn, in which all but the input of the user is handled. The panel
+/// paints itself as often as a screen can show it.
 class StatusPanel : public QFrame {
 public:
     explicit StatusPanel(QWidget *parent);
@@ -27,6 +29,9 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void Paint();
+
+    QElapsedTimer sincePaint_;
     QWidget *Frame1_;
     QWidget *PicOut_;
     QWidget *PicIn_;

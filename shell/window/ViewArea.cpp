@@ -3,62 +3,90 @@
 #include "shell/views/ViewWithPanes.h"
 #include "shell/widgets/ChartColours.h"
 
-#include <QCloseEvent>
+#include <utility>
 
 namespace kelvaro {
 
 namespace {
 
-/// A window of the area without a frame. It takes up the whole area and stays, whatever key is pressed.
-class FramelessSubWindow : public QMdiSubWindow {
-public:
-    explicit FramelessSubWindow(QWidget *view) : QMdiSubWindow(nullptr, Qt::FramelessWindowHint) {
-        setWidget(view);
-        setAttribute(Qt::WA_DeleteOnClose, false);
-    }
+constexpr QSize leastSize(379, 346);
 
-protected:
-    void closeEvent(QCloseEvent *event) override { event->ignore(); }
-};
+/// Gives the keys to the part of a view that had them last, or to its first that takes them.
+void FocusInto(QWidget *view) {
+    QWidget *part = view->focusWidget();
+    if (part == nullptr) {
+        part = view->nextInFocusChain();
+        while (part != view && part->focusPolicy() == Qt::NoFocus) {
+            part = part->nextInFocusChain();
+        }
+    }
+    if (view->isAncestorOf(part)) {
+        part->setFocus();
+    }
+}
 
 } // namespace
 
-ViewArea::ViewArea(const QUrl &server) {
-    setBackground(parchmentColour);
-    setFrameShape(QFrame::NoFrame);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    for (std::size_t index = 0; index < horoscopeViews.size(); ++index) {
-        HoroscopeView *view = horoscopeViews.at(index).make();
-        view->setObjectName(QString::fromLatin1(horoscopeViews.at(index).form));
-        ViewWithPanes *panes = server.isValid() ? new ViewWithPanes(view, server) : nullptr;
-        auto *window = new FramelessSubWindow(panes != nullptr ? static_cast<QWidget *>(panes) : view);
-        addSubWindow(window, window->windowFlags());
-        window->hide();
-        views_.at(index) = {view, window, panes, true};
-    }
+ViewArea::ViewArea(QUrl server) : server_(std::move(server)) {
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, parchmentColour);
+    setPalette(colours);
+    setAutoFillBackground(true);
+    setMinimumSize(leastSize);
+}
+
+QWidget *ViewArea::ViewWindow::Whole() const {
+    return panes != nullptr ? static_cast<QWidget *>(panes) : view;
+}
+
+ViewArea::ViewWindow ViewArea::NewWindow(const HoroscopeViewRow &row) {
+    ViewWindow made;
+    made.view = row.make();
+    made.view->setObjectName(QString::fromLatin1(row.form));
+    made.panes = server_.isValid() ? new ViewWithPanes(made.view, server_) : nullptr;
+    made.Whole()->setParent(this);
+    made.Whole()->setGeometry(rect());
+    return made;
 }
 
 void ViewArea::HideViews() {
     for (ViewWindow &each : views_) {
-        each.window->hide();
-        each.isStale = true;
+        if (each.view != nullptr) {
+            each.Whole()->hide();
+            each.isStale = true;
+        }
     }
 }
 
 void ViewArea::ShowView(std::size_t view, const Horoscope &horoscope) {
     ViewWindow &shown = views_.at(view);
+    if (shown.view == nullptr) {
+        shown = NewWindow(horoscopeViews.at(view));
+    }
     if (shown.isStale) {
         shown.isStale = false;
         shown.view->Refresh(horoscope);
     }
-    for (ViewWindow &each : views_) {
-        each.window->setVisible(&each == &shown);
+    const bool hadKeys = isAncestorOf(window()->focusWidget());
+    for (const ViewWindow &each : views_) {
+        if (each.view != nullptr) {
+            each.Whole()->setVisible(&each == &shown);
+        }
     }
-    shown.window->showMaximized();
-    setActiveSubWindow(shown.window);
+    if (hadKeys) {
+        FocusInto(shown.Whole());
+    }
     if (shown.panes != nullptr) {
         shown.panes->Navigate();
+    }
+}
+
+void ViewArea::resizeEvent(QResizeEvent *event) {
+    QWidget::resizeEvent(event);
+    for (const ViewWindow &each : views_) {
+        if (each.view != nullptr) {
+            each.Whole()->setGeometry(rect());
+        }
     }
 }
 

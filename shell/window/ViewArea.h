@@ -2,8 +2,6 @@
 
 #include "shell/window/HoroscopeViews.h"
 
-#include <QMdiArea>
-#include <QMdiSubWindow>
 #include <QUrl>
 
 #include <array>
@@ -14,25 +12,33 @@ namespace kelvaro {
 class ViewWithPanes;
 
 /// The part of the main window where the views stand, one of them shown at a time and over the whole area.
-class ViewArea : public QMdiArea {
+class ViewArea : public QWidget {
 public:
-    /// Makes all views; with the panes of a server where its address is valid.
-    explicit ViewArea(const QUrl &server);
+    /// The views have the panes of a server where its address is valid.
+    explicit ViewArea(QUrl server);
 
     /// Hides all views. What they show is stale from then on.
     void HideViews();
 
-    /// Shows a view alone, and fills it where it is stale.
+    /// Shows a view alone, and fills it where it is stale. It is made when it is shown for the first time.
+    /// Where the view before it had the keys, it has them from now on.
     void ShowView(std::size_t view, const Horoscope &horoscope);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     struct ViewWindow {
-        HoroscopeView *view = nullptr;
-        QMdiSubWindow *window = nullptr;
+        HoroscopeView *view = nullptr;  ///< none before it is shown
         ViewWithPanes *panes = nullptr; ///< none where no server is configured
         bool isStale = true;            ///< not filled since the last run
+
+        QWidget *Whole() const;
     };
 
+    ViewWindow NewWindow(const HoroscopeViewRow &row);
+
+    QUrl server_;
     std::array<ViewWindow, horoscopeViews.size()> views_;
 };
 

@@ -10,7 +10,6 @@ int main(int argc, char **argv) {
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
     QApplication::setApplicationName(QStringLiteral("Kelvaro Basic"));
     QApplication::setDesktopFileName(QStringLiteral("kelvaro-basic"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvaro-basic.svg")));
     // So long may the letters be apart that are typed to find a name in a list.
     constexpr int betweenLetters = 1000; // milliseconds
     QApplication::setKeyboardInputInterval(betweenLetters);
@@ -22,6 +21,8 @@ int main(int argc, char **argv) {
     QObject::connect(&begin, &QTimer::timeout, &window, [&window] {
         window.Start(QApplication::applicationDirPath().toStdString(),
                      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
+        // The drawing of the icon would keep the first view waiting.
+        QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvaro-basic.svg")));
     });
     begin.start(0);
     return QApplication::exec();
