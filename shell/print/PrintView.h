@@ -8,7 +8,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include <functional>
 #include <string>
 
 namespace kelvaro {
@@ -38,8 +37,7 @@ private:
     void Print();
     void Compose();
     void SaveAs(const ReportFileKind &kind);
-    QString AskFileName(const ReportFileKind &kind);
-    void PrintDirectly();
+    void PrintOut();
     void TellFile(const QString &name);
 
     const Horoscope *horoscope_ = nullptr;

@@ -9,8 +9,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <array>
-#include <numeric>
 #include <optional>
 
 namespace kelvaro {
@@ -22,9 +20,7 @@ constexpr int listDistance = 10;
 constexpr int lineDistance = 6;
 constexpr std::size_t fromColumn = 1;
 constexpr std::size_t toColumn = 2;
-constexpr double largestFont = 1.8; // times the system's size
-constexpr double smallestFont = 0.85;
-constexpr double fontStep = 0.05;
+constexpr GridGroup::FontSizes fontSizes{1.8, 0.85};
 constexpr double linesOfContent = 45; // of the window that leave all but the lists as it is
 constexpr double lettersOfContent = 140;
 constexpr double buttonWidth = 1.7; // times that of its word
@@ -81,7 +77,9 @@ TextGridView *NewList(const char *name) {
 DasaView::DasaView(QWidget *parent)
     : HoroscopeView(parent), heading_(new ViewHeading(tr("Vimshottari Dasa"))), balance_(new QLabel),
       todayLine_(new QLabel), todayButton_(new QPushButton(tr("&Today"))), mshDasa_(NewList("mshDasa")),
-      mshBukti_(NewList("mshBukti")), mshAntra_(NewList("mshAntra")), sections_(new QComboBox) {
+      mshBukti_(NewList("mshBukti")), mshAntra_(NewList("mshAntra")),
+      lists_({mshDasa_, mshBukti_, mshAntra_}, GridGroup::Order::Beside, fontSizes, rowsOfList),
+      sections_(new QComboBox) {
     setAccessibleName(tr("Dasa"));
     balance_->setObjectName(QStringLiteral("Lab_DasaBalanceV"));
     balance_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -248,28 +246,8 @@ void DasaView::LayOut() {
     }
     const int word = QFontMetrics(roomy).horizontalAdvance(todayButton_->text());
     todayButton_->setMinimumWidth(qRound(word * buttonWidth));
-    const std::array lists{mshDasa_, mshBukti_, mshAntra_};
-    const QSize room(width() - 2 * margin - 2 * listDistance, HeightOfLists());
-    const auto naturalWidth = [&](double points) {
-        return std::accumulate(lists.begin(), lists.end(), 0, [&](int sum, const TextGridView *list) {
-            return sum + list->SizeAt(points).width();
-        });
-    };
-    const auto fits = [&](double points) {
-        const int rowHeight = mshDasa_->RowHeightAt(points, rowsOfList, 0);
-        return naturalWidth(points) <= room.width() && rowsOfList * rowHeight <= room.height();
-    };
-    const double base = font().pointSizeF();
-    double points = base * largestFont;
-    while (points > base * smallestFont && !fits(points)) {
-        points -= base * fontStep;
-    }
     // Too narrow a window is scrolled.
-    const double share = std::max(1.0, static_cast<double>(room.width()) / naturalWidth(points));
-    for (TextGridView *list : lists) {
-        list->LayOut(points, static_cast<int>(list->SizeAt(points).width() * share),
-                     list->RowHeightAt(points, rowsOfList, room.height()));
-    }
+    lists_.LayOut(font().pointSizeF(), QSize(width() - 2 * margin - 2 * listDistance, HeightOfLists()));
 }
 
 } // namespace kelvaro

@@ -2,9 +2,8 @@
 
 #include "horoscope/record/HoroscopeForms.h"
 #include "runtime/Moment.h"
-#include "shell/views/HoroscopeView.h"
+#include "shell/views/GridGroup.h"
 #include "shell/views/ViewHeading.h"
-#include "shell/widgets/TextGridView.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -45,6 +44,7 @@ private:
     TextGridView *mshDasa_;
     TextGridView *mshBukti_;
     TextGridView *mshAntra_;
+    GridGroup lists_;
     QComboBox *sections_;
     std::size_t firstBhukti_ = 0; ///< row of the grid that stands first in the list
 };

@@ -4,16 +4,13 @@
 
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 namespace kelvaro {
 
 namespace {
 
 constexpr int margin = 16;
 constexpr int distance = 10;
-constexpr double largestFont = 2; // times the system's size
-constexpr double fontStep = 0.05;
+constexpr GridGroup::FontSizes fontSizes{2, 1};
 constexpr double linesOfContent = 45; // of the window that leave the heading and the notes as they are
 constexpr double lettersOfContent = 140;
 
@@ -26,25 +23,32 @@ QLabel *CaptionLabel(const QString &text) {
     return label;
 }
 
+std::vector<TextGridView *> NewGrids(const std::vector<GridOfWindow> &described) {
+    std::vector<TextGridView *> grids;
+    for (const GridOfWindow &each : described) {
+        grids.push_back(
+            new TextGridView(QString::fromLatin1(each.name), QString::fromLatin1(each.alignments)));
+        grids.back()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    }
+    return grids;
+}
+
 } // namespace
 
 GridView::GridView(const GridWindow &window, QWidget *parent)
     : HoroscopeView(parent), window_(window), heading_(new ViewHeading(QString::fromLatin1(window.title))),
-      scroll_(new QScrollArea) {
+      scroll_(new QScrollArea), grids_(NewGrids(window.grids), GridGroup::Order::Below, fontSizes) {
     setAccessibleName(QString::fromLatin1(window.title));
     auto *content = new QWidget;
     auto *rows = new QVBoxLayout(content);
     rows->setContentsMargins(margin, margin, margin, margin);
     rows->setSpacing(distance);
     rows->addWidget(heading_);
-    for (const GridOfWindow &each : window_.grids) {
-        if (*each.caption != '\0') {
-            rows->addWidget(CaptionLabel(QString::fromLatin1(each.caption)));
+    for (std::size_t i = 0; i < window_.grids.size(); ++i) {
+        if (*window_.grids.at(i).caption != '\0') {
+            rows->addWidget(CaptionLabel(QString::fromLatin1(window_.grids.at(i).caption)));
         }
-        auto *grid = new TextGridView(QString::fromLatin1(each.name), QString::fromLatin1(each.alignments));
-        grid->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-        rows->addWidget(grid, 0, Qt::AlignHCenter);
-        grids_.push_back(grid);
+        rows->addWidget(grids_.Grids().at(i), 0, Qt::AlignHCenter);
     }
     if (*window_.note != '\0') {
         auto *note = new QLabel(QString::fromLatin1(window_.note));
@@ -63,8 +67,8 @@ GridView::GridView(const GridWindow &window, QWidget *parent)
 
 void GridView::Refresh(const Horoscope &horoscope) {
     heading_->Show(horoscope.state);
-    for (std::size_t i = 0; i < grids_.size(); ++i) {
-        grids_.at(i)->Show(window_.grids.at(i).grid(horoscope.forms));
+    for (std::size_t i = 0; i < window_.grids.size(); ++i) {
+        grids_.Grids().at(i)->Show(window_.grids.at(i).grid(horoscope.forms));
     }
     LayOut();
 }
@@ -72,18 +76,6 @@ void GridView::Refresh(const Horoscope &horoscope) {
 void GridView::resizeEvent(QResizeEvent *event) {
     HoroscopeView::resizeEvent(event);
     LayOut();
-}
-
-bool GridView::Fits(double points, const QSize &room) const {
-    int height = 0;
-    for (const TextGridView *grid : grids_) {
-        const QSize size = grid->SizeAt(points);
-        height += size.height();
-        if (size.width() > room.width()) {
-            return false;
-        }
-    }
-    return height <= room.height();
 }
 
 QSize GridView::RoomForGrids() const {
@@ -103,23 +95,7 @@ QSize GridView::RoomForGrids() const {
 
 void GridView::LayOut() {
     scroll_->widget()->setFont(RoomyFont(linesOfContent, lettersOfContent));
-    const QSize room = RoomForGrids();
-    const double base = font().pointSizeF();
-    double points = base * largestFont;
-    while (points > base && !Fits(points, room)) {
-        points -= base * fontStep;
-    }
-    int widest = 0;
-    int rows = 0;
-    for (const TextGridView *grid : grids_) {
-        widest = std::max(widest, grid->SizeAt(points).width());
-        rows += grid->model()->rowCount() + 1;
-    }
-    const int width =
-        std::max(widest, std::min(room.width(), static_cast<int>(widest * TextGridView::widestStretch)));
-    for (TextGridView *grid : grids_) {
-        grid->LayOut(points, width, grid->RowHeightAt(points, rows, room.height()));
-    }
+    grids_.LayOut(font().pointSizeF(), RoomForGrids());
 }
 
 } // namespace kelvaro

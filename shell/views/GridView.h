@@ -1,9 +1,8 @@
 #pragma once
 
 #include "horoscope/record/HoroscopeForms.h"
-#include "shell/views/HoroscopeView.h"
+#include "shell/views/GridGroup.h"
 #include "shell/views/ViewHeading.h"
-#include "shell/widgets/TextGridView.h"
 
 #include <QScrollArea>
 
@@ -38,13 +37,12 @@ protected:
 
 private:
     void LayOut();
-    bool Fits(double points, const QSize &room) const;
     QSize RoomForGrids() const;
 
     GridWindow window_;
     ViewHeading *heading_;
     QScrollArea *scroll_;
-    std::vector<TextGridView *> grids_;
+    GridGroup grids_;
 };
 
 } // namespace kelvaro

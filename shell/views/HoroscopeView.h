@@ -6,6 +6,14 @@ namespace kelvaro {
 
 struct Horoscope;
 
+/// The largest of some sizes, tried downwards in steps, at which contents fit; the smallest where none does.
+template <class Size, class Fits> Size LargestFitting(Size largest, Size smallest, Size step, Fits fits) {
+    while (largest > smallest && !fits(largest)) {
+        largest -= step;
+    }
+    return largest;
+}
+
 /// A window of the horoscope: it shows contents that the driver filled and computes nothing.
 class HoroscopeView : public QWidget {
 public:
