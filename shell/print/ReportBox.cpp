@@ -1,5 +1,6 @@
 #include "shell/print/ReportBox.h"
 
+#include "report/ReportFile.h"
 #include "report/TextLayout.h"
 #include "shell/print/ReportPrinter.h"
 #include "shell/views/HoroscopeView.h"

@@ -16,10 +16,11 @@ GridGroup::GridGroup(std::vector<TextGridView *> grids, Order order, FontSizes s
     : grids_(std::move(grids)), isBeside_(order == Order::Beside), sizes_(sizes), rowsBeside_(rowsBeside) {}
 
 int GridGroup::RowCount() const {
-    return isBeside_ ? rowsBeside_
-                     : std::accumulate(grids_.begin(), grids_.end(), 0, [](int sum, const TextGridView *grid) {
-                           return sum + grid->model()->rowCount() + 1;
-                       });
+    return isBeside_
+               ? rowsBeside_
+               : std::accumulate(grids_.begin(), grids_.end(), 0, [](int sum, const TextGridView *grid) {
+                     return sum + grid->model()->rowCount() + 1;
+                 });
 }
 
 /// The least size at which every cell is seen.

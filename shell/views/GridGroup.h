@@ -18,14 +18,14 @@ public:
         double smallest;
     };
 
-    /// Grids beside one another have rows of one height, of which so many share the room; those of grids below
-    /// one another share it all together.
+    /// Grids beside one another have rows of one height, of which so many share the room; those of grids
+    /// below one another share it all together.
     GridGroup(std::vector<TextGridView *> grids, Order order, FontSizes sizes, int rowsBeside = 0);
 
     const std::vector<TextGridView *> &Grids() const { return grids_; }
 
-    /// Lays the grids out. What does not fit in the smallest font is as large as it needs to be. Width that is
-    /// left over is shared: among grids beside one another all of it, otherwise up to
+    /// Lays the grids out. What does not fit in the smallest font is as large as it needs to be. Width that
+    /// is left over is shared: among grids beside one another all of it, otherwise up to
     /// `TextGridView::widestStretch`.
     void LayOut(double windowPoints, const QSize &room);
 

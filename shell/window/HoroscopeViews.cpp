@@ -6,6 +6,8 @@
 #include "shell/views/GridView.h"
 #include "shell/views/UserDetailsView.h"
 
+#include <algorithm>
+
 namespace kelvaro {
 
 namespace {
@@ -73,6 +75,11 @@ HoroscopeView *MakeDasaView() {
 
 HoroscopeView *MakePrintView() {
     return new PrintView;
+}
+
+std::size_t ViewNamed(std::string_view name) {
+    const auto row = std::ranges::find(horoscopeViews, name, &HoroscopeViewRow::viewName);
+    return row == horoscopeViews.end() ? 0 : static_cast<std::size_t>(row - horoscopeViews.begin());
 }
 
 } // namespace kelvaro

@@ -3,6 +3,7 @@
 #include "shell/views/HoroscopeView.h"
 
 #include <array>
+#include <string_view>
 
 namespace kelvaro {
 
@@ -39,5 +40,9 @@ inline constexpr std::array<HoroscopeViewRow, 10> horoscopeViews{{
     {"Dasa", "Dasa", "Dasa", "Frm_Dasa", MakeDasaView},
     {"Print", "Print", "Print", "Frm_Print", MakePrintView},
 }};
+
+/// The place of a view among the views, by the name that is noted for it; the first for an empty or unknown
+/// name.
+std::size_t ViewNamed(std::string_view name);
 
 } // namespace kelvaro

@@ -2,11 +2,11 @@
 
 #include "horoscope/Horoscope.h"
 #include "horoscope/StatusDisplay.h"
+#include "shell/window/MainMenu.h"
 #include "shell/window/UserSettings.h"
 
 #include <QLabel>
 #include <QMainWindow>
-#include <QPointer>
 #include <QSettings>
 
 #include <cstddef>
@@ -15,8 +15,6 @@
 
 namespace kelvaro {
 
-class BirthDialog;
-class HelpWindow;
 class MainHoroscope;
 class StatusPanel;
 class ViewArea;
@@ -44,12 +42,19 @@ public:
     /// a window that was closed in the middle of a run closes at its end.
     void Calculate();
 
+    /// Shows a view, counted as in `horoscopeViews`; in the middle of a run it is shown at its end.
+    void ChooseView(std::size_t view);
+    std::size_t ViewInForce() const;
+
+    /// Does some work, but not without a database nor in the middle of a run, and shows the error that breaks
+    /// it off.
+    void Guard(const std::function<void()> &work);
+
     // The owner's letterhead, as it stood at the start.
     QString Str_CompName, Str_CompAddress, Str_CompAddress2, Str_CompCity, Str_CompCountry, Str_CompZipcode,
         Str_CompPhone, Str_CompEMail;
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -64,21 +69,9 @@ private:
 
     void ReadLetterhead();
     void FNInitialize();
-    void FnEnable() { EnableMenus(true); }
-    void FnDisable() { EnableMenus(false); }
-    void EnableMenus(bool areEnabled);
-
-    void BuildMenu();
-    void BuildShortcuts();
+    void FnEnable() { menu_.Enable(true); }
+    void FnDisable() { menu_.Enable(false); }
     void RestoreWindowPlace();
-    void ChooseView(std::size_t view);
-
-    void Guard(const std::function<void()> &work);
-    BirthDialog &ShownBirthForm();
-    void ForgetBirthForm();
-    template <class Dialog, class Subject> void ShowModally(Subject &subject);
-    template <class Master> void ShowMasterForBirthForm();
-    void ShowHelp();
 
     QSettings settings_;
     UserSettings lastChart_;
@@ -88,8 +81,7 @@ private:
     MainHoroscope *tree_;
     StatusPanel *panel_ = nullptr;
     QLabel *owner_; ///< whose program this is, in the status bar
-    QPointer<BirthDialog> birthForm_;
-    QPointer<HelpWindow> help_;
+    MainMenu menu_;
     bool isCloseWanted_ = false; ///< the window was closed in the middle of a run
 };
 

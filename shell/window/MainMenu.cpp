@@ -1,10 +1,33 @@
 #include "shell/window/MainMenu.h"
 
-#include <QMenu>
+#include "shell/dialogs/CityDialog.h"
+#include "shell/dialogs/CountryDialog.h"
+#include "shell/dialogs/PersonalInfoDialog.h"
+#include "shell/dialogs/PreferencesDialog.h"
+#include "shell/dialogs/TimeConverterDialog.h"
+#include "shell/dialogs/TimeZoneDialog.h"
+#include "shell/help/AboutBox.h"
+#include "shell/window/HoroscopeViews.h"
+#include "shell/window/MDILight.h"
+
+#include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
+
+#include <functional>
+#include <vector>
 
 namespace kelvaro {
 
 namespace {
+
+/// An entry of a menu; a separator where it has no caption.
+struct MenuEntry {
+    const char *name = nullptr;    ///< object name of its action
+    const char *caption = nullptr; ///< with its mnemonic
+    std::function<void()> chosen{};
+    QKeySequence keys{};
+};
 
 QAction *ActionOf(const MenuEntry &entry, QObject *parent) {
     auto *action = new QAction(QString::fromLatin1(entry.caption), parent);
@@ -14,10 +37,8 @@ QAction *ActionOf(const MenuEntry &entry, QObject *parent) {
     return action;
 }
 
-} // namespace
-
-QAction *AddMenu(QMenuBar *bar, const char *name, const char *caption,
-                 const std::vector<MenuEntry> &entries) {
+/// Adds a menu under the object name of its action.
+void AddMenu(QMenuBar *bar, const char *name, const char *caption, const std::vector<MenuEntry> &entries) {
     QMenu *menu = bar->addMenu(QString::fromLatin1(caption));
     menu->menuAction()->setObjectName(QString::fromLatin1(name));
     for (const MenuEntry &entry : entries) {
@@ -27,13 +48,95 @@ QAction *AddMenu(QMenuBar *bar, const char *name, const char *caption,
             menu->addAction(ActionOf(entry, menu));
         }
     }
-    return menu->menuAction();
 }
 
-QAction *AddTopEntry(QMenuBar *bar, const MenuEntry &entry) {
-    QAction *action = ActionOf(entry, bar);
-    bar->addAction(action);
-    return action;
+} // namespace
+
+MainMenu::MainMenu(MDILight &window, SettingsStore &settings)
+    : window_(window), birthForm_(window, settings), help_(&window, [&window] {
+          return QString::fromLatin1(horoscopeViews.at(window.ViewInForce()).text);
+      }) {
+    BuildMenu();
+    BuildShortcuts();
+}
+
+void MainMenu::Enable(bool areEnabled) {
+    for (const char *name : {"mnuBirthTime", "mnuTools", "mnuBirthDetails"}) {
+        window_.findChild<QAction *>(QString::fromLatin1(name))->setEnabled(areEnabled);
+    }
+}
+
+void MainMenu::BuildMenu() {
+    QMenuBar *bar = window_.menuBar();
+    Horoscope &horoscope = window_.HoroscopeInForce();
+    store::Connection &connection = horoscope.connection;
+    bar->addAction(ActionOf(
+        {"mnuBirthDetails", "&Enter Birth Details", [this] { window_.Guard([this] { birthForm_.Show(); }); }},
+        bar));
+    AddMenu(
+        bar, "mnuTools", "&Tools",
+        {{"mDI_Country", "&Country Master", [this, &connection] { ShowModally<CountryDialog>(connection); }},
+         {"MDI_LAt_Lon", "Cit&y Master", [this, &connection] { ShowModally<CityDialog>(connection); }},
+         {"MDI_ADD_TimeZone", "Time &Zone Master",
+          [this, &connection] { ShowModally<TimeZoneDialog>(connection); }},
+         {},
+         {"mnudetails", "Edit Personal &Info",
+          [this, &connection] { ShowModally<PersonalInfoDialog>(connection); }},
+         {"mnuPreferences", "&Preferences",
+          [this, &horoscope] { ShowModally<PreferencesDialog>(horoscope); }}});
+    AddMenu(bar, "mnuBirthTime", "&Time Converter",
+            {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika",
+              [this, &horoscope] { ShowModally<IshtaGhatiDialog>(horoscope); }},
+             {},
+             {"mnu_BirthTime", "Ishta&Ghatika To BirthTime",
+              [this, &horoscope] { ShowModally<BirthTimeDialog>(horoscope); }}});
+    AddMenu(bar, "mdiHelpmnu", "Help",
+            {{"mnuHelp", "&Help", [this] { help_.Show(); }, QKeySequence::HelpContents},
+             {},
+             {"mnuAboutus", "&About Us", [this] { AboutBox(&window_).exec(); }},
+             {"mnuExit", "E&xit", [this] { window_.close(); }, QKeySequence::Quit}});
+}
+
+/// The keys that users of desktop programs expect; the menus have no entries for them.
+void MainMenu::BuildShortcuts() {
+    const auto onKeys = [this](const QKeySequence &keys, auto chosen) {
+        QObject::connect(new QShortcut(keys, &window_), &QShortcut::activated, &window_,
+                         [this, chosen] { window_.Guard(chosen); });
+    };
+    onKeys(QKeySequence::New, [this] { NewBirth(); });
+    onKeys(QKeySequence::Open, [this] { birthForm_.Show().OpenList(); });
+    onKeys(QKeySequence::Save, [this] { SaveBirth(); });
+    onKeys(QKeySequence::Print, [this] { Print(); });
+    for (std::size_t view = 0; view < horoscopeViews.size(); ++view) {
+        const auto digit = static_cast<int>((view + 1) % horoscopeViews.size());
+        onKeys(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + digit)),
+               [this, view] { window_.ChooseView(view); });
+    }
+}
+
+void MainMenu::NewBirth() {
+    // "New" on a form that holds a saved chart would go on to change that chart.
+    if (birthForm_.Exists()) {
+        birthForm_.Forget();
+    }
+    birthForm_.Show().New();
+}
+
+void MainMenu::SaveBirth() {
+    const bool isStated = birthForm_.Exists();
+    BirthDialog &form = birthForm_.Show();
+    if (isStated) {
+        form.Save();
+    }
+}
+
+void MainMenu::Print() {
+    window_.ChooseView(ViewNamed("Print"));
+    window_.findChild<QPushButton *>(QStringLiteral("CoPrt"))->setFocus();
+}
+
+template <class Dialog, class Subject> void MainMenu::ShowModally(Subject &subject) {
+    window_.Guard([this, &subject] { Dialog(subject, &window_).exec(); });
 }
 
 } // namespace kelvaro

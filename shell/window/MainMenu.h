@@ -1,25 +1,32 @@
 #pragma once
 
-#include <QKeySequence>
-#include <QMenuBar>
-
-#include <functional>
-#include <vector>
+#include "shell/help/Help.h"
+#include "shell/window/BirthForm.h"
 
 namespace kelvaro {
 
-/// An entry of a menu of the main window; a separator where it has no caption.
-struct MenuEntry {
-    const char *name = nullptr;    ///< object name of its action
-    const char *caption = nullptr; ///< with its mnemonic
-    std::function<void()> chosen{};
-    QKeySequence keys{};
+/// The menus and the keys of the main window, and the windows that they open.
+class MainMenu {
+public:
+    /// Window and settings must outlive the object.
+    MainMenu(MDILight &window, SettingsStore &settings);
+
+    /// Enables or disables the menus that need a database.
+    void Enable(bool areEnabled);
+
+    void HideBirthForm() { birthForm_.Hide(); }
+
+private:
+    void BuildMenu();
+    void BuildShortcuts();
+    void NewBirth();
+    void SaveBirth();
+    void Print();
+    template <class Dialog, class Subject> void ShowModally(Subject &subject);
+
+    MDILight &window_;
+    BirthForm birthForm_;
+    Help help_;
 };
-
-/// Adds a menu under the object name of its action, and returns that action.
-QAction *AddMenu(QMenuBar *bar, const char *name, const char *caption, const std::vector<MenuEntry> &entries);
-
-/// Adds an entry that stands in the bar itself.
-QAction *AddTopEntry(QMenuBar *bar, const MenuEntry &entry);
 
 } // namespace kelvaro

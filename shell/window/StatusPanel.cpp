@@ -61,7 +61,8 @@ void StatusPanel::Open(const QRect &area) {
     Paint();
 }
 
-/// Updates are enabled for no longer than this: a repaint for each pixel of the fill would take longer than the run.
+/// Updates are enabled for no longer than this: a repaint for each pixel of the fill would take longer than
+/// the run.
 void StatusPanel::Paint() {
     PicOut_->setUpdatesEnabled(true);
     TurnMessageLoop();

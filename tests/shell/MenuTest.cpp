@@ -1,3 +1,4 @@
+#include "shell/window/HoroscopeViews.h"
 #include "shell/window/MDILight.h"
 #include "store/database/DatabaseFile.h"
 #include "tests/shell/MessageBoxAnswer.h"
@@ -53,7 +54,7 @@ private slots:
     void MenusWaitForTheDatabase();
     void EveryEntryOpensItsWindow_data();
     void EveryEntryOpensItsWindow();
-    void LockedDatabaseIsToldByTheBirthForm();
+    void FaultIsToldByTheBirthForm();
     void HelpOpensAtTheSubjectInFront();
     void KeysServeTheForms();
     void WindowComesBackWhereItWas();
@@ -179,17 +180,17 @@ void MenuTest::EveryEntryOpensItsWindow() {
     QVERIFY(Action("mnuPreferences")->isEnabled());
 }
 
-void MenuTest::LockedDatabaseIsToldByTheBirthForm() {
+void MenuTest::FaultIsToldByTheBirthForm() {
     Start();
     store::Connection other;
     other.Open(DatabaseFile());
-    other.Execute("begin exclusive");
+    other.Execute("alter table Country_Master rename to Lost");
     const MessageBoxAnswer answer;
     Choose("mnuBirthDetails", nullptr);
     QCOMPARE(answer.Icon(), QMessageBox::Critical);
-    QVERIFY2(answer.Text().contains(QStringLiteral("locked")), qPrintable(answer.Text()));
+    QVERIFY2(answer.Text().contains(QStringLiteral("Country_Master")), qPrintable(answer.Text()));
     QVERIFY(window_->findChild<QDialog *>(QStringLiteral("frm_OpenChart")) == nullptr);
-    other.Close();
+    other.Execute("alter table Lost rename to Country_Master");
     Choose("mnuBirthDetails", nullptr);
     QVERIFY(window_->findChild<QDialog *>(QStringLiteral("frm_OpenChart"))->isVisible());
 }
@@ -259,6 +260,9 @@ void MenuTest::ExitUnloadsTheWindowsInOrder() {
     const QStringList order{"frm_UserDetails", "frm_rasi",  "frm_BhavaChart",   "frm_Navamsa",
                             "frm_CBhava",      "Frm_PP",    "Frm_Vargas",       "Frm_AVargas",
                             "Frm_Dasa",        "Frm_Print", "frm_MainHoroscope"};
+    for (std::size_t view = 0; view < horoscopeViews.size(); ++view) {
+        window_->ChooseView(view);
+    }
     for (const QString &name : order) {
         connect(window_->findChild<QWidget *>(name), &QObject::destroyed, this,
                 [&unloaded, name] { unloaded << name; });

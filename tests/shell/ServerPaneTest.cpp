@@ -2,7 +2,6 @@
 #include "store/database/DatabaseFile.h"
 
 #include <QDesktopServices>
-#include <QMdiSubWindow>
 #include <QNetworkAccessManager>
 #include <QPushButton>
 #include <QTcpServer>
@@ -57,17 +56,8 @@ private slots:
 private:
     void Start(const QString &address);
 
-    QTextBrowser *Pane(const char *form, const char *name) const {
-        QWidget *view = window_->findChild<QWidget *>(QString::fromLatin1(form));
-        return SubWindowOf(view)->findChild<QTextBrowser *>(QString::fromLatin1(name));
-    }
-
-    static QMdiSubWindow *SubWindowOf(QWidget *view) {
-        QWidget *each = view;
-        while (qobject_cast<QMdiSubWindow *>(each) == nullptr) {
-            each = each->parentWidget();
-        }
-        return qobject_cast<QMdiSubWindow *>(each);
+    QTextBrowser *Pane(const char *name) const {
+        return window_->findChild<QTextBrowser *>(QString::fromLatin1(name));
     }
 
     std::unique_ptr<QTemporaryDir> folder_;
@@ -103,15 +93,15 @@ void ServerPaneTest::NothingIsFetchedWithoutAnAddress_data() {
 void ServerPaneTest::NothingIsFetchedWithoutAnAddress() {
     QFETCH(QString, address);
     Start(address);
-    QCOMPARE(Pane("frm_UserDetails", "WebMirvaneAdds_Right"), nullptr);
+    QCOMPARE(Pane("WebMirvaneAdds_Right"), nullptr);
     QCOMPARE(window_->findChild<QNetworkAccessManager *>(), nullptr);
 }
 
 void ServerPaneTest::PagesOfTheServerStandBesideEachView() {
     Start(QStringLiteral("http://127.0.0.1:%1/kelvaro/").arg(server_->serverPort()));
-    QTextBrowser *right = Pane("frm_UserDetails", "WebMirvaneAdds_Right");
+    QTextBrowser *right = Pane("WebMirvaneAdds_Right");
     QTRY_VERIFY(right->toPlainText().contains(QStringLiteral("Muhurta of the week")));
-    QTRY_VERIFY(Pane("frm_UserDetails", "WebMirvaneAdds_Bottom")->toPlainText().contains(u"Muhurta"));
+    QTRY_VERIFY(Pane("WebMirvaneAdds_Bottom")->toPlainText().contains(u"Muhurta"));
     QVERIFY(!right->toPlainText().contains(u"script"));
     // Both pages and nothing else: no pictures, and nothing for the views that have not been shown.
     QCOMPARE(server_->paths.size(), 2);
@@ -119,7 +109,7 @@ void ServerPaneTest::PagesOfTheServerStandBesideEachView() {
     QVERIFY(server_->paths.contains(QStringLiteral("/kelvaro/Downloads/MirvaneAdds_Bottom.asp")));
 
     QDesktopServices::setUrlHandler(QStringLiteral("http"), this, "TakeAddress");
-    auto *maximize = SubWindowOf(right)->findChild<QPushButton *>(QStringLiteral("cmdMaximize1"));
+    auto *maximize = window_->findChild<QPushButton *>(QStringLiteral("cmdMaximize1"));
     QCOMPARE(maximize->text(), QStringLiteral("^ Maximize"));
     QTest::mouseClick(maximize, Qt::LeftButton);
     QDesktopServices::unsetUrlHandler(QStringLiteral("http"));
@@ -131,7 +121,7 @@ void ServerPaneTest::ASilentServerIsTold() {
     const quint16 port = server_->serverPort();
     server_->close();
     Start(QStringLiteral("http://127.0.0.1:%1").arg(port));
-    QTRY_VERIFY(Pane("frm_UserDetails", "WebMirvaneAdds_Right")->toPlainText().contains(u"cannot be shown"));
+    QTRY_VERIFY(Pane("WebMirvaneAdds_Right")->toPlainText().contains(u"cannot be shown"));
     QVERIFY(window_->findChild<QWidget *>(QStringLiteral("frm_UserDetails"))->isVisible());
 }
 
