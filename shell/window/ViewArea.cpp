@@ -67,13 +67,16 @@ void ViewArea::ShowView(std::size_t view, const Horoscope &horoscope) {
         shown.isStale = false;
         shown.view->Refresh(horoscope);
     }
-    const bool hadKeys = isAncestorOf(window()->focusWidget());
+    const QWidget *keys = window()->focusWidget();
+    const bool areKeysElsewhere = keys != nullptr && !isAncestorOf(keys);
     for (const ViewWindow &each : views_) {
         if (each.view != nullptr) {
             each.Whole()->setVisible(&each == &shown);
         }
     }
-    if (hadKeys) {
+    // The form that started a run has taken the keys of the window with it.
+    activateWindow();
+    if (!areKeysElsewhere) {
         FocusInto(shown.Whole());
     }
     if (shown.panes != nullptr) {
@@ -83,10 +86,9 @@ void ViewArea::ShowView(std::size_t view, const Horoscope &horoscope) {
 
 void ViewArea::resizeEvent(QResizeEvent *event) {
     QWidget::resizeEvent(event);
-    for (const ViewWindow &each : views_) {
-        if (each.view != nullptr) {
-            each.Whole()->setGeometry(rect());
-        }
+    const QList<QWidget *> made = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *view : made) {
+        view->setGeometry(rect());
     }
 }
 

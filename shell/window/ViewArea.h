@@ -21,7 +21,7 @@ public:
     void HideViews();
 
     /// Shows a view alone, and fills it where it is stale. It is made when it is shown for the first time.
-    /// Where the view before it had the keys, it has them from now on.
+    /// It has the keys from now on, unless a part of the window beside the area has them.
     void ShowView(std::size_t view, const Horoscope &horoscope);
 
 protected:
