@@ -11,7 +11,8 @@ namespace {
 
 constexpr QSize leastSize(379, 346);
 
-/// Gives the keys to the part of a view that had them last, or to its first that takes them.
+/// Gives the keys to the part of a view that had them last, or to its first that takes them; to the view
+/// itself where none does.
 void FocusInto(QWidget *view) {
     QWidget *part = view->focusWidget();
     if (part == nullptr) {
@@ -20,9 +21,7 @@ void FocusInto(QWidget *view) {
             part = part->nextInFocusChain();
         }
     }
-    if (view->isAncestorOf(part)) {
-        part->setFocus();
-    }
+    (view->isAncestorOf(part) ? part : view)->setFocus();
 }
 
 } // namespace

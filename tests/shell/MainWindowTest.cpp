@@ -1,6 +1,5 @@
 #include "shell/window/HoroscopeViews.h"
-#include "shell/window/MDILight.h"
-#include "store/database/DatabaseFile.h"
+#include "tests/shell/MainWindowCase.h"
 #include "tests/shell/MessageBoxAnswer.h"
 #include "tests/store/OrdinaryUser.h"
 
@@ -9,15 +8,11 @@
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTableView>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 
 #include <array>
-#include <filesystem>
 #include <fstream>
-#include <memory>
 
 using namespace kelvaro;
 
@@ -45,12 +40,12 @@ constexpr int rasiNode = 1;
 constexpr int navamsaNode = 2;
 constexpr int dasaNode = 8;
 
-class MainWindowTest : public QObject {
+class MainWindowTest : public MainWindowCase {
     Q_OBJECT
 
 private slots:
     void init();
-    void cleanup();
+    void cleanup() { window_.reset(); }
 
     void StartShowsTheSampleBirth();
     void EveryViewShowsItsContents();
@@ -58,7 +53,6 @@ private slots:
     void FaultyDatabaseIsReportedAndTheWindowStays_data();
     void FaultyDatabaseIsReportedAndTheWindowStays();
     void TreeOpensViewsByMouseAndKeys();
-    void OneFrameIsVisibleInEachStyle_data();
     void OneFrameIsVisibleInEachStyle();
     void ViewsFillTheirAreaAndHandTheKeysOn();
     void NothingStartsASecondRunInsideARun();
@@ -66,8 +60,9 @@ private slots:
     void FailedRunNamesItsCauseAndShowsNoFigures();
 
 private:
-    QWidget *Form(const char *name) const { return window_->findChild<QWidget *>(QString::fromLatin1(name)); }
-    QTreeWidget *Tree() const { return window_->findChild<QTreeWidget *>(QStringLiteral("tV")); }
+    QWidget *Form(const char *name) const { return Find(name); }
+    QTreeWidget *Tree() const { return Find<QTreeWidget>("tV"); }
+    QTableView *Grid(const char *name) const { return Find<QTableView>(name); }
 
     QString CellText(const char *form, const QString &label) const {
         return Form(form)->findChild<QLabel *>(label)->text();
@@ -78,35 +73,18 @@ private:
         QTest::mouseClick(Tree()->viewport(), Qt::LeftButton, {}, row.center());
     }
 
-    std::filesystem::path Folder() const { return folder_->path().toStdString(); }
-
-    QTableView *Grid(const char *name) const {
-        return window_->findChild<QTableView *>(QString::fromLatin1(name));
-    }
-
     QString CellOf(const char *grid, int row, int column) const {
         return Grid(grid)->model()->index(row, column).data().toString();
     }
-
-    std::unique_ptr<QTemporaryDir> folder_;
-    std::unique_ptr<MDILight> window_;
 };
 
 void MainWindowTest::init() {
-    folder_ = std::make_unique<QTemporaryDir>();
-    std::filesystem::copy_file(KELVARO_SEED_DATABASE, Folder() / store::databaseFileName);
-    std::filesystem::permissions(Folder() / store::databaseFileName, std::filesystem::perms(0644));
-    window_ = std::make_unique<MDILight>(folder_->filePath(QStringLiteral("settings.ini")));
+    MakeFolder();
+    Open();
     window_->resize(1000, 700);
-    window_->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
-    window_->Start(Folder(), Folder() / "user");
+    Start();
     QVERIFY(Form("frm_UserDetails")->isVisible());
     ClickNode(rasiNode);
-}
-
-void MainWindowTest::cleanup() {
-    window_.reset();
 }
 
 void MainWindowTest::StartShowsTheSampleBirth() {
@@ -130,8 +108,8 @@ void MainWindowTest::EveryViewShowsItsContents() {
         }
         QCOMPARE(visible, QStringList(horoscopeViews.at(static_cast<std::size_t>(node)).form));
     }
-    QCOMPARE(window_->findChild<QLabel *>("txtgmt")->text(), QStringLiteral("14/Jul/1965 08:45 AM"));
-    QCOMPARE(window_->findChild<QLabel *>("txtTithi")->text(), QStringLiteral("Pratipada"));
+    QCOMPARE(Find<QLabel>("txtgmt")->text(), QStringLiteral("14/Jul/1965 08:45 AM"));
+    QCOMPARE(Find<QLabel>("txtTithi")->text(), QStringLiteral("Pratipada"));
     QCOMPARE(CellOf("mshNirayana", 9, 0), QStringLiteral("Ket"));
     QCOMPARE(Grid("mshNirayana")->model()->headerData(8, Qt::Horizontal).toString().trimmed(),
              QStringLiteral("Karaka*"));
@@ -151,13 +129,13 @@ void MainWindowTest::EveryViewShowsItsContents() {
 void MainWindowTest::DasaViewFindsTodayAndFollowsTheChoice() {
     ClickNode(dasaNode);
     QCOMPARE(Grid("mshDasa")->model()->rowCount(), 9);
-    QCOMPARE(window_->findChild<QLabel *>("Lab_DasaBalanceV")->text(),
+    QCOMPARE(Find<QLabel>("Lab_DasaBalanceV")->text(),
              QStringLiteral("Dasa Balance at Birth :Dasa  Sun 2-0- 17"));
     // Born in 1965 with two years of the Sun's dasa left, the native has Jupiter's or Saturn's dasa from 2002
     // to 2037, and Mercury's after it.
     const int today = Grid("mshDasa")->currentIndex().row();
     QVERIFY(today >= 4);
-    QVERIFY(window_->findChild<QLabel *>("todaysPeriods")
+    QVERIFY(Find<QLabel>("todaysPeriods")
                 ->text()
                 .contains(QStringLiteral("Dasa ") + CellOf("mshDasa", today, 0)));
 
@@ -168,51 +146,46 @@ void MainWindowTest::DasaViewFindsTodayAndFollowsTheChoice() {
     QCOMPARE(CellOf("mshBukti", 0, 0), QStringLiteral("Moon Dasa"));
     QTest::mouseClick(Grid("mshBukti")->viewport(), Qt::LeftButton, {},
                       Grid("mshBukti")->visualRect(Grid("mshBukti")->model()->index(1, 0)).center());
-    QCOMPARE(window_->findChild<QComboBox *>("antraSections")->currentText(),
-             QStringLiteral("Moon Dasa, Mars Bhukthi"));
+    QCOMPARE(Find<QComboBox>("antraSections")->currentText(), QStringLiteral("Moon Dasa, Mars Bhukthi"));
     QCOMPARE(Grid("mshAntra")->model()->rowCount(), 9);
     QCOMPARE(CellOf("mshAntra", 0, 0), QStringLiteral("Mars"));
 
-    QTest::mouseClick(window_->findChild<QPushButton *>("cmdToday"), Qt::LeftButton);
+    QTest::mouseClick(Find<QPushButton>("cmdToday"), Qt::LeftButton);
     QCOMPARE(Grid("mshDasa")->currentIndex().row(), today);
 }
 
 void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays_data() {
-    QTest::addColumn<QString>("fault");
     QTest::addColumn<QString>("cause");
-    QTest::newRow("missing") << "missing"
-                             << "missing";
-    QTest::newRow("damaged") << "damaged"
-                             << "DBMirvaneBasic.mdb";
-    QTest::newRow("empty") << "empty"
-                           << "Preference";
-    QTest::newRow("read-only") << "read-only"
-                               << "write-protected";
+    const std::array<std::array<const char *, 2>, 4> rows{{{"missing", "missing"},
+                                                           {"damaged", "DBMirvaneBasic.mdb"},
+                                                           {"empty", "Preference"},
+                                                           {"read-only", "write-protected"}}};
+    for (const auto &[fault, cause] : rows) {
+        QTest::newRow(fault) << QString(cause);
+    }
 }
 
 void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays() {
-    QFETCH(QString, fault);
     QFETCH(QString, cause);
-    const std::filesystem::path file = Folder() / store::databaseFileName;
-    window_ = std::make_unique<MDILight>(folder_->filePath(QStringLiteral("settings.ini")));
-    window_->show();
+    const QLatin1String fault(QTest::currentDataTag());
+    Open();
     std::filesystem::permissions(Folder(), std::filesystem::perms::all);
-    std::filesystem::permissions(file, std::filesystem::perms(0666));
-    if (fault == QStringLiteral("missing")) {
-        std::filesystem::remove(file);
-    } else if (fault == QStringLiteral("damaged")) {
-        std::ofstream(file, std::ios::binary) << "no database";
-    } else if (fault == QStringLiteral("read-only")) {
-        std::filesystem::permissions(file, std::filesystem::perms(0444));
+    std::filesystem::permissions(DatabaseFile(), std::filesystem::perms(0666));
+    if (fault == QLatin1String("missing")) {
+        std::filesystem::remove(DatabaseFile());
+    } else if (fault == QLatin1String("damaged")) {
+        std::ofstream(DatabaseFile(), std::ios::binary) << "no database";
+    } else if (fault == QLatin1String("read-only")) {
+        std::filesystem::permissions(DatabaseFile(), std::filesystem::perms(0444));
     } else {
         store::Connection other;
-        other.Open(file);
+        other.Open(DatabaseFile());
         other.Execute("delete from Preference");
     }
     MessageBoxAnswer answer;
     {
         const store::OrdinaryUser user;
-        window_->Start(Folder(), Folder() / "user");
+        Start();
     }
     QCOMPARE(answer.Count(), 1);
     QVERIFY2(answer.Text().contains(cause), qPrintable(answer.Text()));
@@ -239,34 +212,22 @@ void MainWindowTest::TreeOpensViewsByMouseAndKeys() {
     QCOMPARE(Tree()->currentItem()->text(0), QStringLiteral("Navamsa"));
 }
 
-void MainWindowTest::OneFrameIsVisibleInEachStyle_data() {
-    QTest::addColumn<QString>("style");
-    QTest::addColumn<QString>("frame");
-    QTest::addColumn<QString>("lagnaLabel");
-    QTest::newRow("South") << "South"
-                           << "Frame_SouthBride"
-                           << "Lab_GM_GirlHouse_6";
-    QTest::newRow("East") << "East"
-                          << "Frame_EastBride"
-                          << "Lab_chartHouse_Girl_Rasi_7";
-    QTest::newRow("North") << "North"
-                           << "Frame_NorthBride"
-                           << "Lab_ChartHouseN_Girl_1";
-}
-
 void MainWindowTest::OneFrameIsVisibleInEachStyle() {
-    QFETCH(QString, style);
-    QFETCH(QString, frame);
-    QFETCH(QString, lagnaLabel);
-    window_->HoroscopeInForce().state.preferences.ChartStyle = style.toStdString();
-    window_->HoroscopeInForce().state.preferences.Language = "Sanskrit";
-    window_->Calculate();
-    for (const char *each : {"Frame_SouthBride", "Frame_EastBride", "Frame_NorthBride"}) {
-        QCOMPARE(Form("frm_rasi")->findChild<QWidget *>(each)->isVisible(), frame == QLatin1String(each));
+    const struct {
+        const char *style, *frame, *lagnaLabel, *firstHouse;
+    } cases[] = {{"South", "Frame_SouthBride", "Lab_GM_GirlHouse_6", ""},
+                 {"East", "Frame_EastBride", "Lab_chartHouse_Girl_Rasi_7", ""},
+                 {"North", "Frame_NorthBride", "Lab_ChartHouseN_Girl_1", "7"}};
+    for (const auto &c : cases) {
+        window_->HoroscopeInForce().state.preferences.ChartStyle = c.style;
+        window_->HoroscopeInForce().state.preferences.Language = "Sanskrit";
+        window_->Calculate();
+        for (const auto &each : cases) {
+            QCOMPARE(Form("frm_rasi")->findChild<QWidget *>(each.frame)->isVisible(), &each == &c);
+        }
+        QVERIFY(CellText("frm_rasi", c.lagnaLabel).startsWith(QStringLiteral("Lag")));
+        QCOMPARE(CellText("frm_rasi", "Lab_NHouseNo_1"), QString(c.firstHouse));
     }
-    QVERIFY(CellText("frm_rasi", lagnaLabel).startsWith(QStringLiteral("Lag")));
-    const QString firstHouse = CellText("frm_rasi", "Lab_NHouseNo_1");
-    QCOMPARE(firstHouse, style == QStringLiteral("North") ? QStringLiteral("7") : QString());
 }
 
 void MainWindowTest::ViewsFillTheirAreaAndHandTheKeysOn() {

@@ -1,6 +1,5 @@
 #include "shell/window/HoroscopeViews.h"
-#include "shell/window/MDILight.h"
-#include "store/database/DatabaseFile.h"
+#include "tests/shell/MainWindowCase.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
 #include <QDialog>
@@ -8,14 +7,9 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
-
-#include <filesystem>
-#include <memory>
 
 using namespace kelvaro;
 
@@ -43,11 +37,14 @@ private:
 
 } // namespace
 
-class MenuTest : public QObject {
+class MenuTest : public MainWindowCase {
     Q_OBJECT
 
 private slots:
-    void init();
+    void init() {
+        MakeFolder();
+        Open();
+    }
     void cleanup() { window_.reset(); }
 
     void MenusStandInTheirOrder();
@@ -62,9 +59,7 @@ private slots:
     void ExitUnloadsTheWindowsInOrder();
 
 private:
-    QAction *Action(const char *name) const {
-        return window_->findChild<QAction *>(QString::fromLatin1(name));
-    }
+    QAction *Action(const char *name) const { return Find<QAction>(name); }
 
     void Click(QWidget *bar, QAction *action) const {
         const QRect place = qobject_cast<QMenuBar *>(bar) != nullptr
@@ -81,29 +76,7 @@ private:
             Click(Action(menu)->menu(), Action(entry));
         }
     }
-
-    std::string DatabaseFile() const {
-        return folder_->path().toStdString() + "/" + std::string(store::databaseFileName);
-    }
-
-    void Open() {
-        window_ = std::make_unique<MDILight>(folder_->filePath(QStringLiteral("settings.ini")));
-        window_->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window_.get()));
-    }
-    void Start() { window_->Start(folder_->path().toStdString(), folder_->path().toStdString()); }
-
-    std::unique_ptr<QTemporaryDir> folder_;
-    std::unique_ptr<MDILight> window_;
 };
-
-void MenuTest::init() {
-    folder_ = std::make_unique<QTemporaryDir>();
-    const std::filesystem::path database = DatabaseFile();
-    std::filesystem::copy_file(KELVARO_SEED_DATABASE, database);
-    std::filesystem::permissions(database, std::filesystem::perms(0644));
-    Open();
-}
 
 void MenuTest::MenusStandInTheirOrder() {
     QStringList captions;
@@ -115,24 +88,10 @@ void MenuTest::MenusStandInTheirOrder() {
             }
         }
     }
-    const QStringList expected{"&Enter Birth Details",
-                               "&Tools",
-                               "&Country Master",
-                               "Cit&y Master",
-                               "Time &Zone Master",
-                               "-",
-                               "Edit Personal &Info",
-                               "&Preferences",
-                               "&Time Converter",
-                               "&BirthTime To  IshtaGhatika",
-                               "-",
-                               "Ishta&Ghatika To BirthTime",
-                               "Help",
-                               "&Help",
-                               "-",
-                               "&About Us",
-                               "E&xit"};
-    QCOMPARE(captions, expected);
+    QCOMPARE(captions.join(u'|'),
+             QStringLiteral("&Enter Birth Details|&Tools|&Country Master|Cit&y Master|Time &Zone Master|-|"
+                            "Edit Personal &Info|&Preferences|&Time Converter|&BirthTime To  IshtaGhatika|-|"
+                            "Ishta&Ghatika To BirthTime|Help|&Help|-|&About Us|E&xit"));
 }
 
 void MenuTest::MenusWaitForTheDatabase() {
@@ -188,17 +147,18 @@ void MenuTest::FaultIsToldByTheBirthForm() {
     const MessageBoxAnswer answer;
     Choose("mnuBirthDetails", nullptr);
     QCOMPARE(answer.Icon(), QMessageBox::Critical);
-    QVERIFY2(answer.Text().contains(QStringLiteral("country_master"), Qt::CaseInsensitive), qPrintable(answer.Text()));
-    QVERIFY(window_->findChild<QDialog *>(QStringLiteral("frm_OpenChart")) == nullptr);
+    QVERIFY2(answer.Text().contains(QStringLiteral("country_master"), Qt::CaseInsensitive),
+             qPrintable(answer.Text()));
+    QVERIFY(Find("frm_OpenChart") == nullptr);
     other.Execute("alter table Lost rename to Country_Master");
     Choose("mnuBirthDetails", nullptr);
-    QVERIFY(window_->findChild<QDialog *>(QStringLiteral("frm_OpenChart"))->isVisible());
+    QVERIFY(Find("frm_OpenChart")->isVisible());
 }
 
 void MenuTest::HelpOpensAtTheSubjectInFront() {
     Start();
     const auto text = [this] {
-        auto *help = window_->findChild<QDialog *>(QStringLiteral("helpWindow"));
+        auto *help = Find("helpWindow");
         return help->findChild<QTextBrowser *>()->textCursor().block().text();
     };
     Choose("mdiHelpmnu", "mnuHelp");
@@ -214,7 +174,7 @@ void MenuTest::HelpOpensAtTheSubjectInFront() {
 void MenuTest::KeysServeTheForms() {
     Start();
     QTest::keyClick(window_.get(), Qt::Key_P, Qt::ControlModifier);
-    QVERIFY(window_->findChild<QWidget *>(QStringLiteral("Frm_Print"))->isVisible());
+    QVERIFY(Find("Frm_Print")->isVisible());
     QCOMPARE(window_->focusWidget()->objectName(), QStringLiteral("CoPrt"));
     QTest::keyClick(window_.get(), Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(QApplication::activeModalWidget()->objectName(), QStringLiteral("frm_OpenChart"));
@@ -238,7 +198,7 @@ void MenuTest::WindowComesBackWhereItWas() {
 }
 
 void MenuTest::LastChartComesBack() {
-    QSettings settings(folder_->filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+    QSettings settings(SettingsFile(), QSettings::IniFormat);
     settings.setValue(QStringLiteral("Horo/Name"), QStringLiteral("Ananda"));
     settings.sync();
     Open();

@@ -1,16 +1,12 @@
-#include "shell/window/MDILight.h"
-#include "store/database/DatabaseFile.h"
+#include "tests/shell/MainWindowCase.h"
 
 #include <QDesktopServices>
 #include <QNetworkAccessManager>
 #include <QPushButton>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QTextBrowser>
 
-#include <filesystem>
 #include <memory>
 
 using namespace kelvaro;
@@ -40,7 +36,7 @@ private:
     }
 };
 
-class ServerPaneTest : public QObject {
+class ServerPaneTest : public MainWindowCase {
     Q_OBJECT
 
 public slots:
@@ -48,57 +44,42 @@ public slots:
 
 private slots:
     void init();
-    void NothingIsFetchedWithoutAnAddress_data();
     void NothingIsFetchedWithoutAnAddress();
     void PagesOfTheServerStandBesideEachView();
     void ASilentServerIsTold();
 
 private:
-    void Start(const QString &address);
+    void StartWith(const QString &address);
 
-    QTextBrowser *Pane(const char *name) const {
-        return window_->findChild<QTextBrowser *>(QString::fromLatin1(name));
-    }
+    QTextBrowser *Pane(const char *name) const { return Find<QTextBrowser>(name); }
 
-    std::unique_ptr<QTemporaryDir> folder_;
     std::unique_ptr<PageServer> server_;
-    std::unique_ptr<MDILight> window_;
     QList<QUrl> opened_;
 };
 
 void ServerPaneTest::init() {
     opened_.clear();
-    folder_ = std::make_unique<QTemporaryDir>();
-    std::filesystem::copy_file(KELVARO_SEED_DATABASE, std::filesystem::path(folder_->path().toStdString()) /
-                                                          store::databaseFileName);
+    MakeFolder();
     server_ = std::make_unique<PageServer>();
     QVERIFY(server_->listen(QHostAddress::LocalHost));
 }
 
-void ServerPaneTest::Start(const QString &address) {
-    const QString file = folder_->filePath(QStringLiteral("settings.ini"));
-    QSettings(file, QSettings::IniFormat).setValue(QStringLiteral("Server/Address"), address);
-    window_ = std::make_unique<MDILight>(file);
-    window_->show();
-    window_->Start(folder_->path().toStdString(), folder_->path().toStdString());
-}
-
-void ServerPaneTest::NothingIsFetchedWithoutAnAddress_data() {
-    QTest::addColumn<QString>("address");
-    QTest::newRow("none") << QString();
-    QTest::newRow("a file") << QStringLiteral("file:///etc/hostname");
-    QTest::newRow("no address") << QStringLiteral("127.0.0.1");
+void ServerPaneTest::StartWith(const QString &address) {
+    QSettings(SettingsFile(), QSettings::IniFormat).setValue(QStringLiteral("Server/Address"), address);
+    Open();
+    Start();
 }
 
 void ServerPaneTest::NothingIsFetchedWithoutAnAddress() {
-    QFETCH(QString, address);
-    Start(address);
-    QCOMPARE(Pane("WebMirvaneAdds_Right"), nullptr);
-    QCOMPARE(window_->findChild<QNetworkAccessManager *>(), nullptr);
+    for (const char *address : {"", "file:///etc/hostname", "127.0.0.1"}) {
+        StartWith(QString::fromLatin1(address));
+        QCOMPARE(Pane("WebMirvaneAdds_Right"), nullptr);
+        QCOMPARE(window_->findChild<QNetworkAccessManager *>(), nullptr);
+    }
 }
 
 void ServerPaneTest::PagesOfTheServerStandBesideEachView() {
-    Start(QStringLiteral("http://127.0.0.1:%1/kelvaro/").arg(server_->serverPort()));
+    StartWith(QStringLiteral("http://127.0.0.1:%1/kelvaro/").arg(server_->serverPort()));
     QTextBrowser *right = Pane("WebMirvaneAdds_Right");
     QTRY_VERIFY(right->toPlainText().contains(QStringLiteral("Muhurta of the week")));
     QTRY_VERIFY(Pane("WebMirvaneAdds_Bottom")->toPlainText().contains(u"Muhurta"));
@@ -120,7 +101,7 @@ void ServerPaneTest::PagesOfTheServerStandBesideEachView() {
 void ServerPaneTest::ASilentServerIsTold() {
     const quint16 port = server_->serverPort();
     server_->close();
-    Start(QStringLiteral("http://127.0.0.1:%1").arg(port));
+    StartWith(QStringLiteral("http://127.0.0.1:%1").arg(port));
     QTRY_VERIFY(Pane("WebMirvaneAdds_Right")->toPlainText().contains(u"cannot be shown"));
     QVERIFY(window_->findChild<QWidget *>(QStringLiteral("frm_UserDetails"))->isVisible());
 }

@@ -27,7 +27,6 @@ class TextGridViewTest : public QObject {
 private slots:
     void TextsComeFromTheGrid();
     void SomeRowsOfTheGridKeepTheirBoldCells();
-    void NothingIsCut_data();
     void NothingIsCut();
     void RowsShareTheRoomWithinBounds();
     void SelectionIsCopied();
@@ -75,31 +74,23 @@ void TextGridViewTest::SomeRowsOfTheGridKeepTheirBoldCells() {
     QVERIFY(!IsBoldAt(view, 0, 0));
 }
 
-void TextGridViewTest::NothingIsCut_data() {
-    QTest::addColumn<double>("points");
-    QTest::addColumn<int>("extraWidth");
-    QTest::newRow("as wide as needed") << 9.0 << 0;
-    QTest::newRow("a little wider") << 14.0 << 40;
-    QTest::newRow("much wider") << 9.0 << 2000;
-}
-
 void TextGridViewTest::NothingIsCut() {
-    QFETCH(double, points);
-    QFETCH(int, extraWidth);
     TextGridView view(QStringLiteral("grid"), QStringLiteral("lccr"));
     view.Show(Periods());
-    for (int row = 0; row < 3; ++row) {
-        view.Rows().Mark(row); // bold texts are the widest
-        const QSize least = view.SizeAt(points);
-        view.LayOut(points, least.width() + extraWidth, view.RowHeightAt(points, 4, 0));
-        QCOMPARE(view.size(), least + QSize(extraWidth, 0));
-        view.show();
-        for (int column = 0; column < view.model()->columnCount(); ++column) {
-            QVERIFY(view.columnWidth(column) >=
-                    view.sizeHintForIndex(view.model()->index(row, column)).width());
+    for (const auto &[points, extraWidth] : {std::pair{9.0, 0}, {14.0, 40}, {9.0, 2000}}) {
+        for (int row = 0; row < 3; ++row) {
+            view.Rows().Mark(row); // bold texts are the widest
+            const QSize least = view.SizeAt(points);
+            view.LayOut(points, least.width() + extraWidth, view.RowHeightAt(points, 4, 0));
+            QCOMPARE(view.size(), least + QSize(extraWidth, 0));
+            view.show();
+            for (int column = 0; column < view.model()->columnCount(); ++column) {
+                QVERIFY(view.columnWidth(column) >=
+                        view.sizeHintForIndex(view.model()->index(row, column)).width());
+            }
+            QCOMPARE(view.horizontalScrollBar()->maximum(), 0);
+            QCOMPARE(view.verticalScrollBar()->maximum(), 0);
         }
-        QCOMPARE(view.horizontalScrollBar()->maximum(), 0);
-        QCOMPARE(view.verticalScrollBar()->maximum(), 0);
     }
 }
 
