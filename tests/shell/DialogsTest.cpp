@@ -17,6 +17,7 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QListWidget>
+#include <QRadioButton>
 #include <QTabWidget>
 
 #include <memory>
@@ -24,7 +25,8 @@
 using namespace kelvaro;
 using namespace Qt::StringLiterals;
 
-class MastersTest : public QObject {
+/// The dialogs beside those of the birth and of the preferences, and what all of them tell.
+class DialogsTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -37,6 +39,8 @@ private slots:
     void TypedTextsThatNameNoRowAreNotChosen();
     void AQuoteIsToldAndNothingTypedIsLost();
     void Letterhead();
+    void BirthTimeBecomesIshtaGhatiAndComesBack();
+    void AConverterTellsFaultsAndItsFieldWaits();
     void EveryNoticeNamesAFieldOfItsDialog();
 
 private:
@@ -78,13 +82,13 @@ private:
     store::Connection connection_;
 };
 
-void MastersTest::init() {
+void DialogsTest::init() {
     connection_.Close();
     folder_ = std::make_unique<SeedFolder>();
     connection_.Open(folder_->file);
 }
 
-void MastersTest::ANewPlaceServesAtOnce() {
+void DialogsTest::ANewPlaceServesAtOnce() {
     MessageBoxAnswer answer;
     NoDisplay display;
     Horoscope horoscope(connection_, display);
@@ -130,7 +134,7 @@ void MastersTest::ANewPlaceServesAtOnce() {
     QVERIFY(!horoscope.forms.Frm_Dasa.mshAntra.rows.empty());
 }
 
-void MastersTest::EditedPlacesShowAsTold() {
+void DialogsTest::EditedPlacesShowAsTold() {
     MessageBoxAnswer answer;
     const auto countries = Open<CountryDialog>(1);
     auto *list = countries->findChild<QListWidget *>("lstEditBox");
@@ -176,7 +180,7 @@ void MastersTest::EditedPlacesShowAsTold() {
     QCOMPARE(TextIn(*cities, "cbEditEW"), QString());
 }
 
-void MastersTest::CountrySearchAnswersAtEachKey() {
+void DialogsTest::CountrySearchAnswersAtEachKey() {
     MessageBoxAnswer answer;
     const auto dialog = Open<CountryDialog>();
     const auto *list = dialog->findChild<QListWidget *>("lstboxAdd");
@@ -196,7 +200,7 @@ void MastersTest::CountrySearchAnswersAtEachKey() {
     QCOMPARE(answer.Count(), 1);
 }
 
-void MastersTest::ThousandsOfCitiesAnswerAtEachKey() {
+void DialogsTest::ThousandsOfCitiesAnswerAtEachKey() {
     MessageBoxAnswer answer;
     const auto dialog = Open<CityDialog>(2);
     Press(*dialog, "cmdFind");
@@ -226,7 +230,7 @@ void MastersTest::ThousandsOfCitiesAnswerAtEachKey() {
     QCOMPARE(answer.Text(), u"No matches found for the City Name entered"_s);
 }
 
-void MastersTest::OnlyDigitsAreTyped() {
+void DialogsTest::OnlyDigitsAreTyped() {
     const auto cities = Open<CityDialog>();
     const auto zones = Open<TimeZoneDialog>();
     QApplication::clipboard()->setText(u"-5.5"_s);
@@ -246,7 +250,7 @@ void MastersTest::OnlyDigitsAreTyped() {
     QCOMPARE(TextIn(*cities, "txtAddCity"), u"Area 51-b"_s);
 }
 
-void MastersTest::TypedTextsThatNameNoRowAreNotChosen() {
+void DialogsTest::TypedTextsThatNameNoRowAreNotChosen() {
     MessageBoxAnswer answer;
     const auto dialog = Open<CityDialog>();
     Type(*dialog, "cbAddCountry", "India");
@@ -258,7 +262,7 @@ void MastersTest::TypedTextsThatNameNoRowAreNotChosen() {
     QCOMPARE(FocusIn(*dialog), u"cbAddCountry"_s);
 }
 
-void MastersTest::AQuoteIsToldAndNothingTypedIsLost() {
+void DialogsTest::AQuoteIsToldAndNothingTypedIsLost() {
     MessageBoxAnswer answer;
     const auto dialog = Open<CountryDialog>();
     const int count = dialog->findChild<QListWidget *>("lstboxAdd")->count();
@@ -270,7 +274,7 @@ void MastersTest::AQuoteIsToldAndNothingTypedIsLost() {
     QCOMPARE(static_cast<int>(store::PlaceLists(connection_).Countries().size()), count);
 }
 
-void MastersTest::Letterhead() {
+void DialogsTest::Letterhead() {
     MessageBoxAnswer answer;
     auto dialog = Open<PersonalInfoDialog>();
     QCOMPARE(dialog->windowTitle(), u"Edit Personal Info"_s);
@@ -296,7 +300,61 @@ void MastersTest::Letterhead() {
     QCOMPARE(dialog->result(), static_cast<int>(QDialog::Rejected));
 }
 
-void MastersTest::EveryNoticeNamesAFieldOfItsDialog() {
+void DialogsTest::BirthTimeBecomesIshtaGhatiAndComesBack() {
+    NoDisplay display;
+    Horoscope horoscope(connection_, display);
+    const MessageBoxAnswer answer;
+    IshtaGhatiDialog there(horoscope);
+    QCOMPARE(there.objectName(), u"frm_BirthTimetoIshtaGhatika"_s);
+    there.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&there));
+    for (const char *text : {"14", "jul", "1965", "02", "15"}) {
+        Enter(there, text);
+    }
+    there.findChild<QRadioButton *>(u"Opt_PM"_s)->setFocus();
+    QTest::keyClick(there.focusWidget(), Qt::Key_Space);
+    QTest::keyClick(there.focusWidget(), Qt::Key_Return);
+    Enter(there, "india");
+    Enter(there, "hyderabad (a");
+    QTest::keyClick(there.focusWidget(), Qt::Key_Return); // the one zone of the country stands there
+    QTest::keyClick(there.focusWidget(), Qt::Key_Return); // the button
+    QCOMPARE(answer.Text(), QString());
+    // The sun rose at 05:50, 505 minutes before.
+    QCOMPARE(TextIn(there, "txtIshtaGhati"), u"Ishta Ghati : 21:2:30"_s);
+
+    BirthTimeDialog back(horoscope);
+    back.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&back));
+    for (const char *text : {"14", "jul", "1965", "21", "2.5", "india", "hyderabad (a", "", ""}) {
+        Enter(back, text);
+    }
+    QCOMPARE(TextIn(back, "txtBirthTime"), u"Birth Time : 02:15 PM"_s);
+}
+
+void DialogsTest::AConverterTellsFaultsAndItsFieldWaits() {
+    NoDisplay display;
+    Horoscope horoscope(connection_, display);
+    BirthTimeDialog dialog(horoscope);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    const MessageBoxAnswer answer;
+    Press(dialog, "cmdSubmit");
+    QCOMPARE(answer.Text(), u"Select Country"_s);
+    QCOMPARE(FocusIn(dialog), u"Cmb_VP_Country"_s);
+    Enter(dialog, "india");
+    QTest::keyClicks(dialog.focusWidget(), u"no such town"_s);
+    Press(dialog, "cmdSubmit");
+    QCOMPARE(answer.Text(), u"Select City"_s);
+    QCOMPARE(TextIn(dialog, "Cmb_VP_City").toLower(), u"no such town"_s);
+    Type(dialog, "Cmb_VP_City", "delhi");
+    Type(dialog, "txt_Date", "31");
+    Type(dialog, "txt_Month", "feb");
+    Press(dialog, "cmdSubmit");
+    QCOMPARE(answer.Icon(), QMessageBox::Critical);
+    QVERIFY2(answer.Text().contains(u"31/2/"_s), qPrintable(answer.Text()));
+}
+
+void DialogsTest::EveryNoticeNamesAFieldOfItsDialog() {
     const auto hasField = [](const QDialog &dialog, const auto &rules) {
         for (const auto &rule : rules) {
             const bool isThere =
@@ -328,5 +386,5 @@ void MastersTest::EveryNoticeNamesAFieldOfItsDialog() {
     hasField(ChartListDialog(connection_), std::array{NoChartChosen()});
 }
 
-QTEST_MAIN(MastersTest)
-#include "MastersTest.moc"
+QTEST_MAIN(DialogsTest)
+#include "DialogsTest.moc"
