@@ -2,7 +2,6 @@
 
 #include "analysis/Lords.h"
 #include "analysis/VimshottariDasa.h"
-#include "panchanga/PlacePositions.h"
 #include "runtime/MomentText.h"
 
 #include <cmath>
@@ -54,7 +53,7 @@ struct NamedScheme {
 };
 
 void FindMoon(HoroscopeState &state, ClsFindPlanetPosition &position) {
-    FindFixValuesAt(position, state, state.positions.BirthMomentDate, state.preferences.AyanamsaInForce);
+    position.FindFixValuesAt(state.positions.BirthMomentDate, state.site, state.preferences.InForce());
     state.positions.MoonLon = position.FnFindMoonPosition();
 }
 

@@ -4,7 +4,6 @@
 #include "analysis/LongitudeCells.h"
 #include "analysis/SayanadiAvastha.h"
 #include "horoscope/record/Bodies.h"
-#include "panchanga/PlacePositions.h"
 #include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
 
@@ -58,8 +57,8 @@ double LongitudeIn(const HoroscopeState &state, std::size_t row) {
 }
 
 void FindNextDay(const HoroscopeState &state, ClsFindPlanetPosition &position) {
-    FindFixValuesAt(position, state, DateAdd(Interval::Day, 1, state.positions.BirthMomentDate),
-                    state.preferences.AyanamsaInForce);
+    position.FindFixValuesAt(DateAdd(Interval::Day, 1, state.positions.BirthMomentDate), state.site,
+                             state.preferences.InForce());
 }
 
 void FillClasses(const HoroscopeState &state, TextGrid &grid, clsStar &star) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace kelvaro {
@@ -13,6 +14,13 @@ enum class Ayanamsa {
     Sayana,  ///< tropical: none
     Custom,  ///< from a zero year and a yearly progress
     Unknown, ///< a word of no school: the value found last stays
+};
+
+/// The choice of an ayanamsa as the preferences keep it.
+struct AyanamsaSettings {
+    std::string word;    ///< of its school
+    double zeroYear = 0; ///< of a custom one
+    double progress = 0; ///< of a custom one, seconds of arc a year
 };
 
 /// The school of a stored word.

@@ -2,29 +2,18 @@
 
 namespace kelvaro {
 
-ClsPlanet &ClsFindPlanetPosition::Planet() {
-    if (!planet_) {
-        planet_ = std::make_unique<ClsPlanet>();
-    }
-    return *planet_;
-}
-
-void ClsFindPlanetPosition::SetInputs(Moment date, const std::string &strNS, double latDeg, double latMin,
-                                      const std::string &strEW, double lonDeg, double lonMin,
-                                      double zoneHours, const std::string &strZoneSide,
-                                      const std::string &ayanamsaType, double zeroYear, double progress) {
-    ClsPlanet &planet = Planet();
-    planet.BirthDateTime = date;
-    planet.CL_LatitudeDeg = strNS == "S" && latDeg > 0 ? -latDeg : latDeg;
-    planet.CL_LongitudeDeg = strEW == "E" && lonDeg > 0 ? -lonDeg : lonDeg;
-    planet.CL_LongitudeMin = lonMin;
-    planet.CL_LatitideMin = latMin;
-    const bool isCustom = ayanamsaType == "Custom";
-    planet.strProgressVal = isCustom ? progress : 0;
-    planet.strZeroYearVal = isCustom ? zeroYear : 0;
-    planet.TZone = strZoneSide == "W" ? -zoneHours : zoneHours;
-    planet.DSAVE = 0;
-    planet.AyType = ayanamsaType;
+void ClsFindPlanetPosition::SetInputs(Moment date, const Site &site, const AyanamsaSettings &ayanamsa) {
+    planet_.BirthDateTime = date;
+    planet_.CL_LatitudeDeg = site.LatNS == "S" && site.LatDeg > 0 ? -site.LatDeg : site.LatDeg;
+    planet_.CL_LongitudeDeg = site.LonEW == "E" && site.LonDeg > 0 ? -site.LonDeg : site.LonDeg;
+    planet_.CL_LongitudeMin = site.LonMin;
+    planet_.CL_LatitideMin = site.LatMin;
+    const bool isCustom = AyanamsaOf(ayanamsa.word) == Ayanamsa::Custom;
+    planet_.strProgressVal = isCustom ? ayanamsa.progress : 0;
+    planet_.strZeroYearVal = isCustom ? ayanamsa.zeroYear : 0;
+    planet_.TZone = site.TimeDiffEW == "W" ? -site.TimeDiff : site.TimeDiff;
+    planet_.DSAVE = 0;
+    planet_.AyType = ayanamsa.word;
 }
 
 void ClsFindPlanetPosition::FindFixValues(Moment date, const std::string &strNS, double latDeg, double latMin,
@@ -32,19 +21,26 @@ void ClsFindPlanetPosition::FindFixValues(Moment date, const std::string &strNS,
                                           double zoneHours, const std::string &strZoneSide,
                                           double /*daylightHours*/, const std::string &ayanamsaType,
                                           double zeroYear, double progress) {
-    SetInputs(date, strNS, latDeg, latMin, strEW, lonDeg, lonMin, zoneHours, strZoneSide, ayanamsaType,
-              zeroYear, progress);
-    Planet().FnCalculate();
+    FindFixValuesAt(date, {latDeg, latMin, strNS, lonDeg, lonMin, strEW, zoneHours, strZoneSide},
+                    {ayanamsaType, zeroYear, progress});
 }
 
-void ClsFindPlanetPosition::FindSunAndMoon(Moment date, const std::string &strNS, double latDeg,
-                                           double latMin, const std::string &strEW, double lonDeg,
-                                           double lonMin, double zoneHours, const std::string &strZoneSide,
-                                           const std::string &ayanamsaType, double zeroYear,
-                                           double progress) {
-    SetInputs(date, strNS, latDeg, latMin, strEW, lonDeg, lonMin, zoneHours, strZoneSide, ayanamsaType,
-              zeroYear, progress);
-    Planet().FnCalculateSunAndMoon();
+void ClsFindPlanetPosition::FindFixValuesAt(Moment date, const Site &site, const AyanamsaSettings &ayanamsa) {
+    SetInputs(date, site, ayanamsa);
+    planet_.FnCalculate();
+}
+
+SunAndMoon ClsFindPlanetPosition::FindSunAndMoonAt(Moment date, const Site &site,
+                                                   const AyanamsaSettings &ayanamsa) {
+    SetInputs(date, site, ayanamsa);
+    planet_.FnCalculateSunAndMoon();
+    return {planet_.SuryaValue, planet_.ChandraValue, planet_.Ayanamsa};
+}
+
+void ClsFindPlanetPosition::Recall(const SunAndMoon &found) {
+    planet_.SuryaValue = found.sun;
+    planet_.ChandraValue = found.moon;
+    planet_.Ayanamsa = found.ayanamsa;
 }
 
 } // namespace kelvaro

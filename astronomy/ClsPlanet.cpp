@@ -1,5 +1,6 @@
 #include "astronomy/ClsPlanet.h"
 
+#include "astronomy/Ayanamsa.h"
 #include "astronomy/theory/AngleReduction.h"
 #include "astronomy/theory/Ascendant.h"
 #include "astronomy/theory/AyanamsaFormulas.h"
@@ -116,16 +117,24 @@ void ClsPlanet::FindNodes() {
 
 void ClsPlanet::FindAyanamsa() {
     const int year = civil_.date.year;
-    if (AyType == "Lahiri") {
+    switch (AyanamsaOf(AyType)) {
+    case Ayanamsa::Lahiri:
         Ayanamsa = FnFindLahiri(ClockCenturies());
-    } else if (AyType == "Raman") {
+        break;
+    case Ayanamsa::Raman:
         Ayanamsa = -FnFindRaman(year, DaysFromNewYear(year, BirthDateTime));
-    } else if (AyType == "KP") {
+        break;
+    case Ayanamsa::KP:
         Ayanamsa = -FnFindKP(DaysFromNewYear(1900, BirthDateTime));
-    } else if (AyType == "Sayana") {
+        break;
+    case Ayanamsa::Sayana:
         Ayanamsa = 0;
-    } else if (AyType == "Custom") {
+        break;
+    case Ayanamsa::Custom:
         Ayanamsa = -FnFindCustom(strZeroYearVal, strProgressVal, year, DaysFromNewYear(year, BirthDateTime));
+        break;
+    case Ayanamsa::Unknown:
+        break; // that of the calculation before
     }
 }
 

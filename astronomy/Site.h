@@ -14,6 +14,8 @@ struct Site {
     std::string LonEW = "E"; ///< "E" or "W"
     double TimeDiff = 0;     ///< hours from Greenwich, its direction in TimeDiffEW
     std::string TimeDiffEW = "E";
+
+    friend bool operator==(const Site &, const Site &) = default;
 };
 
 } // namespace kelvaro

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cmath>
+#include <optional>
 
 namespace kelvaro {
 
@@ -100,22 +101,40 @@ void FnFindQuadraticRoots(double before, double middle, double after, Parabola &
     }
 }
 
-} // namespace
+/// The altitude of the Sun over the hours of a date.
+class Altitude {
+public:
+    Altitude(double date, double latitude, double longitude)
+        : date_(date), longitude_(longitude), sinLatitude_(std::sin(latitude * degree)),
+          cosLatitude_(std::cos(latitude * degree)) {}
 
-void clsSunrise::FnCalculate() {
-    latitude_ = SignedDegrees(CL_LatitudeDeg, CL_LatitideMin);
-    longitude_ = SignedDegrees(CL_LongitudeDeg, CL_LongitudeMin);
-    const CivilDate date = Split(BirthDateTime).date;
-    FnFindRiseAndSet(FnFindMJD(date.day, date.month, date.year, 0));
-}
+    double FnFindSinAltitude(double hour) const {
+        const double t = date_ + hour / 24;
+        const Equatorial sun = FnFindMiniSun((t - epochJ2000) / daysInCentury);
+        const double hourAngle = (FnFindLocalSiderealHours(t, longitude_) - sun.rightAscension) * 15;
+        return sinLatitude_ * std::sin(sun.declination * degree) +
+               cosLatitude_ * std::cos(sun.declination * degree) * std::cos(hourAngle * degree);
+    }
 
-void clsSunrise::FnFindRiseAndSet(double modifiedJulianDate) {
+private:
+    double date_;
+    double longitude_;
+    double sinLatitude_;
+    double cosLatitude_;
+};
+
+/// Hours of the date; counted on into the following days where the search went on.
+struct EventHours {
+    double rise = 0;
+    std::optional<double> set;
+};
+
+/// The start of the date as a Modified Julian Date; degrees, North and East positive.
+EventHours FnFindRiseAndSet(double date, double latitude, double longitude) {
     const FloatingPointGuard guard;
-    sinLatitude_ = std::sin(latitude_ * degree);
-    cosLatitude_ = std::cos(latitude_ * degree);
+    const Altitude sun(date, latitude, longitude);
     const double horizon = std::sin(altitudes[upperLimb]);
-    const double date = modifiedJulianDate - STZ / 24;
-    const auto height = [&](double hour) { return FnFindSinAltitude(date, hour) - horizon; };
+    const auto height = [&](double hour) { return sun.FnFindSinAltitude(hour) - horizon; };
 
     bool rise = false;
     bool set = false;
@@ -142,25 +161,36 @@ void clsSunrise::FnFindRiseAndSet(double modifiedJulianDate) {
         }
         before = after;
     }
-    m_dateSunrise = FnHoursToDate(riseTime);
-    if (set) {
-        m_dateSunset = FnHoursToDate(setTime);
-    }
-}
-
-double clsSunrise::FnFindSinAltitude(double date, double hour) const {
-    const double t = date + hour / 24;
-    const Equatorial sun = FnFindMiniSun((t - epochJ2000) / daysInCentury);
-    const double hourAngle = (FnFindLocalSiderealHours(t, longitude_) - sun.rightAscension) * 15;
-    return sinLatitude_ * std::sin(sun.declination * degree) +
-           cosLatitude_ * std::cos(sun.declination * degree) * std::cos(hourAngle * degree);
+    return {riseTime, set ? std::optional(setTime) : std::nullopt};
 }
 
 /// To the whole minute and on the date asked for, whatever the count of hours.
-Moment clsSunrise::FnHoursToDate(double hours) const {
+Moment FnHoursToDate(double hours, const CivilDate &date) {
     const double minutes = std::trunc(hours * 60 + 0.5);
     const int minuteOfDay = static_cast<int>(std::fmod(minutes, 24 * 60));
-    return MomentOf(Split(BirthDateTime).date, {minuteOfDay / 60, minuteOfDay % 60, 0});
+    return MomentOf(date, {minuteOfDay / 60, minuteOfDay % 60, 0});
+}
+
+} // namespace
+
+SunEvents clsSunrise::FindEvents() const {
+    const CivilDate date = Split(BirthDateTime).date;
+    const double modifiedJulianDate = FnFindMJD(date.day, date.month, date.year, 0);
+    const EventHours hours =
+        FnFindRiseAndSet(modifiedJulianDate - STZ / 24, SignedDegrees(CL_LatitudeDeg, CL_LatitideMin),
+                         SignedDegrees(CL_LongitudeDeg, CL_LongitudeMin));
+    SunEvents events{FnHoursToDate(hours.rise, date), std::nullopt};
+    if (hours.set) {
+        events.sunset = FnHoursToDate(*hours.set, date);
+    }
+    return events;
+}
+
+void clsSunrise::Take(const SunEvents &events) {
+    m_dateSunrise = events.sunrise;
+    if (events.sunset) {
+        m_dateSunset = *events.sunset;
+    }
 }
 
 } // namespace kelvaro

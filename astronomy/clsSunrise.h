@@ -2,7 +2,15 @@
 
 #include "runtime/Moment.h"
 
+#include <optional>
+
 namespace kelvaro {
+
+/// What a search finds for a date.
+struct SunEvents {
+    Moment sunrise;
+    std::optional<Moment> sunset;
+};
 
 /// Sunrise and sunset at a place on a civil date, to the whole minute.
 ///
@@ -23,17 +31,13 @@ public:
     double STZ = 0;   ///< hours from Greenwich, East positive
     double DSAVE = 0; ///< not used
 
-    void FnCalculate();
+    void FnCalculate() { Take(FindEvents()); }
 
-private:
-    void FnFindRiseAndSet(double modifiedJulianDate);
-    double FnFindSinAltitude(double date, double hour) const;
-    Moment FnHoursToDate(double hours) const;
+    /// The events for the inputs as they stand, without setting the results.
+    SunEvents FindEvents() const;
 
-    double latitude_ = 0;  ///< degrees, North positive
-    double longitude_ = 0; ///< degrees, East positive
-    double sinLatitude_ = 0;
-    double cosLatitude_ = 0;
+    /// Sets the results; without a sunset the earlier one stays.
+    void Take(const SunEvents &events);
 };
 
 } // namespace kelvaro

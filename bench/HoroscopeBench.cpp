@@ -17,8 +17,10 @@ void BM_LunarDates(benchmark::State &state) {
     for ([[maybe_unused]] auto _ : state) {
         const Moment birth =
             DateAdd(Interval::Day, ++days % 10000, horoscope.state.positions.BirthMomentDate);
-        calendar.LunarDateKrishnadi(birth, "");
-        calendar.LunarDateSukladi(birth, "");
+        TithiSearch search(horoscope.calculators.calendarPosition, horoscope.state.site,
+                           horoscope.state.preferences.InForce(), birth);
+        calendar.LunarDateKrishnadi(search, "");
+        calendar.LunarDateSukladi(search, "");
         benchmark::DoNotOptimize(calendar.Sukladi());
     }
 }

@@ -37,14 +37,13 @@ std::string TwelveHourText(const HoroscopeState &state) {
     return std::to_string(shown) + " : " + state.birth.BirthMinute + "  " + (hour >= 12 ? "PM" : "AM");
 }
 
-std::string PlaceText(double degrees, double minutes, const std::string &side) {
+std::string ArcText(double degrees, double minutes, const std::string &side) {
     return NumberText(degrees) + " " + NumberText(minutes) + " " + side;
 }
 
-Moment GreenwichMoment(const HoroscopeState &state) {
-    const double minutes = state.site.TimeDiff * 60;
-    return DateAdd(Interval::Minute, ToInt32(state.site.TimeDiffEW == "E" ? -minutes : minutes),
-                   state.ghati.SummaryMoment);
+Moment GreenwichMoment(Moment moment, const Site &site) {
+    const double minutes = site.TimeDiff * 60;
+    return DateAdd(Interval::Minute, ToInt32(site.TimeDiffEW == "E" ? -minutes : minutes), moment);
 }
 
 void FillPerson(const HoroscopeState &state, UserDetailsForm &form) {
@@ -59,15 +58,15 @@ void FillPlace(const HoroscopeState &state, UserDetailsForm &form) {
         DegreeMinuteSecondText(state.positions.Ayanamsa) + "  (" + state.preferences.AyanamsaName + ")";
     form.txtCity = state.birth.BirthCity;
     form.txtCountry = state.birth.BirthCountry;
-    form.txtLatutude = PlaceText(state.site.LatDeg, state.site.LatMin, state.site.LatNS);
-    form.txtLongitude = PlaceText(state.site.LonDeg, state.site.LonMin, state.site.LonEW);
+    form.txtLatutude = ArcText(state.site.LatDeg, state.site.LatMin, state.site.LatNS);
+    form.txtLongitude = ArcText(state.site.LonDeg, state.site.LonMin, state.site.LonEW);
     form.txtTimeZone = state.birth.BirthTimeZoneName;
 }
 
 /// The Vedic day begins at sunrise.
 void FillDay(Horoscope &horoscope, UserDetailsForm &form) {
     const Moment moment = horoscope.state.ghati.SummaryMoment;
-    const SunTimes::Day day = horoscope.calculators.sunTimes.SunTimesOf(moment);
+    const SunTimes::Day day = horoscope.calculators.sunTimes.SunTimesOf(moment, horoscope.state.site);
     form.txtSunRise = ClockText(day.sunrise);
     form.txtSunSet = ClockText(day.sunset);
     form.txtGregorian = WeekdayName(WeekdayOf(moment));
@@ -81,13 +80,15 @@ std::string LunarDateText(const LunarDate &date) {
 
 void FillCalendars(Horoscope &horoscope, UserDetailsForm &form) {
     Calculators &calculators = horoscope.calculators;
-    const Moment moment = horoscope.state.ghati.SummaryMoment;
-    calculators.lunarCalendar.LunarDateKrishnadi(moment, "TP");
-    calculators.lunarCalendar.LunarDateSukladi(moment, "TP");
+    const HoroscopeState &state = horoscope.state;
+    TithiSearch search(calculators.calendarPosition, state.site, state.preferences.InForce(),
+                       state.ghati.SummaryMoment);
+    calculators.lunarCalendar.LunarDateKrishnadi(search, "TP");
+    calculators.lunarCalendar.LunarDateSukladi(search, "TP");
     const LunarDate &krishnadi = calculators.lunarCalendar.Krishnadi();
     form.txtKLunarDate = LunarDateText(krishnadi);
     form.txtSLunarDate = LunarDateText(calculators.lunarCalendar.Sukladi());
-    calculators.solarCalendar.SolarDateOf(moment, Now());
+    calculators.solarCalendar.SolarDateOf(state.ghati.SummaryMoment, state.site, Now());
     const SolarDate &solar = calculators.solarCalendar.Date();
     form.txtKaliyugaYear = std::to_string(solar.kaliyugaYear);
     form.txtSolarDate = std::to_string(solar.day) + std::string(betweenParts) + std::string(solar.month) +
@@ -127,12 +128,13 @@ void FillAlmanac(Horoscope &horoscope, UserDetailsForm &form) {
 void FillBirthSummary(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
     UserDetailsForm &form = horoscope.forms.frm_UserDetails;
+    const Moment moment = state.positions.BirthMomentDate;
     FillPerson(state, form);
-    state.ghati.SummaryMoment = state.positions.BirthMomentDate;
-    form.txtist = MonthNameMomentText(state.ghati.SummaryMoment);
-    ComputeLocalMeanTime(horoscope);
-    form.txtgmt = MonthNameMomentText(GreenwichMoment(state));
-    ComputeIshtaGhati(horoscope);
+    form.txtist = MonthNameMomentText(moment);
+    state.ghati = ComputeLocalMeanTime(moment, state.site, horoscope.calculators.sunTimes);
+    form.txtlmt = MonthNameMomentText(state.ghati.LocalMeanTimeMoment);
+    form.txtgmt = MonthNameMomentText(GreenwichMoment(moment, state.site));
+    form.txtIshtaGhati = ComputeIshtaGhati(state.ghati);
     FillPlace(state, form);
     FillDay(horoscope, form);
     FillCalendars(horoscope, form);

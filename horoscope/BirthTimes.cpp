@@ -1,7 +1,5 @@
 #include "horoscope/BirthTimes.h"
 
-#include "horoscope/Horoscope.h"
-#include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 
 #include <array>
@@ -40,50 +38,42 @@ TimeOfArc TimeOf(double degrees) {
     return time;
 }
 
-Moment LocalMeanTimeOf(const HoroscopeState &state) {
-    const double place = EastDegrees(state.site.LonDeg + state.site.LonMin / 60, state.site.LonEW);
-    const double meridian = EastDegrees(state.site.TimeDiff * 15, state.site.TimeDiffEW);
+Moment LocalMeanTimeOf(Moment moment, const Site &site) {
+    const double place = EastDegrees(site.LonDeg + site.LonMin / 60, site.LonEW);
+    const double meridian = EastDegrees(site.TimeDiff * 15, site.TimeDiffEW);
     const TimeOfArc difference = TimeOf(std::abs(place - meridian));
     const std::int32_t direction = place < meridian ? -1 : 1;
-    return DateAdd(Interval::Second, direction * difference.seconds,
-                   DateAdd(Interval::Minute, direction * difference.minutes, state.ghati.SummaryMoment));
+    return ToTheMinute(DateAdd(Interval::Second, direction * difference.seconds,
+                               DateAdd(Interval::Minute, direction * difference.minutes, moment)));
 }
 
 /// The sunrise that opened the day of the clock moment. A birth in the minute of sunrise belongs to the day
 /// before.
-Moment SunriseBefore(Horoscope &horoscope, Moment moment) {
-    const Moment sunrise = horoscope.calculators.sunTimes.SunriseOf(moment);
-    if (DateDiff(Interval::Minute, sunrise, moment) >= 1) {
-        return sunrise;
-    }
-    return horoscope.calculators.sunTimes.SunriseOf(DateAdd(Interval::Day, -1, moment));
-}
-
-/// "21:5417" for 21.5417 ghatis.
-std::string GhatiText(double ghati) {
-    std::array<char, 32> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), ghati < 0 ? "%08.4f" : "%07.4f", ghati);
-    std::string text = buffer.data();
-    text.at(text.find('.')) = ':';
-    return text;
+Moment SunriseBefore(Moment moment, const Site &site, SunTimes &sunTimes) {
+    const Moment sunrise = sunTimes.SunriseOf(moment, site);
+    return DateDiff(Interval::Minute, sunrise, moment) >= 1
+               ? sunrise
+               : sunTimes.SunriseOf(DateAdd(Interval::Day, -1, moment), site);
 }
 
 } // namespace
 
-double ComputeLocalMeanTime(Horoscope &horoscope) {
-    HoroscopeState &state = horoscope.state;
-    horoscope.forms.frm_UserDetails.txtlmt = MonthNameMomentText(LocalMeanTimeOf(state));
-    // The text carries no seconds, and the reckoning goes on from what it says.
-    state.ghati.LocalMeanTimeMoment = ReadMoment(horoscope.forms.frm_UserDetails.txtlmt);
-    state.ghati.SunriseForGhati = SunriseBefore(horoscope, state.ghati.SummaryMoment);
-    state.ghati.IshtaGhatiMinutes =
-        DateDiff(Interval::Minute, state.ghati.SunriseForGhati, state.ghati.LocalMeanTimeMoment);
-    state.ghati.IshtaGhati = state.ghati.IshtaGhatiMinutes / 60 * 2.5;
-    return state.ghati.IshtaGhati;
+GhatiTimes ComputeLocalMeanTime(Moment birth, const Site &site, SunTimes &sunTimes) {
+    GhatiTimes times;
+    times.SummaryMoment = birth;
+    times.LocalMeanTimeMoment = LocalMeanTimeOf(birth, site);
+    times.SunriseForGhati = SunriseBefore(birth, site, sunTimes);
+    times.IshtaGhatiMinutes = DateDiff(Interval::Minute, times.SunriseForGhati, times.LocalMeanTimeMoment);
+    times.IshtaGhati = times.IshtaGhatiMinutes / 60 * 2.5;
+    return times;
 }
 
-void ComputeIshtaGhati(Horoscope &horoscope) {
-    horoscope.forms.frm_UserDetails.txtIshtaGhati = GhatiText(ComputeLocalMeanTime(horoscope));
+std::string ComputeIshtaGhati(const GhatiTimes &times) {
+    std::array<char, 32> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), times.IshtaGhati < 0 ? "%08.4f" : "%07.4f", times.IshtaGhati);
+    std::string text = buffer.data();
+    text.at(text.find('.')) = ':';
+    return text;
 }
 
 } // namespace kelvaro

@@ -1,18 +1,19 @@
 #pragma once
 
+#include "horoscope/record/HoroscopeState.h"
+#include "panchanga/day/SunTimes.h"
+
+#include <string>
+
 namespace kelvaro {
 
-struct Horoscope;
+/// The local mean time of a birth, to the minute, and the Ishta Ghati: the time from the sunrise that opened
+/// its day to that local mean time, in ghatis of 24 minutes. It is negative where the clock is past sunrise
+/// and the local mean time is not yet. `birth` is a civil moment at the site. Raises what `clsSunrise`
+/// raises.
+GhatiTimes ComputeLocalMeanTime(Moment birth, const Site &site, SunTimes &sunTimes);
 
-/// Reckons the local mean time of the birth and the Ishta Ghati, the time since the sunrise that opened its
-/// day.
-///
-/// Sets `LocalMeanTimeMoment`, `SunriseForGhati`, `IshtaGhatiMinutes` and `IshtaGhati` of the record and the
-/// text `txtlmt`; returns the Ishta Ghati in ghatis of 24 minutes. It is negative where the clock is past
-/// sunrise and the local mean time is not yet.
-double ComputeLocalMeanTime(Horoscope &horoscope);
-
-/// Sets the text `txtIshtaGhati` from the same reckoning: ghatis, ":", four digits of the fraction.
-void ComputeIshtaGhati(Horoscope &horoscope);
+/// The Ishta Ghati as the summary words it, "21:5417" for 21.5417 ghatis.
+std::string ComputeIshtaGhati(const GhatiTimes &times);
 
 } // namespace kelvaro

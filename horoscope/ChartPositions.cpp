@@ -42,7 +42,7 @@ void FindDayOfBirth(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
     const Moment birth = state.positions.BirthMomentDate;
     SunTimes &sunTimes = horoscope.calculators.sunTimes;
-    SunTimes::Day limits = sunTimes.SunTimesOf(birth);
+    SunTimes::Day limits = sunTimes.SunTimesOf(birth, state.site);
     state.day.SunriseOfBirthDay = limits.sunrise;
     state.day.SunsetOfBirthDay = limits.sunset;
     state.day.SunriseNextDay = limits.nextSunrise;
@@ -53,7 +53,7 @@ void FindDayOfBirth(Horoscope &horoscope) {
         if (IsBeforeNoon(birth)) {
             state.day.DayCurrentDate = DateAdd(Interval::Day, -1, birth);
         }
-        limits = sunTimes.SunTimesOf(state.day.DayCurrentDate);
+        limits = sunTimes.SunTimesOf(state.day.DayCurrentDate, state.site);
     }
     state.day.DaySunrise = limits.sunrise;
     state.day.DaySunset = limits.sunset;
@@ -72,12 +72,6 @@ void FindRiseTimes(Horoscope &horoscope) {
     state.day.GulikaNight = times.GulikaRise_Night;
     state.day.MandiDay = times.MandiRise_Day;
     state.day.MandiNight = times.MandiRise_Night;
-}
-
-/// A clock time to the minute, as its text carries it.
-Moment ToTheMinute(Moment moment) {
-    const CivilMoment parts = Split(moment);
-    return MomentOf(parts.date, {parts.clock.hour, parts.clock.minute, 0});
 }
 
 /// A night rise that reads "AM" belongs to the date after that of the sunrise. The date found becomes the
@@ -100,7 +94,7 @@ void JoinRiseMoments(HoroscopeState &state) {
 
 double LagnaAt(Horoscope &horoscope, Moment moment) {
     ClsFindPlanetPosition &position = horoscope.calculators.position;
-    FindFixValuesAt(position, horoscope.state, moment, horoscope.state.preferences.AyanamsaInForce);
+    position.FindFixValuesAt(moment, horoscope.state.site, horoscope.state.preferences.InForce());
     return position.FnFindLagnaPosition();
 }
 
@@ -109,8 +103,10 @@ double LagnaAt(Horoscope &horoscope, Moment moment) {
 void ComputeChartPositions(Horoscope &horoscope, double division) {
     HoroscopeState &state = horoscope.state;
     state.positions.BirthMomentDate = BirthMomentOf(state);
-    FindFixValuesAt(horoscope.calculators.position, state, state.positions.BirthMomentDate,
-                    state.preferences.AyanamsaName);
+    const Preferences &preferences = state.preferences;
+    horoscope.calculators.position.FindFixValuesAt(
+        state.positions.BirthMomentDate, state.site,
+        {preferences.AyanamsaName, preferences.YearInForce, preferences.ProgressInForce});
     ReadLongitudes(horoscope);
     for (const BodyFields &body : bodiesOfTheFacade) {
         state.positions.*body.rasi = RasiOfLongitude(state.positions.*body.longitude, division);

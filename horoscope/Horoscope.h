@@ -1,8 +1,6 @@
 #pragma once
 
 #include "astronomy/ClsFindPlanetPosition.h"
-#include "astronomy/clsFindSunSet.h"
-#include "astronomy/clsFindSunrise.h"
 #include "horoscope/StatusDisplay.h"
 #include "horoscope/record/HoroscopeForms.h"
 #include "horoscope/record/HoroscopeState.h"
@@ -22,31 +20,30 @@ namespace kelvaro {
 /// The calculation objects that live as long as the program. Some of them keep a result from one use to the
 /// next.
 struct Calculators {
-    /// Both must outlive the object.
-    Calculators(const HoroscopeState &state, store::Connection &connection)
-        : sunTimes(state, sunrise, sunset), calendarPositions(state), years(connection),
-          solarCalendar(sunTimes, years), lunarCalendar(calendarPositions, sunTimes, tithi, years) {}
+    /// The connection must outlive the object.
+    explicit Calculators(store::Connection &connection) : yearTable(connection) {}
 
     ClsFindPlanetPosition position;
-    clsFindSunrise sunrise;
-    clsFindSunSet sunset;
     SunTimes sunTimes;
     clsTimes times;
     clsRasi rasi;
     clsStar star;
     clsTithi tithi;
     clsYoga yoga;
-    PlacePositions calendarPositions;
-    KaliyugaYears years;
-    SolarCalendar solarCalendar;
-    LunarCalendar lunarCalendar;
+    /// That of the calendars, apart from the driver's, which holds the positions of the birth for its
+    /// readers.
+    ClsFindPlanetPosition calendarPosition;
+    store::KaliyugaYearTable yearTable;
+    KaliyugaYears years{yearTable};
+    SolarCalendar solarCalendar{sunTimes, years};
+    LunarCalendar lunarCalendar{sunTimes, years};
 };
 
 /// The one horoscope in force: what was stated, what was computed, what the views show.
 struct Horoscope {
     /// Both must outlive the object.
     Horoscope(store::Connection &opened, StatusDisplay &display)
-        : calculators(state, opened), connection(opened), status(display) {}
+        : calculators(opened), connection(opened), status(display) {}
     Horoscope(const Horoscope &) = delete;
     Horoscope &operator=(const Horoscope &) = delete;
     ~Horoscope() = default;

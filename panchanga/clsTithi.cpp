@@ -11,19 +11,11 @@ namespace kelvaro {
 
 namespace {
 
-struct TithiRow {
-    std::int16_t number;
-    std::string_view name;
-    std::string_view position;
-    std::string_view firstHalf;  ///< karana
-    std::string_view secondHalf; ///< karana
-};
-
 constexpr double tithiSize = 12;
 constexpr double karanaSize = 6;
 
 // The spellings of a karana differ from row to row; they are the stored names.
-constexpr std::array<TithiRow, 30> tithis{{
+constexpr std::array<LunarDay, 30> tithis{{
     {1, "Pratipada", "Bright", "Kintughna", "Bava"},    {2, "Dwitiya", "Bright", "Balav", "Kaulav"},
     {3, "Tritiya", "Bright", "Taitila", "Gar"},         {4, "Chaturthi", "Bright", "Vanija", "Vishti"},
     {5, "Panchami", "Bright", "Bav", "Balav"},          {6, "Shasthi", "Bright", "Kaulava", "Taitila"},
@@ -41,40 +33,58 @@ constexpr std::array<TithiRow, 30> tithis{{
     {29, "Chaturdashi", "Dark", "Vishti", "Shakuni"},   {30, "Amavashya", "Dark", "Chatushpada", "Naga"},
 }};
 
-constexpr double EndOf(const TithiRow &row) {
-    return row.number * tithiSize;
+constexpr double EndOf(const LunarDay &day) {
+    return day.number * tithiSize;
 }
 
-const TithiRow *TithiAt(double elongation) {
+/// Of the Moon from the Sun, degrees.
+double Elongation(double moon, double sun) {
+    return (sun > moon ? moon + 360 : moon) - sun;
+}
+
+/// Null outside 0 to 360.
+const LunarDay *LunarDayAt(double elongation) {
     if (!(elongation >= 0)) {
         return nullptr;
     }
-    const auto *const found = std::find_if(tithis.begin(), tithis.end(),
-                                           [=](const TithiRow &row) { return elongation <= EndOf(row); });
+    const auto *const found =
+        std::ranges::find_if(tithis, [=](const LunarDay &day) { return elongation <= EndOf(day); });
     return found == tithis.end() ? nullptr : found;
 }
 
 } // namespace
 
 void clsTithi::FindTithi() {
-    const double sun = sunC;
-    const double moon = sun > moonA ? moonA + 360 : moonA;
-    const double elongation = moon - sun;
-    if (const TithiRow *row = TithiAt(elongation)) {
-        Tithi = row->name;
-        TithiPosition = row->position;
-        TithiNo = row->number;
-        const double inTithi = elongation - (EndOf(*row) - tithiSize);
-        Karnam = inTithi <= karanaSize ? row->firstHalf : row->secondHalf;
+    const double elongation = Elongation(moonA, sunC);
+    if (const LunarDay *day = LunarDayAt(elongation)) {
+        Tithi = day->name;
+        TithiPosition = day->side;
+        TithiNo = day->number;
+        const double inTithi = elongation - (EndOf(*day) - tithiSize);
+        Karnam = inTithi <= karanaSize ? day->firstKarana : day->secondKarana;
     }
 }
 
-Karanas KaranasOf(std::int16_t tithiNo) {
-    if (tithiNo < 1 || tithiNo > static_cast<std::int16_t>(tithis.size())) {
-        throw OverflowError("There is no tithi number " + std::to_string(tithiNo));
+const LunarDay &LunarDayOfNumber(int number) {
+    if (number < 1 || number > static_cast<int>(tithis.size())) {
+        throw OverflowError("There is no tithi number " + std::to_string(number));
     }
-    const TithiRow &row = tithis.at(static_cast<std::size_t>(tithiNo) - 1);
-    return {row.firstHalf, row.secondHalf};
+    return tithis.at(static_cast<std::size_t>(number) - 1);
+}
+
+std::string_view TithiNameOf(double moon, double sun) {
+    const LunarDay *day = LunarDayAt(Elongation(moon, sun));
+    return day != nullptr ? day->name : std::string_view();
+}
+
+std::string_view TithiSideOf(double moon, double sun) {
+    const LunarDay *day = LunarDayAt(Elongation(moon, sun));
+    return day != nullptr ? day->side : std::string_view();
+}
+
+std::int16_t TithiNumberOf(double moon, double sun) {
+    const LunarDay *day = LunarDayAt(Elongation(moon, sun));
+    return day != nullptr ? day->number : std::int16_t{0};
 }
 
 } // namespace kelvaro

@@ -22,12 +22,20 @@ public:
     void FindTithi();
 };
 
-/// The karanas of the two halves of a tithi.
-struct Karanas {
-    std::string_view first, second;
+/// A lunar day, with the karanas of its two halves.
+struct LunarDay {
+    std::int16_t number;   ///< 1 to 30
+    std::string_view name; ///< fifteen of them stand in both fortnights
+    std::string_view side; ///< "Bright" or "Dark"
+    std::string_view firstKarana, secondKarana;
 };
 
-/// Raises OverflowError for a number of a tithi outside 1 to 30.
-Karanas KaranasOf(std::int16_t tithiNo);
+/// Raises OverflowError for a number outside 1 to 30.
+const LunarDay &LunarDayOfNumber(int number);
+
+// Of the lunar day of a Moon and a Sun, in degrees; empty or 0 for a distance outside 0 to 360.
+std::string_view TithiNameOf(double moon, double sun);
+std::string_view TithiSideOf(double moon, double sun);
+std::int16_t TithiNumberOf(double moon, double sun);
 
 } // namespace kelvaro

@@ -139,6 +139,11 @@ Moment DateOf(Moment moment) {
     return Moment(static_cast<double>(DayAndSecondOf(moment).day));
 }
 
+Moment ToTheMinute(Moment moment) {
+    const CivilMoment parts = Split(moment);
+    return MomentOf(parts.date, {parts.clock.hour, parts.clock.minute, 0});
+}
+
 Moment Join(Moment date, Moment clock) {
     return MomentOfSeconds(DayAndSecondOf(date).day * secondsInDay + DayAndSecondOf(clock).second);
 }

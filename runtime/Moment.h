@@ -69,6 +69,9 @@ Moment MomentOf(const CivilDate &date, const CivilClock &clock = {});
 /// Midnight that opens the date of the moment.
 Moment DateOf(Moment moment);
 
+/// The same date and clock without the seconds.
+Moment ToTheMinute(Moment moment);
+
 /// The date of one moment with the clock of another.
 Moment Join(Moment date, Moment clock);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "astronomy/Ayanamsa.h"
 #include "astronomy/Site.h"
 #include "runtime/Moment.h"
 
@@ -23,6 +24,8 @@ struct Preferences {
     std::string AyanamsaInForce = "Lahiri";
     double YearInForce = 0;
     double ProgressInForce = 0;
+
+    AyanamsaSettings InForce() const { return {AyanamsaInForce, YearInForce, ProgressInForce}; }
 };
 
 /// A birth as entered: texts where they are copied straight from the entry fields. At first it is that of the

@@ -4,9 +4,10 @@ namespace kelvaro {
 
 void ClsSolarYear::FindSolarYear() {
     yearname = years_.KaliyugaYearName(EnglishYear);
-    YearVal = years_.YearVal;
-    YearRemain = years_.YearRemain;
-    YearDay = years_.DayVal;
+    const store::KaliyugaYear &row = years_.RowOrLast(EnglishYear);
+    YearVal = row.YearVal;
+    YearRemain = row.YearRemain;
+    YearDay = row.DayVal;
 }
 
 } // namespace kelvaro

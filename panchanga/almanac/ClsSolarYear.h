@@ -10,8 +10,8 @@ namespace kelvaro {
 /// The row of the sixty-year cycle for the solar year that begins in a year of the common calendar.
 class ClsSolarYear {
 public:
-    /// The connection must outlive the object.
-    explicit ClsSolarYear(store::Connection &connection) : years_(connection) {}
+    /// The table must outlive the object.
+    explicit ClsSolarYear(store::KaliyugaYearTable &table) : years_(table) {}
 
     std::int16_t EnglishYear = 0; ///< input
     std::string yearname;

@@ -7,10 +7,10 @@ namespace kelvaro {
 
 void clsKarnam::FindKarnam() {
     const std::int16_t number = ToInt16(NumberFromText(TithiNo));
-    const auto [first, second] = KaranasOf(number);
+    const LunarDay &day = LunarDayOfNumber(number);
     TithiNumber = number;
-    KarnamName1 = first;
-    KarnamName2 = second;
+    KarnamName1 = day.firstKarana;
+    KarnamName2 = day.secondKarana;
     KarnamStart1 = TithiStart;
     KarnamEnd1 = Moment::AtTimeline((TithiStart.Timeline() + TithiEnd.Timeline()) / 2);
     KarnamStart2 = KarnamEnd1;

@@ -1,7 +1,6 @@
 #include "panchanga/calendar/KaliyugaYears.h"
 
 #include "runtime/MomentText.h"
-#include "runtime/Numbers.h"
 
 #include <algorithm>
 #include <array>
@@ -36,19 +35,21 @@ constexpr std::int32_t kaliDaysAtOrigin = 1790030;
 
 } // namespace
 
+bool KaliyugaYears::Find(int year) {
+    const auto row = table_.RowOf(CycleNumberOf(year));
+    if (row) {
+        lastFound_ = *row;
+    }
+    return row.has_value();
+}
+
 std::string KaliyugaYears::KaliyugaYearName(int year) {
-    if (rows_.IsOpen()) {
-        rows_.Close();
-    }
-    rows_.Open("Select * From KaliyugaYearDetails where Yearno = " + std::to_string(CycleNumberOf(year)),
-               connection_);
-    if (rows_.IsEndOfFile()) {
-        return {};
-    }
-    YearVal = rows_.Number("YearVal");
-    DayVal = ToInt16(rows_.Number("DayVal"));
-    YearRemain = rows_.Number("YearRemain");
-    return rows_.Text("yearname");
+    return Find(year) ? lastFound_.yearname : std::string();
+}
+
+const store::KaliyugaYear &KaliyugaYears::RowOrLast(int year) {
+    Find(year);
+    return lastFound_;
 }
 
 std::int32_t KaliyugaYearOf(Moment moment) {

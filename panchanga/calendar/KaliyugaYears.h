@@ -1,7 +1,7 @@
 #pragma once
 
 #include "runtime/Moment.h"
-#include "store/database/Recordset.h"
+#include "store/tables/KaliyugaYearTable.h"
 
 #include <cstdint>
 #include <string>
@@ -9,27 +9,30 @@
 
 namespace kelvaro {
 
-/// The names and values of the sixty-year cycle, from the table `KaliyugaYearDetails`.
+/// The years of the sixty-year cycle by the years of the common calendar in which they begin.
+///
+/// A year without a row, as all from 2107 on, goes on from the row found before it, whoever asked for that
+/// one: there is one object for the run of the program. Raises StoreError, and ConversionError for a row
+/// without values.
 class KaliyugaYears {
 public:
-    /// The connection must outlive the object.
-    explicit KaliyugaYears(store::Connection &connection) : connection_(connection) {}
+    /// The table must outlive the object.
+    explicit KaliyugaYears(store::KaliyugaYearTable &table) : table_(table) {}
     KaliyugaYears(const KaliyugaYears &) = delete;
     KaliyugaYears &operator=(const KaliyugaYears &) = delete;
     ~KaliyugaYears() = default;
 
-    /// The name of the year that begins in a year of the common calendar, with its values in the members
-    /// below. Empty where the table has no row, as from 2107 on; the members then stay as they were. Raises
-    /// StoreError, and ConversionError for a row without values.
+    /// The name of a year; empty where the table has no row.
     std::string KaliyugaYearName(int year);
 
-    double YearVal = 0;      ///< days beyond whole weeks up to the year's start, not reduced
-    std::int16_t DayVal = 0; ///< the weekday value of the year's start
-    double YearRemain = 0;   ///< the fraction of a day at the year's start
+    /// The row of a year, or the row found last.
+    const store::KaliyugaYear &RowOrLast(int year);
 
 private:
-    store::Connection &connection_;
-    store::Recordset rows_;
+    bool Find(int year);
+
+    store::KaliyugaYearTable &table_;
+    store::KaliyugaYear lastFound_;
 };
 
 /// The year of the Kali age that a moment's calendar year opens; 0 before 1866.

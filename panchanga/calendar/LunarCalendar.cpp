@@ -22,85 +22,85 @@ bool LiesBetween(const std::string &text, const std::string &a, const std::strin
 
 } // namespace
 
-void LunarCalendar::LunarDateKrishnadi(Moment birthMoment, std::string_view status) {
-    search_.LookAt(birthMoment);
-    const Birth birth = BirthLookedAt(birthMoment, status);
-    PurnimaCount(birthMoment);
-    FindDate(krishnadi_, birth);
+void LunarCalendar::LunarDateKrishnadi(TithiSearch &search, std::string_view status) {
+    search.LookAt(search.BirthMoment());
+    const Birth birth = BirthLookedAt(search, status);
+    PurnimaCount(search);
+    FindDate(krishnadi_, birth, search);
 }
 
-void LunarCalendar::LunarDateSukladi(Moment birthMoment, std::string_view status) {
+void LunarCalendar::LunarDateSukladi(TithiSearch &search, std::string_view status) {
     // The Lagna, where the other reckoning looks at the Moon.
-    search_.LookAtSunAndLagna(birthMoment);
-    const Birth birth = BirthLookedAt(birthMoment, status);
-    AmavasyaCount(birthMoment);
-    FindDate(sukladi_, birth);
+    search.LookAtSunAndLagna(search.BirthMoment());
+    const Birth birth = BirthLookedAt(search, status);
+    AmavasyaCount(search);
+    FindDate(sukladi_, birth, search);
 }
 
-std::int16_t LunarCalendar::PurnimaCount(Moment birthMoment) {
-    search_.Count(krishnadi_.tithi, birthMoment, krishnadi_.count);
+std::int16_t LunarCalendar::PurnimaCount(TithiSearch &search) {
+    search.Count(krishnadi_.tithi, krishnadi_.count);
     return krishnadi_.count.backward;
 }
 
-std::int16_t LunarCalendar::AmavasyaCount(Moment birthMoment) {
-    search_.Count(sukladi_.tithi, birthMoment, sukladi_.count);
+std::int16_t LunarCalendar::AmavasyaCount(TithiSearch &search) {
+    search.Count(sukladi_.tithi, sukladi_.count);
     return sukladi_.count.backward;
 }
 
-void LunarCalendar::FindDate(Reckoning &reckoning, const Birth &birth) {
+void LunarCalendar::FindDate(Reckoning &reckoning, const Birth &birth, TithiSearch &search) {
     reckoning.date.flag.clear();
-    search_.LookAt(birth.day.sunrise);
+    search.LookAt(birth.day.sunrise);
     if (reckoning.count.backward == 1) {
-        FindAmongOne(reckoning, birth);
+        FindAmongOne(reckoning, birth, search);
     } else if (reckoning.count.backward == 2) {
-        FindAmongTwo(reckoning, birth);
+        FindAmongTwo(reckoning, birth, search);
     }
 }
 
-void LunarCalendar::FindAmongOne(Reckoning &reckoning, const Birth &birth) {
+void LunarCalendar::FindAmongOne(Reckoning &reckoning, const Birth &birth, TithiSearch &search) {
     const TithiCount &count = reckoning.count;
-    if (search_.Is("Dark", reckoning.tithi)) {
+    if (search.Is("Dark", reckoning.tithi)) {
         // A "Purnima" is never dark, so only the reckoning by the new moon comes here.
-        FindOnAmavasya(birth);
-    } else if (search_.Is("Bright", pratipada)) {
+        FindOnAmavasya(birth, search);
+    } else if (search.Is("Bright", pratipada)) {
         // By the new moon in both reckonings.
         Write(reckoning, birth, SignOfDay(birth, sukladi_.count.sun), FlagOf(count.forward == 2));
     } else {
-        search_.WalkToBrightPratipada(count.dates.front());
+        search.WalkToBrightPratipada(count.dates.front());
         Write(reckoning, birth, SignOfSun(count.sun), FlagOf(count.backward + count.forward == 2));
     }
 }
 
 /// The new moon stands at sunrise: the month is that of the Sun at birth, unless the tithi lasts over the
 /// next sunrise or skips the one after it.
-void LunarCalendar::FindOnAmavasya(const Birth &birth) {
+void LunarCalendar::FindOnAmavasya(const Birth &birth, TithiSearch &search) {
     std::string_view sign = SignOfSun(birth.sun);
     const bool isLeapMonth = sukladi_.count.forward == 2;
     if (!isLeapMonth) {
-        search_.LookAt(birth.day.nextSunrise);
-        if (!search_.Is(pratipada)) {
+        search.LookAt(birth.day.nextSunrise);
+        if (!search.Is(pratipada)) {
             sign = SignOfDay(birth, sukladi_.count.sun);
         }
     }
     Write(sukladi_, birth, sign, FlagOf(isLeapMonth));
 }
 
-void LunarCalendar::FindAmongTwo(Reckoning &reckoning, const Birth &birth) {
+void LunarCalendar::FindAmongTwo(Reckoning &reckoning, const Birth &birth, TithiSearch &search) {
     const TithiCount &count = reckoning.count;
-    if (search_.Is("Bright", pratipada) || search_.Is("Dark", reckoning.tithi)) {
+    if (search.Is("Bright", pratipada) || search.Is("Dark", reckoning.tithi)) {
         Write(reckoning, birth, SignOfDay(birth, count.sun), FlagOf(count.forward == 2));
     } else {
-        FindByTexts(reckoning, birth);
+        FindByTexts(reckoning, birth, search);
     }
 }
 
 /// Compares the dates as texts, so that the day of the month decides before the month does.
-void LunarCalendar::FindByTexts(Reckoning &reckoning, const Birth &birth) {
+void LunarCalendar::FindByTexts(Reckoning &reckoning, const Birth &birth, TithiSearch &search) {
     const Moment first = reckoning.count.dates.at(0);
     const Moment second = reckoning.count.dates.at(1);
     const std::string birthText = MonthNameDateText(birth.moment);
     const bool isBetween = LiesBetween(birthText, MonthNameDateText(first), MonthNameDateText(second));
-    const Moment hit = search_.WalkToBrightPratipada(isBetween ? first : second);
+    const Moment hit = search.WalkToBrightPratipada(isBetween ? first : second);
     const std::string otherText = MonthNameDateText(isBetween ? second : first);
     std::string_view flag;
     if (birthText >= MonthNameDateText(hit)) {
@@ -113,9 +113,10 @@ void LunarCalendar::FindByTexts(Reckoning &reckoning, const Birth &birth) {
 }
 
 /// The birth with the Sun that was looked at.
-LunarCalendar::Birth LunarCalendar::BirthLookedAt(Moment birthMoment, std::string_view status) {
-    const SunTimes::Day day = sunTimes_.SunTimesOf(birthMoment);
-    return {birthMoment, day, search_.Sun(), status == "DP" || birthMoment >= day.sunrise};
+LunarCalendar::Birth LunarCalendar::BirthLookedAt(const TithiSearch &search, std::string_view status) {
+    const Moment moment = search.BirthMoment();
+    const SunTimes::Day day = sunTimes_.SunTimesOf(moment, search.BirthSite());
+    return {moment, day, search.Sun(), status == "DP" || moment >= day.sunrise};
 }
 
 std::string_view LunarCalendar::SignOfDay(const Birth &birth, double sun) {

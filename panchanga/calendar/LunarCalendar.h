@@ -17,8 +17,8 @@ struct LunarDate {
     std::string yearName;
 };
 
-/// The lunar dates of a birth at the place of the record, in the two reckonings of the month: Krishnadi,
-/// which ends at the full moon, and Sukladi, which ends at the new moon.
+/// The lunar dates of a birth, in the two reckonings of the month: Krishnadi, which ends at the full moon,
+/// and Sukladi, which ends at the new moon.
 ///
 /// No table is behind them: the full or new moons around the birth are searched hour by hour, the sign of the
 /// Sun at them gives the month, and two of them in one sign make a leap month. The sign is taken around the
@@ -30,9 +30,8 @@ struct LunarDate {
 /// a search that leaves the calendar.
 class LunarCalendar {
 public:
-    /// All must outlive the object.
-    LunarCalendar(PlacePositions &positions, SunTimes &sunTimes, clsTithi &tithi, KaliyugaYears &years)
-        : search_(positions, tithi), sunTimes_(sunTimes), years_(years) {}
+    /// Both must outlive the object.
+    LunarCalendar(SunTimes &sunTimes, KaliyugaYears &years) : sunTimes_(sunTimes), years_(years) {}
     LunarCalendar(const LunarCalendar &) = delete;
     LunarCalendar &operator=(const LunarCalendar &) = delete;
     ~LunarCalendar() = default;
@@ -40,15 +39,15 @@ public:
     /// Finds the date. At the turn of a month a birth before sunrise belongs to the month before, but for the
     /// status "DP", which takes the whole civil date for the new month. What a search leaves open stays as
     /// the birth before had it, the flag excepted.
-    void LunarDateKrishnadi(Moment birthMoment, std::string_view status);
-    void LunarDateSukladi(Moment birthMoment, std::string_view status);
+    void LunarDateKrishnadi(TithiSearch &search, std::string_view status);
+    void LunarDateSukladi(TithiSearch &search, std::string_view status);
 
     const LunarDate &Krishnadi() const { return krishnadi_.date; }
     const LunarDate &Sukladi() const { return sukladi_.date; }
 
     /// The backward counts of full moons and of new moons; their forward counts and Suns are kept.
-    std::int16_t PurnimaCount(Moment birthMoment);
-    std::int16_t AmavasyaCount(Moment birthMoment);
+    std::int16_t PurnimaCount(TithiSearch &search);
+    std::int16_t AmavasyaCount(TithiSearch &search);
 
 private:
     struct Reckoning {
@@ -65,16 +64,15 @@ private:
         bool belongsToItsDate; ///< and not to the date before
     };
 
-    void FindDate(Reckoning &reckoning, const Birth &birth);
-    void FindAmongOne(Reckoning &reckoning, const Birth &birth);
-    void FindAmongTwo(Reckoning &reckoning, const Birth &birth);
-    void FindOnAmavasya(const Birth &birth);
-    void FindByTexts(Reckoning &reckoning, const Birth &birth);
-    Birth BirthLookedAt(Moment birthMoment, std::string_view status);
+    void FindDate(Reckoning &reckoning, const Birth &birth, TithiSearch &search);
+    void FindAmongOne(Reckoning &reckoning, const Birth &birth, TithiSearch &search);
+    void FindAmongTwo(Reckoning &reckoning, const Birth &birth, TithiSearch &search);
+    void FindOnAmavasya(const Birth &birth, TithiSearch &search);
+    void FindByTexts(Reckoning &reckoning, const Birth &birth, TithiSearch &search);
+    Birth BirthLookedAt(const TithiSearch &search, std::string_view status);
     static std::string_view SignOfDay(const Birth &birth, double sun);
     void Write(Reckoning &reckoning, const Birth &birth, std::string_view sign, std::string_view flag);
 
-    TithiSearch search_;
     SunTimes &sunTimes_;
     KaliyugaYears &years_;
     Reckoning krishnadi_{"Purnima", "Purnima"};

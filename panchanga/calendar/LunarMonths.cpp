@@ -1,12 +1,13 @@
 #include "panchanga/calendar/LunarMonths.h"
 
+#include "panchanga/Sign.h"
 #include "panchanga/calendar/KaliyugaYears.h"
 #include "runtime/Texts.h"
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 #include <optional>
+#include <span>
 
 namespace kelvaro {
 
@@ -17,8 +18,6 @@ struct MonthRow {
     std::string_view fullMoon;
     std::string_view newMoon;
 };
-
-constexpr double signSize = 30;
 
 constexpr std::array<std::string_view, 12> signs{"ARIES",      "TAURUS",   "GEMINI",   "CANCER",
                                                  "LEO",        "VIRGO",    "LIBRA",    "SCORPIO",
@@ -48,33 +47,32 @@ constexpr std::array<std::string_view, 10> monthsAfterTheTurn{
     "bhadrapada", "asvina",    "karttika", "kartikka", "karttikka",
     "kartika",    "margasira", "pausha",   "magha",    "phalguna"};
 
-/// 0 for Aries; none outside the circle.
-std::optional<std::size_t> SignIndex(double longitude) {
+/// None outside the circle; the upper bound of a sign belongs to it.
+std::optional<Sign> SignAt(double longitude) {
     if (!(longitude >= 0 && longitude <= 360)) {
         return std::nullopt;
     }
-    std::size_t index = 0;
-    while (longitude > static_cast<double>(index + 1) * signSize) {
-        ++index;
+    int number = 1;
+    while (longitude > number * rasiSize) {
+        ++number;
     }
-    return index;
+    return Sign(number);
 }
 
-template <std::size_t count>
-bool Contains(const std::array<std::string_view, count> &words, std::string_view word) {
-    return std::find(words.begin(), words.end(), word) != words.end();
+bool Contains(std::span<const std::string_view> words, std::string_view month) {
+    return std::ranges::any_of(words, [=](std::string_view each) { return SameIgnoringCase(each, month); });
 }
 
 } // namespace
 
 std::string_view SignOfSun(double longitude) {
-    const auto index = SignIndex(longitude);
-    return index ? signs.at(*index) : std::string_view();
+    const auto sign = SignAt(longitude);
+    return sign ? signs.at(sign->Index()) : std::string_view();
 }
 
 std::string_view SignBeforeSun(double longitude) {
-    const auto index = SignIndex(longitude);
-    return index ? signs.at((*index + signs.size() - 1) % signs.size()) : std::string_view();
+    const auto sign = SignAt(longitude);
+    return sign ? signs.at(sign->Previous().Index()) : std::string_view();
 }
 
 std::string_view LunarMonthName(std::string_view kind, std::string_view sign) {
@@ -89,12 +87,11 @@ std::string_view LunarMonthName(std::string_view kind, std::string_view sign) {
 }
 
 std::string LunarYearName(KaliyugaYears &years, Moment moment, std::string_view month) {
-    const std::string word = LowerCase(month);
     const CivilDate date = Split(moment).date;
-    if (Contains(monthsBeforeTheTurn, word)) {
+    if (Contains(monthsBeforeTheTurn, month)) {
         return years.KaliyugaYearName(date.year);
     }
-    if (Contains(monthsAfterTheTurn, word)) {
+    if (Contains(monthsAfterTheTurn, month)) {
         return years.KaliyugaYearName(date.month <= 4 ? date.year - 1 : date.year);
     }
     return {};

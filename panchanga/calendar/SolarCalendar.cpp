@@ -75,13 +75,13 @@ Clock ClockOf(double partOfDay) {
 
 } // namespace
 
-bool SolarCalendar::SolarDateOf(Moment moment, Moment today) {
+bool SolarCalendar::SolarDateOf(Moment moment, const Site &site, Moment today) {
     const int year = YearOf(moment);
-    const Moment start = FindYearStart(year);
-    const Moment startBefore = FindYearStart(year - 1);
-    const Moment startAfter = FindYearStart(year + 1);
-    const bool isFound = FindDateBetween(start, startAfter, moment, year) ||
-                         FindDateBetween(startBefore, start, moment, year - 1);
+    const Moment start = FindYearStart(year, site).sunrise;
+    const Moment startBefore = FindYearStart(year - 1, site).sunrise;
+    const Moment startAfter = FindYearStart(year + 1, site).sunrise;
+    const bool isFound = FindDateBetween(start, startAfter, moment, year, site) ||
+                         FindDateBetween(startBefore, start, moment, year - 1, site);
     if (!isFound && KaliyugaYearOf(moment) == 0) {
         date_.kaliyugaYear = 0;
     }
@@ -89,87 +89,85 @@ bool SolarCalendar::SolarDateOf(Moment moment, Moment today) {
     return isFound;
 }
 
-bool SolarCalendar::FindDateBetween(Moment yearStart, Moment nextYearStart, Moment moment, int year) {
+bool SolarCalendar::FindDateBetween(Moment yearStart, Moment nextYearStart, Moment moment, int year,
+                                    const Site &site) {
     if (moment < yearStart || moment >= nextYearStart) {
         return false;
     }
-    SolarMonths(yearStart, nextYearStart, moment);
+    const MonthStarts starts = SolarMonths(yearStart, nextYearStart, site);
+    for (std::size_t index = 0; index < months.size(); ++index) {
+        const Moment start = starts.at(index);
+        const Moment next = starts.at(index + 1);
+        if (moment >= start && moment < next) {
+            date_.month = months.at(index).name;
+            date_.monthStart = start;
+            date_.monthLength = std::abs(DateDiff(Interval::Day, start, next));
+            date_.day = SolarDayOf(start, moment, site);
+            break;
+        }
+    }
     date_.yearName = years_.KaliyugaYearName(year);
     date_.kaliyugaYear = KaliyugaYearOf(yearStart);
     return true;
 }
 
-Moment SolarCalendar::FindYearStart(int year) {
-    years_.KaliyugaYearName(year);
+SolarCalendar::YearStart SolarCalendar::FindYearStart(int year, const Site &site) {
+    const store::KaliyugaYear &row = years_.RowOrLast(year);
     const Correction *correction = CorrectionOf(year);
     if (correction == nullptr) {
         return yearStart_;
     }
-    const double sum = years_.YearRemain + correction->fraction;
+    const double sum = row.YearRemain + correction->fraction;
     const std::string_view weekday =
-        WeekdayNameOf(ToInt16(std::floor(sum) + years_.DayVal + correction->weekdays));
+        WeekdayNameOf(ToInt16(std::floor(sum) + row.DayVal + correction->weekdays));
     for (const int day : std::span(candidateDays).first(correction->candidates)) {
         const Moment candidate = MomentOf({year, 4, day});
         if (WeekdayNameOf(WeekdayOf(candidate)) == weekday) {
-            yearStart_ = candidate;
+            yearStart_.sunrise = candidate;
             break;
         }
     }
-    yearFraction_ = FractionOf(sum);
-    const Clock clock = ClockOf(yearFraction_);
-    const SunTimes::Day day = sunTimes_.SunTimesOf(yearStart_);
+    yearStart_.fraction = FractionOf(sum);
+    const Clock clock = ClockOf(yearStart_.fraction);
+    const SunTimes::Day day = sunTimes_.SunTimesOf(yearStart_.sunrise, site);
     const Moment opening =
         DateAdd(Interval::Hour, clock.hours, DateAdd(Interval::Minute, clock.minutes, day.sunrise));
-    if (opening >= day.sunset) {
-        yearStart_ = day.nextSunrise;
-    } else if (opening >= day.sunrise) {
-        yearStart_ = day.sunrise;
-    }
+    yearStart_.sunrise = opening >= day.sunset ? day.nextSunrise : day.sunrise;
     return yearStart_;
 }
 
-void SolarCalendar::SolarMonths(Moment yearStart, Moment nextYearStart, Moment moment) {
-    FindYearStart(YearOf(yearStart));
+/// The year is found again: one without a row, or without a fitting weekday, goes on from the year found
+/// last, and its fraction is that of this finding.
+SolarCalendar::MonthStarts SolarCalendar::SolarMonths(Moment yearStart, Moment nextYearStart,
+                                                      const Site &site) {
+    const YearStart opening{yearStart, FindYearStart(YearOf(yearStart), site).fraction};
+    MonthStarts starts;
     for (std::size_t index = 0; index < months.size(); ++index) {
-        monthStarts_.at(index) = MonthStart(yearStart, index);
+        starts.at(index) = MonthStart(opening, index, site);
     }
-    monthStarts_.back() = nextYearStart;
-    for (std::size_t index = 0; index < months.size(); ++index) {
-        if (moment >= monthStarts_.at(index) && moment < monthStarts_.at(index + 1)) {
-            date_.month = months.at(index).name;
-            date_.monthStart = monthStarts_.at(index);
-            SolarDayOf(index, moment);
-            return;
-        }
-    }
+    starts.back() = nextYearStart;
+    return starts;
 }
 
-Moment SolarCalendar::MonthStart(Moment yearStart, std::size_t index) {
+Moment SolarCalendar::MonthStart(const YearStart &yearStart, std::size_t index, const Site &site) {
     if (index == 0) {
-        return sunTimes_.SunTimesOf(yearStart).sunrise;
+        return sunTimes_.SunTimesOf(yearStart.sunrise, site).sunrise;
     }
     const MonthRow &month = months.at(index);
-    const double sum = yearFraction_ + month.fraction;
+    const double sum = yearStart.fraction + month.fraction;
     const Clock clock = ClockOf(sum);
-    Moment opening = DateAdd(Interval::Day, ToInt32(std::floor(sum)) + month.days, yearStart);
+    Moment opening = DateAdd(Interval::Day, ToInt32(std::floor(sum)) + month.days, yearStart.sunrise);
     opening = DateAdd(Interval::Hour, clock.hours, opening);
     opening = DateAdd(Interval::Minute, clock.minutes, opening);
-    const SunTimes::Day day = sunTimes_.SunTimesOf(opening);
+    const SunTimes::Day day = sunTimes_.SunTimesOf(opening, site);
     return opening < day.sunset ? day.sunrise : day.nextSunrise;
 }
 
-void SolarCalendar::SolarDayOf(std::size_t index, Moment moment) {
-    const Moment start = monthStarts_.at(index);
-    const std::int32_t baseDay = std::abs(DateDiff(Interval::Day, moment, start));
-    date_.monthLength = std::abs(DateDiff(Interval::Day, start, monthStarts_.at(index + 1)));
-    const SunTimes::Day today = sunTimes_.SunTimesOf(moment);
-    const Moment sunriseBefore = sunTimes_.SunriseOf(DateAdd(Interval::Day, -1, moment));
-    if (moment >= today.sunrise && moment < today.nextSunrise) {
-        date_.day = baseDay + 1;
-    } else if (moment >= sunriseBefore && moment < today.sunrise) {
-        date_.day = baseDay;
-    }
-    date_.day = std::max(date_.day, 1);
+/// Before sunrise it is the day of the date before. On the date of the month's start, which is its sunrise,
+/// no moment of the month lies before that, so days count from 1.
+std::int32_t SolarCalendar::SolarDayOf(Moment monthStart, Moment moment, const Site &site) {
+    const std::int32_t days = DateDiff(Interval::Day, monthStart, moment);
+    return moment >= sunTimes_.SunTimesOf(moment, site).sunrise ? days + 1 : days;
 }
 
 } // namespace kelvaro

@@ -21,7 +21,7 @@ struct SolarDate {
     std::int32_t kaliDays = 0; ///< up to the present date, not to the birth
 };
 
-/// The solar date of a moment at the place of the record.
+/// The solar date of a moment at a site.
 ///
 /// The start of a year comes from the table of sixty years, corrected for each period of sixty, and from the
 /// sunrise of the day; the months are laid out from there by fixed counts of days. Values that a moment does
@@ -38,27 +38,33 @@ public:
     /// as for all before April of 1866, the date of the moment before stays; the Kaliyuga year of a moment
     /// before 1866 is 0. Raises what the table and the astronomy raise, and ConversionError for the year
     /// 9999.
-    bool SolarDateOf(Moment moment, Moment today);
+    bool SolarDateOf(Moment moment, const Site &site, Moment today);
 
     const SolarDate &Date() const { return date_; }
 
-    /// The sunrise that opens the solar year beginning in a year of the common calendar. A year for which the
-    /// table's weekday fits no date of the middle of April goes on from the start found before; a year
-    /// before 1866 leaves that start as it is.
-    Moment FindYearStart(int year);
+    /// The opening of a solar year.
+    struct YearStart {
+        Moment sunrise;
+        double fraction = 0; ///< of a day, from which the months are laid out
+    };
+
+    /// The start of the solar year that begins in a year of the common calendar. A year for which the table's
+    /// weekday fits no date of the middle of April goes on from the sunrise found before; a year before 1866
+    /// has the start found before.
+    YearStart FindYearStart(int year, const Site &site);
 
 private:
-    bool FindDateBetween(Moment yearStart, Moment nextYearStart, Moment moment, int year);
-    void SolarMonths(Moment yearStart, Moment nextYearStart, Moment moment);
-    Moment MonthStart(Moment yearStart, std::size_t index);
-    void SolarDayOf(std::size_t index, Moment moment);
+    /// The starts of the twelve months and, last, of the next year.
+    using MonthStarts = std::array<Moment, 13>;
+
+    bool FindDateBetween(Moment yearStart, Moment nextYearStart, Moment moment, int year, const Site &site);
+    MonthStarts SolarMonths(Moment yearStart, Moment nextYearStart, const Site &site);
+    Moment MonthStart(const YearStart &yearStart, std::size_t index, const Site &site);
+    std::int32_t SolarDayOf(Moment monthStart, Moment moment, const Site &site);
 
     SunTimes &sunTimes_;
     KaliyugaYears &years_;
-    Moment yearStart_;
-    double yearFraction_ = 0; ///< of a day, at the start of the year found last
-    /// The starts of the twelve months and, last, of the next year.
-    std::array<Moment, 13> monthStarts_;
+    YearStart yearStart_; ///< found last
     SolarDate date_;
 };
 

@@ -1,7 +1,7 @@
 #include "panchanga/calendar/TithiSearch.h"
 
 #include "panchanga/calendar/LunarMonths.h"
-#include "panchanga/calendar/TithiOf.h"
+#include "panchanga/clsTithi.h"
 
 namespace kelvaro {
 
@@ -9,10 +9,6 @@ namespace {
 
 /// The clock from which both walks set out, whatever the time of the birth.
 constexpr CivilClock searchClock{23, 55, 0};
-
-Moment HoursFrom(Moment cursor, std::int32_t hours) {
-    return DateAdd(Interval::Hour, hours, cursor);
-}
 
 /// The full or new moons counted in one direction: those of the sign of the first, each date once.
 class Tally {
@@ -38,28 +34,33 @@ private:
 
 } // namespace
 
-void TithiSearch::Count(std::string_view tithi, Moment birthMoment, TithiCount &count) {
-    const Moment first = MomentOf(Split(birthMoment).date, searchClock);
+TithiSearch::TithiSearch(ClsFindPlanetPosition &position, const Site &site, const AyanamsaSettings &ayanamsa,
+                         Moment birthMoment)
+    : position_(position), site_(site), ayanamsa_(ayanamsa), birthMoment_(birthMoment),
+      firstHour_(MomentOf(Split(birthMoment).date, searchClock)) {}
+
+void TithiSearch::Count(std::string_view tithi, TithiCount &count) {
     count.backward = 0;
     count.forward = 0;
     count.dates.clear();
-    const std::string_view sign = SearchBackward(tithi, first, count);
+    const std::string_view sign = SearchBackward(tithi, count);
     if (count.backward != 2) {
-        count.forward = SearchForward(tithi, first, sign);
+        count.forward = SearchForward(tithi, sign);
     }
 }
 
 /// Returns the sign of the last one found, counted or not.
-std::string_view TithiSearch::SearchBackward(std::string_view tithi, Moment first, TithiCount &count) {
+std::string_view TithiSearch::SearchBackward(std::string_view tithi, TithiCount &count) {
     Tally tally;
     std::string_view found;
-    for (Moment cursor = first;; cursor = HoursFrom(cursor, -1)) {
-        LookAt(cursor);
+    for (std::int32_t hour = 0;; --hour) {
+        LookAtHour(hour);
         if (Is(tithi)) {
-            cursor = LeaveTithi(tithi, -1, cursor);
+            hour = LeaveTithi(tithi, -1, hour);
             found = Sign();
-            if (tally.Takes(found, DateOf(cursor))) {
-                count.dates.push_back(DateOf(cursor));
+            const Moment date = DateOf(MomentOfHour(hour));
+            if (tally.Takes(found, date)) {
+                count.dates.push_back(date);
                 count.sun = Sun();
             }
         }
@@ -70,16 +71,16 @@ std::string_view TithiSearch::SearchBackward(std::string_view tithi, Moment firs
     }
 }
 
-std::int16_t TithiSearch::SearchForward(std::string_view tithi, Moment first, std::string_view backwardSign) {
+std::int16_t TithiSearch::SearchForward(std::string_view tithi, std::string_view backwardSign) {
     Tally tally;
     std::string_view found;
-    for (Moment cursor = first;; cursor = HoursFrom(cursor, 1)) {
-        LookAt(cursor);
+    for (std::int32_t hour = 0;; ++hour) {
+        LookAtHour(hour);
         if (Is(tithi)) {
             // Taken before the tithi is left, so that in both directions it is the sign around its beginning.
             found = Sign();
-            cursor = LeaveTithi(tithi, 1, cursor);
-            tally.Takes(found, DateOf(cursor));
+            hour = LeaveTithi(tithi, 1, hour);
+            tally.Takes(found, DateOf(MomentOfHour(hour)));
         }
         if (tally.Count() > 0 && found != Sign()) {
             return found == backwardSign ? tally.Count() : std::int16_t{0};
@@ -87,38 +88,59 @@ std::int16_t TithiSearch::SearchForward(std::string_view tithi, Moment first, st
     }
 }
 
-/// The first hour, in steps of that many, at which the tithi is another one.
-Moment TithiSearch::LeaveTithi(std::string_view tithi, std::int32_t hours, Moment cursor) {
+/// The first hour in that direction at which the tithi is another one.
+std::int32_t TithiSearch::LeaveTithi(std::string_view tithi, std::int32_t step, std::int32_t hour) {
     while (Is(tithi)) {
-        cursor = HoursFrom(cursor, hours);
-        LookAt(cursor);
+        hour += step;
+        LookAtHour(hour);
     }
-    return cursor;
+    return hour;
 }
 
 Moment TithiSearch::WalkToBrightPratipada(Moment from) {
     Moment cursor = from;
     for (LookAt(cursor); !Is("Bright", "Pratipada"); LookAt(cursor)) {
-        cursor = HoursFrom(cursor, 1);
+        cursor = DateAdd(Interval::Hour, 1, cursor);
     }
     return cursor;
 }
 
-void TithiSearch::LookAtSunAndLagna(Moment cursor) {
-    const PlacePositions::SunAndLagna places = positions_.SunAndLagnaAt(cursor);
-    sky_ = {places.sun, places.lagna};
+Moment TithiSearch::MomentOfHour(std::int32_t hour) const {
+    return DateAdd(Interval::Hour, hour, firstHour_);
+}
+
+/// Walks set out from the first hour and leave out none, so an hour not yet found follows those found.
+void TithiSearch::LookAtHour(std::int32_t hour) {
+    std::vector<SunAndMoon> &found = hour > 0 ? on_ : back_;
+    const auto place = static_cast<std::size_t>(hour > 0 ? hour - 1 : -hour);
+    if (place < found.size()) {
+        sky_ = found.at(place);
+        position_.Recall(sky_);
+    } else {
+        LookAt(MomentOfHour(hour));
+        found.push_back(sky_);
+    }
+}
+
+void TithiSearch::LookAt(Moment moment) {
+    sky_ = position_.FindSunAndMoonAt(moment, site_, ayanamsa_);
+}
+
+void TithiSearch::LookAtSunAndLagna(Moment moment) {
+    position_.FindFixValuesAt(moment, site_, ayanamsa_);
+    sky_ = {position_.FnFindSunPosition(), position_.FnFindLagnaPosition(), position_.FnFindAyanamsa()};
 }
 
 std::string_view TithiSearch::Sign() const {
     return SignOfSun(sky_.sun);
 }
 
-bool TithiSearch::Is(std::string_view tithi) {
-    return TithiNameOf(tithi_, sky_.moon, sky_.sun) == tithi;
+bool TithiSearch::Is(std::string_view tithi) const {
+    return TithiNameOf(sky_.moon, sky_.sun) == tithi;
 }
 
-bool TithiSearch::Is(std::string_view side, std::string_view tithi) {
-    return TithiSideOf(tithi_, sky_.moon, sky_.sun) == side && Is(tithi);
+bool TithiSearch::Is(std::string_view side, std::string_view tithi) const {
+    return TithiSideOf(sky_.moon, sky_.sun) == side && Is(tithi);
 }
 
 } // namespace kelvaro

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "astronomy/clsFindSunSet.h"
 #include "astronomy/clsFindSunrise.h"
-#include "horoscope/record/HoroscopeState.h"
 
 namespace kelvaro {
 
-/// Sunrise and sunset at the place of the record, to the whole minute. The clock of a moment does not count,
-/// only its date. Raises what `clsSunrise` raises.
+/// Sunrise and sunset at a site, to the whole minute. The clock of a moment does not count, only its date.
+/// A date without a sunset has the one found last, so there is one object for the run of the program. Raises
+/// what `clsSunrise` raises.
 class SunTimes {
 public:
     struct Day {
@@ -16,21 +15,16 @@ public:
         Moment nextSunrise; ///< of the following date
     };
 
-    /// The record and the finders must outlive the object.
-    SunTimes(const HoroscopeState &state, clsFindSunrise &sunrise, clsFindSunSet &sunset)
-        : state_(state), sunrise_(sunrise), sunset_(sunset) {}
-    SunTimes(const SunTimes &) = delete;
-    SunTimes &operator=(const SunTimes &) = delete;
-    ~SunTimes() = default;
+    Day SunTimesOf(Moment moment, const Site &site) {
+        return {SunriseOf(moment, site), sunset_.FnFindSunset(moment, site),
+                SunriseOf(DateAdd(Interval::Day, 1, moment), site)};
+    }
 
-    Day SunTimesOf(Moment moment);
-    Moment SunriseOf(Moment moment);
-    Moment SunsetOf(Moment moment);
+    Moment SunriseOf(Moment moment, const Site &site) { return sunrise_.FnFindSunrise(moment, site); }
 
 private:
-    const HoroscopeState &state_;
-    clsFindSunrise &sunrise_;
-    clsFindSunSet &sunset_;
+    clsFindSunrise sunrise_;
+    clsFindSunSet sunset_;
 };
 
 } // namespace kelvaro

@@ -1,4 +1,3 @@
-#include "astronomy/clsFindSunSet.h"
 #include "astronomy/clsFindSunrise.h"
 #include "runtime/RuntimeError.h"
 #include "tests/astronomy/Birth.h"

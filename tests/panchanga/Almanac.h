@@ -19,30 +19,31 @@ inline store::Connection &SeedConnection() {
 
 /// The calendars of a program just started, at New Delhi and under Lahiri's ayanamsa.
 struct Almanac {
-    explicit Almanac(store::Connection &connection = SeedConnection()) : years(connection) {
-        state.site.LatDeg = 28;
-        state.site.LatMin = 36;
-        state.site.LonDeg = 77;
-        state.site.LonMin = 12;
-    }
+    explicit Almanac(store::Connection &connection = SeedConnection()) : table(connection) {}
 
-    HoroscopeState state;
-    clsFindSunrise sunrise;
-    clsFindSunSet sunset;
-    clsTithi tithi;
-    PlacePositions positions{state};
-    SunTimes sunTimes{state, sunrise, sunset};
-    KaliyugaYears years;
+    Site site{28, 36, "N", 77, 12, "E", 5.5, "E"};
+    AyanamsaSettings ayanamsa{"Lahiri"};
+    ClsFindPlanetPosition position;
+    SunTimes sunTimes;
+    store::KaliyugaYearTable table;
+    KaliyugaYears years{table};
     SolarCalendar solar{sunTimes, years};
-    LunarCalendar lunar{positions, sunTimes, tithi, years};
+    LunarCalendar lunar{sunTimes, years};
+
+    TithiSearch SearchAround(Moment birth) { return {position, site, ayanamsa, birth}; }
 
     std::string Krishnadi(const char *moment, const char *status = "TP") {
-        lunar.LunarDateKrishnadi(ReadMoment(moment), status);
+        TithiSearch search = SearchAround(ReadMoment(moment));
+        lunar.LunarDateKrishnadi(search, status);
         return Joined(lunar.Krishnadi());
     }
 
     std::string Sukladi(const char *moment, const char *status = "TP") {
-        lunar.LunarDateSukladi(ReadMoment(moment), status);
+        return Sukladi(ReadMoment(moment), status);
+    }
+    std::string Sukladi(Moment moment, const char *status = "TP") {
+        TithiSearch search = SearchAround(moment);
+        lunar.LunarDateSukladi(search, status);
         return Joined(lunar.Sukladi());
     }
 

@@ -114,7 +114,8 @@ TEST(clsPlanetStrength, ReadsTheWordOfTheSign) {
 TEST(ClsSolarYear, ReadsTheRowOfTheCycle) {
     store::Connection connection;
     connection.OpenCopyInMemory(KELVARO_SEED_DATABASE);
-    ClsSolarYear year(connection);
+    store::KaliyugaYearTable table(connection);
+    ClsSolarYear year(table);
     year.EnglishYear = 1987;
     year.FindSolarYear();
     EXPECT_EQ(year.yearname, "Prabhava");

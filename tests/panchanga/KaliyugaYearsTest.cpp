@@ -25,9 +25,10 @@ TEST(KaliyugaYears, AYearWithoutARowLeavesTheValues) {
     Almanac almanac;
     almanac.years.KaliyugaYearName(2020);
     EXPECT_EQ(almanac.years.KaliyugaYearName(2107), "");
-    EXPECT_EQ(almanac.years.DayVal, 7);
-    EXPECT_DOUBLE_EQ(almanac.years.YearRemain, 0.7951);
-    EXPECT_DOUBLE_EQ(almanac.years.YearVal, 42.7951);
+    const store::KaliyugaYear &row = almanac.years.RowOrLast(2107);
+    EXPECT_EQ(row.DayVal, 7);
+    EXPECT_DOUBLE_EQ(row.YearRemain, 0.7951);
+    EXPECT_DOUBLE_EQ(row.YearVal, 42.7951);
 }
 
 TEST(KaliyugaYears, RaisesWhatTheDatabaseRaises) {

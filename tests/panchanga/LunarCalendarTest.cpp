@@ -1,4 +1,5 @@
 #include "panchanga/clsStar.h"
+#include "panchanga/clsTithi.h"
 #include "panchanga/clsYoga.h"
 #include "tests/panchanga/Almanac.h"
 
@@ -86,11 +87,9 @@ TEST(LunarCalendar, OnTheDayOfTheNewMoonTheNextMonthBegins) {
 
 TEST(LunarCalendar, TheFirstDayOfTheMonthBeginsAtSunrise) {
     Almanac almanac;
-    const Moment sunrise = almanac.sunTimes.SunriseOf(MomentOf({2019, 4, 6}));
-    almanac.lunar.LunarDateSukladi(sunrise, "TP");
-    EXPECT_EQ(almanac.lunar.Sukladi().month, "Chaitra");
-    almanac.lunar.LunarDateSukladi(DateAdd(Interval::Minute, -1, sunrise), "TP");
-    EXPECT_EQ(almanac.lunar.Sukladi().month, "Phalguna");
+    const Moment sunrise = almanac.sunTimes.SunriseOf(MomentOf({2019, 4, 6}), almanac.site);
+    EXPECT_EQ(almanac.Sukladi(sunrise), "Shudha Chaitra Vikari");
+    EXPECT_EQ(almanac.Sukladi(DateAdd(Interval::Minute, -1, sunrise)), "Shudha Phalguna Vilambi");
     EXPECT_EQ(almanac.Sukladi("6/4/2019 00:01", "DP"), "Shudha Chaitra Vikari");
 }
 
@@ -126,10 +125,14 @@ TEST(LunarCalendar, TithiYogaAndStarOfBirths) {
     };
     for (const auto &expected : cases) {
         Almanac almanac;
-        const auto [sun, moon] = almanac.positions.SunAndMoonAt(ReadMoment(expected.moment));
-        almanac.tithi.moonA = moon;
-        almanac.tithi.sunC = sun;
-        almanac.tithi.FindTithi();
+        TithiSearch sky = almanac.SearchAround(ReadMoment(expected.moment));
+        sky.LookAt(sky.BirthMoment());
+        const double sun = sky.Sun();
+        const double moon = sky.Moon();
+        clsTithi tithi;
+        tithi.moonA = moon;
+        tithi.sunC = sun;
+        tithi.FindTithi();
         clsYoga yoga;
         yoga.moon_position = moon;
         yoga.sun_position = sun;
@@ -137,17 +140,16 @@ TEST(LunarCalendar, TithiYogaAndStarOfBirths) {
         clsStar star;
         star.PlanetPosition = moon;
         star.findstar();
-        EXPECT_EQ(almanac.tithi.TithiNo, expected.tithi) << expected.moment;
-        EXPECT_EQ(almanac.tithi.Karnam, expected.karana) << expected.moment;
+        EXPECT_EQ(tithi.TithiNo, expected.tithi) << expected.moment;
+        EXPECT_EQ(tithi.Karnam, expected.karana) << expected.moment;
         EXPECT_EQ(yoga.YogaName, expected.yoga) << expected.moment;
         EXPECT_EQ(star.StarNo, expected.star) << expected.moment;
     }
 }
 
 TithiCount Counted(Almanac &almanac, const char *tithi, const char *moment) {
-    TithiSearch search(almanac.positions, almanac.tithi);
     TithiCount count;
-    search.Count(tithi, ReadMoment(moment), count);
+    almanac.SearchAround(ReadMoment(moment)).Count(tithi, count);
     return count;
 }
 
@@ -186,7 +188,7 @@ TEST(TithiSearch, EndsForNumbersThatAreNone) {
     constexpr double infinite = std::numeric_limits<double>::infinity();
     for (const double bad : {infinite, std::numeric_limits<double>::quiet_NaN(), 1e300}) {
         Almanac almanac;
-        almanac.state.site.TimeDiff = bad;
+        almanac.site.TimeDiff = bad;
         EXPECT_THROW(Counted(almanac, "Purnima", "1/7/2015"), RuntimeError) << bad;
         EXPECT_THROW(almanac.Krishnadi("1/7/2015"), RuntimeError) << bad;
     }
@@ -194,18 +196,37 @@ TEST(TithiSearch, EndsForNumbersThatAreNone) {
     EXPECT_THROW(almanac.Sukladi("10/1/100"), RuntimeError);
 }
 
-TEST(PlacePositions, TakesTheCustomAyanamsaFromTheRecord) {
+// Walks of one birth share the hours that they come to. What the planet object is left with must not tell
+// the difference: an unknown ayanamsa goes on from it.
+TEST(TithiSearch, LeavesTheSameAyanamsaWhetherItsHoursWereSharedOrNot) {
+    for (const char *birth : {"1/7/2015", "25/6/2015", "27/10/2019"}) {
+        Almanac shared, apart;
+        TithiSearch both = shared.SearchAround(ReadMoment(birth));
+        TithiCount count;
+        for (const char *tithi : {"Purnima", "Amavashya", "Purnima"}) {
+            both.Count(tithi, count);
+            const TithiCount alone = Counted(apart, tithi, birth);
+            EXPECT_EQ(count.dates, alone.dates) << birth;
+            EXPECT_EQ(count.sun, alone.sun) << birth;
+            EXPECT_EQ(both.Moon(), apart.position.FnFindMoonPosition()) << birth;
+            EXPECT_EQ(shared.position.FnFindAyanamsa(), apart.position.FnFindAyanamsa()) << birth;
+        }
+    }
+}
+
+TEST(TithiSearch, LooksUnderACustomAyanamsa) {
     Almanac almanac;
-    const Moment moment = MomentOf({2000, 3, 1}, {12, 0, 0});
-    almanac.state.preferences.AyanamsaInForce = "Sayana";
-    const double tropical = almanac.positions.SunAndMoonAt(moment).sun;
-    almanac.state.preferences.AyanamsaInForce = "Custom";
-    almanac.state.preferences.YearInForce = 400;
-    almanac.state.preferences.ProgressInForce = 54;
-    const PlacePositions::SunAndMoon sky = almanac.positions.SunAndMoonAt(moment);
+    const auto sunUnder = [&](const AyanamsaSettings &ayanamsa) {
+        almanac.ayanamsa = ayanamsa;
+        TithiSearch sky = almanac.SearchAround(MomentOf({2000, 3, 1}, {12, 0, 0}));
+        sky.LookAt(sky.BirthMoment());
+        const double sun = sky.Sun();
+        sky.LookAtSunAndLagna(sky.BirthMoment());
+        EXPECT_EQ(sky.Sun(), sun);
+        return sun;
+    };
     // 1600 years at 54 seconds of arc, and two months.
-    EXPECT_NEAR(tropical - sky.sun, 24, 0.01);
-    EXPECT_EQ(almanac.positions.SunAndLagnaAt(moment).sun, sky.sun);
+    EXPECT_NEAR(sunUnder({"Sayana"}) - sunUnder({"Custom", 400, 54}), 24, 0.01);
 }
 
 } // namespace

@@ -6,7 +6,8 @@ namespace kelvaro {
 namespace {
 
 const SolarDate &Found(Almanac &almanac, const char *moment) {
-    EXPECT_TRUE(almanac.solar.SolarDateOf(ReadMoment(moment), MomentOf({2024, 1, 1}))) << moment;
+    EXPECT_TRUE(almanac.solar.SolarDateOf(ReadMoment(moment), almanac.site, MomentOf({2024, 1, 1})))
+        << moment;
     return almanac.solar.Date();
 }
 
@@ -51,15 +52,15 @@ TEST(SolarCalendar, DatesOfPrintedAlmanacs) {
 
 TEST(SolarCalendar, TheDayBeginsAtSunrise) {
     Almanac almanac;
-    const Moment sunrise = almanac.sunTimes.SunriseOf(MomentOf({2024, 4, 14}));
+    const Moment sunrise = almanac.sunTimes.SunriseOf(MomentOf({2024, 4, 14}), almanac.site);
     const Moment today = MomentOf({2024, 1, 1});
-    almanac.solar.SolarDateOf(sunrise, today);
+    almanac.solar.SolarDateOf(sunrise, almanac.site, today);
     EXPECT_EQ(almanac.solar.Date().day, 1);
     EXPECT_EQ(almanac.solar.Date().yearName, "Krodhi");
     EXPECT_EQ(almanac.solar.Date().monthStart, sunrise);
 
     // The last day of the year before, whose month has 31 days or 30.
-    almanac.solar.SolarDateOf(DateAdd(Interval::Minute, -1, sunrise), today);
+    almanac.solar.SolarDateOf(DateAdd(Interval::Minute, -1, sunrise), almanac.site, today);
     EXPECT_EQ(almanac.solar.Date().month, "Phalguna");
     EXPECT_EQ(almanac.solar.Date().yearName, "Sobhakrit");
     EXPECT_EQ(almanac.solar.Date().day, almanac.solar.Date().monthLength);
@@ -74,8 +75,8 @@ TEST(SolarCalendar, YearStarts) {
         int year, day;
     } cases[] = {{1965, 13}, {1989, 13}, {2012, 13}, {2020, 14}, {2023, 14}, {2050, 14}};
     for (const auto &expected : cases) {
-        const Moment start = almanac.solar.FindYearStart(expected.year);
-        EXPECT_EQ(start, almanac.sunTimes.SunriseOf(MomentOf({expected.year, 4, expected.day})))
+        const Moment start = almanac.solar.FindYearStart(expected.year, almanac.site).sunrise;
+        EXPECT_EQ(start, almanac.sunTimes.SunriseOf(MomentOf({expected.year, 4, expected.day}), almanac.site))
             << expected.year;
     }
 }
@@ -87,24 +88,24 @@ TEST(SolarCalendar, AYearWithoutAFittingWeekdayGoesOnFromTheStartBefore) {
     connection.OpenCopyInMemory(KELVARO_SEED_DATABASE);
     Almanac almanac(connection);
     connection.Execute("update KaliyugaYearDetails set DayVal = 7, YearRemain = 0 where Yearno = 35");
-    almanac.solar.FindYearStart(2020);
-    const Moment dayAfter = almanac.sunTimes.SunriseOf(MomentOf({2020, 4, 15}));
-    EXPECT_EQ(almanac.solar.FindYearStart(2021), dayAfter);
-    EXPECT_EQ(almanac.solar.FindYearStart(1865), dayAfter);
+    almanac.solar.FindYearStart(2020, almanac.site);
+    const Moment dayAfter = almanac.sunTimes.SunriseOf(MomentOf({2020, 4, 15}), almanac.site);
+    EXPECT_EQ(almanac.solar.FindYearStart(2021, almanac.site).sunrise, dayAfter);
+    EXPECT_EQ(almanac.solar.FindYearStart(1865, almanac.site).sunrise, dayAfter);
 }
 
 TEST(SolarCalendar, BeforeTheTableThereIsNoDate) {
     Almanac almanac;
     const Moment today = MomentOf({2024, 1, 1});
-    EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf({1850, 6, 1}), today));
+    EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf({1850, 6, 1}), almanac.site, today));
     EXPECT_EQ(almanac.solar.Date().month, "");
     EXPECT_EQ(almanac.solar.Date().kaliDays, 1790030 + 45292);
 
     Found(almanac, "14/4/2019 12:00");
-    EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf({1866, 1, 1}), today));
+    EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf({1866, 1, 1}), almanac.site, today));
     EXPECT_EQ(almanac.solar.Date().kaliyugaYear, 5120);
     for (const CivilDate &date : {CivilDate{1850, 6, 1}, CivilDate{1865, 12, 1}}) {
-        EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf(date), today)) << date.year;
+        EXPECT_FALSE(almanac.solar.SolarDateOf(MomentOf(date), almanac.site, today)) << date.year;
         EXPECT_EQ(almanac.solar.Date().month, "Chaitra") << date.year;
         EXPECT_EQ(almanac.solar.Date().kaliyugaYear, 0) << date.year;
     }

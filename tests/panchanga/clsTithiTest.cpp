@@ -1,4 +1,4 @@
-#include "panchanga/calendar/TithiOf.h"
+#include "panchanga/clsTithi.h"
 
 #include <gtest/gtest.h>
 
@@ -75,13 +75,17 @@ TEST(ClsTithi, BoundsBelongToTheRowBefore) {
 }
 
 TEST(ClsTithi, KeepsItsResultsOutsideTheCircle) {
-    clsTithi tithi;
-    EXPECT_EQ(TithiNumberOf(tithi, 200, 10), 16);
+    clsTithi tithi = Classified(200, 10);
     for (const double moon : {371.0, -400.0, std::numeric_limits<double>::quiet_NaN()}) {
-        EXPECT_EQ(TithiNameOf(tithi, moon, 10), "Pratipada") << moon;
-        EXPECT_EQ(TithiNumberOf(tithi, moon, 10), 16) << moon;
-        EXPECT_EQ(TithiSideOf(tithi, moon, 10), "Dark") << moon;
+        tithi.moonA = moon;
+        tithi.FindTithi();
+        EXPECT_EQ(tithi.Tithi + tithi.TithiPosition, "PratipadaDark") << moon;
+        EXPECT_EQ(tithi.TithiNo, 16) << moon;
+        EXPECT_EQ(TithiNumberOf(moon, 10), 0) << moon;
     }
+    EXPECT_EQ(TithiNumberOf(200, 10), 16);
+    EXPECT_EQ(TithiNameOf(200, 10), "Pratipada");
+    EXPECT_EQ(TithiSideOf(200, 10), "Dark");
 }
 
 } // namespace

@@ -1,0 +1,33 @@
+#include "astronomy/clsFindSunrise.h"
+
+#include <algorithm>
+
+namespace kelvaro {
+
+const clsSunrise &SunEventFinder::Calculate(Moment date, const Site &site) {
+    // A birth and its solar year ask for some fifty dates, most of them several times.
+    constexpr std::size_t mostDates = 100;
+    if (site != site_ || found_.size() > mostDates) {
+        found_.clear();
+        site_ = site;
+    }
+    const Moment day = DateOf(date);
+    const auto known = std::ranges::find(found_, day, &Found::date);
+    if (known != found_.end()) {
+        sunrise_.Take(known->events);
+        return sunrise_;
+    }
+    sunrise_.BirthDateTime = date;
+    sunrise_.CL_LatitudeDeg = site.LatNS == "S" && site.LatDeg > 0 ? -site.LatDeg : site.LatDeg;
+    sunrise_.CL_LongitudeDeg = site.LonEW == "W" && site.LonDeg > 0 ? -site.LonDeg : site.LonDeg;
+    sunrise_.CL_LongitudeMin = site.LonMin;
+    sunrise_.CL_LatitideMin = site.LatMin;
+    sunrise_.STZ = site.TimeDiffEW == "E" ? site.TimeDiff : -site.TimeDiff;
+    sunrise_.DSAVE = 0;
+    const SunEvents events = sunrise_.FindEvents();
+    found_.push_back({day, events});
+    sunrise_.Take(events);
+    return sunrise_;
+}
+
+} // namespace kelvaro
