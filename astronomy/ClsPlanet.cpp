@@ -73,7 +73,6 @@ double ClsPlanet::ClockHours() const {
 void ClsPlanet::FnFindSiderealTime() {
     UniversalHours = civil_.clock.minute / 60.0 + civil_.clock.hour - TZone - DSAVE;
     FnFindDayNumber();
-    SiderealHours = GreenwichSiderealHours(DayNumber, civil_.date.year, UniversalHours);
     Centuries = DayNumber / daysInCentury + UniversalHours / 876600;
 }
 

@@ -79,7 +79,6 @@ private:
     double DayNumber = 0;       ///< days from 1900 January 0.5 to 0 hours of the civil date
     double JulianDay = 0;       ///< DayNumber + 2415020.0
     double JulianDayNumber = 0; ///< JulianDay + 0.5
-    double SiderealHours = 0;   ///< at Greenwich; the Lagna has a sidereal time of its own
     double Centuries = 0;       ///< T, Julian centuries from the epoch
     double CenturiesCubed = 0;  ///< never assigned: the cubic terms of the Moon drop out
     SunPlace sun_;

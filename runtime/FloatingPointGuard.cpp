@@ -14,7 +14,10 @@ constexpr int faults = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
 } // namespace
 
 FloatingPointGuard::FloatingPointGuard() noexcept {
-    std::feclearexcept(faults);
+    // Clearing costs much more than looking, and there is seldom anything to clear.
+    if (std::fetestexcept(faults) != 0) {
+        std::feclearexcept(faults);
+    }
 }
 
 void FloatingPointGuard::Check(const char *step) const {

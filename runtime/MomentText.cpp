@@ -5,7 +5,6 @@
 
 #include <array>
 #include <charconv>
-#include <cstdio>
 #include <optional>
 #include <system_error>
 
@@ -119,10 +118,11 @@ std::optional<CivilClock> ReadClock(Reader &reader) {
     return clock;
 }
 
-template <typename... Values> std::string Formatted(const char *format, Values... values) {
-    std::array<char, 64> buffer{};
-    std::snprintf(buffer.data(), buffer.size(), format, values...);
-    return buffer.data();
+/// Writes a number over so many digits of a text, with leading zeros.
+void Put(std::string &text, std::size_t place, std::size_t digits, int number) {
+    for (std::size_t i = place + digits; i-- > place; number /= 10) {
+        text.at(i) = static_cast<char>('0' + number % 10);
+    }
 }
 
 } // namespace
@@ -157,19 +157,28 @@ int ReadMonth(std::string_view text) {
 
 std::string DateText(Moment moment) {
     const CivilDate date = Split(moment).date;
-    return Formatted("%02d/%02d/%04d", date.day, date.month, date.year);
+    std::string text("00/00/0000");
+    Put(text, 0, 2, date.day);
+    Put(text, 3, 2, date.month);
+    Put(text, 6, 4, date.year);
+    return text;
 }
 
 std::string MonthNameDateText(Moment moment) {
     const CivilDate date = Split(moment).date;
-    const std::string_view month = monthNames.at(static_cast<std::size_t>(date.month - 1));
-    return Formatted("%02d/%.3s/%04d", date.day, month.data(), date.year);
+    std::string text("00/Jan/0000");
+    Put(text, 0, 2, date.day);
+    text.replace(3, 3, monthNames.at(static_cast<std::size_t>(date.month - 1)).substr(0, 3));
+    Put(text, 7, 4, date.year);
+    return text;
 }
 
 std::string ClockText(Moment moment) {
     const CivilClock clock = Split(moment).clock;
-    const int hour = clock.hour % 12 == 0 ? 12 : clock.hour % 12;
-    return Formatted("%02d:%02d %s", hour, clock.minute, clock.hour < 12 ? "AM" : "PM");
+    std::string text(clock.hour < 12 ? "00:00 AM" : "00:00 PM");
+    Put(text, 0, 2, clock.hour % 12 == 0 ? 12 : clock.hour % 12);
+    Put(text, 3, 2, clock.minute);
+    return text;
 }
 
 std::string MomentText(Moment moment) {
@@ -182,7 +191,11 @@ std::string MonthNameMomentText(Moment moment) {
 
 std::string TimingText(Moment moment) {
     const CivilClock clock = Split(moment).clock;
-    return Formatted("%02d:%02d:%02d", clock.hour, clock.minute, clock.second);
+    std::string text("00:00:00");
+    Put(text, 0, 2, clock.hour);
+    Put(text, 3, 2, clock.minute);
+    Put(text, 6, 2, clock.second);
+    return text;
 }
 
 bool IsBeforeNoon(Moment moment) {

@@ -11,8 +11,4 @@ namespace kelvaro {
 /// OverflowError for a year outside 16 bits.
 std::optional<double> DayNumberOf(double year, double month, double day);
 
-/// Greenwich mean sidereal time in hours, 0 to 24, for a day number, its calendar year and the universal
-/// hours.
-double GreenwichSiderealHours(double dayNumber, double year, double universalHours);
-
 } // namespace kelvaro

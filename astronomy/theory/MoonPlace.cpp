@@ -13,7 +13,7 @@ namespace {
 struct Term {
     double coefficient; ///< degrees
     int power;          ///< of the factor for the Earth's eccentricity
-    int d, m, n, f;
+    double d, m, n, f;
 };
 
 constexpr std::array<Term, 50> terms{{

@@ -51,26 +51,10 @@ double InLongitude(const Arguments &a, double T) {
     return sum;
 }
 
-/// Seconds of arc.
-double InObliquity(const Arguments &a, double T) {
-    const auto [L2, D2, Ms, Mm, N] = a;
-    double sum = (9.21 + 0.00091 * T) * std::cos(N);
-    sum += (0.522 - 0.00029 * T) * std::cos(L2);
-    sum -= 0.0904 * std::cos(N + N);
-    sum += 0.0884 * std::cos(D2);
-    sum += 0.0216 * std::cos(L2 + Ms);
-    sum += 0.0183 * std::cos(D2 - N);
-    sum += 0.0113 * std::cos(D2 + Mm);
-    sum -= 0.0093 * std::cos(L2 - Ms);
-    sum -= 0.0066 * std::cos(L2 - N);
-    return sum;
-}
-
 } // namespace
 
-Nutation FnFindNutation(double centuries) {
-    const Arguments arguments = ArgumentsAt(centuries);
-    return {InLongitude(arguments, centuries) / 3600, InObliquity(arguments, centuries) / 3600};
+double FnFindNutation(double centuries) {
+    return InLongitude(ArgumentsAt(centuries), centuries) / 3600;
 }
 
 } // namespace kelvaro

@@ -2,13 +2,9 @@
 
 namespace kelvaro {
 
-/// Nutation, degrees.
-struct Nutation {
-    double longitude = 0;
-    double obliquity = 0;
-};
-
-/// The thirteen largest terms of Woolard's theory. `centuries` are Julian centuries from 1900 January 0.5.
-Nutation FnFindNutation(double centuries);
+/// Nutation in longitude, degrees: the thirteen largest terms of Woolard's theory. That in obliquity serves
+/// nothing here, since the Lagna is found by the mean obliquity. `centuries` are Julian centuries from 1900
+/// January 0.5.
+double FnFindNutation(double centuries);
 
 } // namespace kelvaro

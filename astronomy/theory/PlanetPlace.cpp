@@ -2,7 +2,6 @@
 
 #include "astronomy/theory/AngleReduction.h"
 #include "astronomy/theory/KeplerEquation.h"
-#include "astronomy/theory/Nutation.h"
 #include "astronomy/theory/PlanetTerms.h"
 
 #include <array>
@@ -126,8 +125,7 @@ double FnFindPlanet(Planet planet, double centuries, const PlanetElements &eleme
     for (int pass = 2; pass <= course.passes; ++pass) {
         place = PassOf(planet, view, place.fromEarth * lightDaysPerUnit);
     }
-    double longitude = GeocentricLongitude(place, view, course.isInner) +
-                       FnFindNutation(centuries).longitude * degreesToRadians;
+    double longitude = GeocentricLongitude(place, view, course.isInner) + sun.nutation * degreesToRadians;
     if (course.aberrationPi) {
         const double c = std::cos(view.earthLongitude + *course.aberrationPi - longitude);
         // The distance goes to the cosine as it stands, as if it were an angle: the correction swings with

@@ -51,8 +51,8 @@ SunPlace FnFindSun(double centuries) {
     sun.distance =
         1.0000002 * (1 - eccentricity * std::cos(anomalies.eccentricAnomaly)) + perturbation.distance;
     constexpr double aberration = 0.00569;
-    sun.apparentLongitude = FnNormalize360(sun.trueLongitude * radiansToDegrees +
-                                           FnFindNutation(centuries).longitude - aberration);
+    sun.nutation = FnFindNutation(centuries);
+    sun.apparentLongitude = FnNormalize360(sun.trueLongitude * radiansToDegrees + sun.nutation - aberration);
     return sun;
 }
 

@@ -7,6 +7,7 @@ struct SunPlace {
     double trueLongitude = 0;     ///< geometric, tropical, radians from 0 to the full circle
     double distance = 0;          ///< astronomical units
     double apparentLongitude = 0; ///< tropical with nutation and aberration, degrees from 0 to 360
+    double nutation = 0;          ///< in longitude, degrees
 };
 
 /// Newcomb's theory with the largest perturbations. `centuries` are Julian centuries from 1900 January 0.5.

@@ -42,11 +42,5 @@ TEST(DayNumber, KnowsNoYearZeroAndNoYearBeyond16Bits) {
     EXPECT_THROW(DayNumberOf(32768, 1, 1), OverflowError);
 }
 
-TEST(DayNumber, CarriesTheSiderealTimeOfGreenwich) {
-    // Meeus's examples for 1987 April 10: 13h 10m 46.3668s at 0 hours, 8h 34m 57.0896s at 19h 21m.
-    EXPECT_NEAR(GreenwichSiderealHours(31875.5, 1987, 0), 13.1795463, 1e-6);
-    EXPECT_NEAR(GreenwichSiderealHours(31875.5, 1987, 19.35), 8.5825249, 1e-6);
-}
-
 } // namespace
 } // namespace kelvaro
