@@ -61,15 +61,16 @@ TEST_F(BirthSummaryTest, LocalMeanTimeOnBothSidesOfMeridianAndGreenwich) {
         const char *zoneSide, *localMeanTime;
     };
     const std::vector<Case> cases{
-        {82, 30, "E", 5.5, "E", "14/Jul/1965 02:15 PM"},  // on the meridian
-        {83, 0, "E", 5.5, "E", "14/Jul/1965 02:17 PM"},   // a whole number of minutes
-        {78, 28, "E", 5.5, "E", "14/Jul/1965 01:58 PM"},  // 16 minutes 8 seconds back
-        {82, 46, "E", 5.5, "E", "14/Jul/1965 02:16 PM"},  // 1 minute 4 seconds on
-        {74, 0, "W", 5, "W", "14/Jul/1965 02:19 PM"},     // New York lies east of its meridian
-        {77, 0, "W", 5, "W", "14/Jul/1965 02:07 PM"},     // Washington lies west of it
-        {0, 30, "W", 0, "E", "14/Jul/1965 02:13 PM"},     // west of Greenwich under its time
-        {179, 0, "W", 13, "E", "13/Jul/1965 01:19 PM"},   // Tonga: the same time a day apart
-        {172, 0, "E", 11.5, "E", "14/Jul/1965 02:13 PM"}, // an old half-hour zone
+        {82, 30, "E", 5.5, "E", "14/Jul/1965 02:15 PM"},          // on the meridian
+        {82, 30, "E", 5.5000000002, "E", "14/Jul/1965 02:15 PM"}, // 1.2e-08 minutes off it
+        {83, 0, "E", 5.5, "E", "14/Jul/1965 02:17 PM"},           // a whole number of minutes
+        {78, 28, "E", 5.5, "E", "14/Jul/1965 01:58 PM"},          // 16 minutes 8 seconds back
+        {82, 46, "E", 5.5, "E", "14/Jul/1965 02:16 PM"},          // 1 minute 4 seconds on
+        {74, 0, "W", 5, "W", "14/Jul/1965 02:19 PM"},             // New York lies east of its meridian
+        {77, 0, "W", 5, "W", "14/Jul/1965 02:07 PM"},             // Washington lies west of it
+        {0, 30, "W", 0, "E", "14/Jul/1965 02:13 PM"},             // west of Greenwich under its time
+        {179, 0, "W", 13, "E", "13/Jul/1965 01:19 PM"},           // Tonga: the same time a day apart
+        {172, 0, "E", 11.5, "E", "14/Jul/1965 02:13 PM"},         // an old half-hour zone
     };
     for (const Case &test : cases) {
         HoroscopeState &state = horoscope.state;
