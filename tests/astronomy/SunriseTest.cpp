@@ -56,30 +56,19 @@ struct Day {
 
 const Day days[] = {
     {{13, 5, "N", 80, 17, "E"}, {5.5, "E"}, {1965, 7, 14}, {5, 50}, {18, 39}}, // Chennai
-    {{13, 5, "N", 80, 17, "E"}, {5.5, "E"}, {1857, 5, 10}, {5, 45}, {18, 26}},
     {{28, 40, "N", 77, 13, "E"}, {5.5, "E"}, {1947, 8, 15}, {5, 50}, {19, 1}}, // Delhi
-    {{28, 40, "N", 77, 13, "E"}, {5.5, "E"}, {2100, 12, 21}, {7, 9}, {17, 28}},
-    {{51, 30, "N", 0, 10, "W"}, {0, "E"}, {1801, 6, 21}, {3, 42}, {20, 21}}, // London
+    {{51, 30, "N", 0, 10, "W"}, {0, "E"}, {1801, 6, 21}, {3, 42}, {20, 21}},   // London
     {{51, 30, "N", 0, 10, "W"}, {0, "W"}, {2000, 12, 21}, {8, 4}, {15, 54}},
-    {{40, 43, "N", 74, 0, "W"}, {5, "W"}, {1899, 12, 29}, {7, 20}, {16, 37}}, // New York
-    {{40, 43, "N", 74, 0, "W"}, {5, "W"}, {2024, 3, 10}, {6, 15}, {17, 58}},
+    {{40, 43, "N", 74, 0, "W"}, {5, "W"}, {1899, 12, 29}, {7, 20}, {16, 37}},  // New York
     {{33, 52, "S", 151, 13, "E"}, {10, "E"}, {1901, 1, 1}, {4, 47}, {19, 10}}, // Sydney
-    {{33, 52, "S", 151, 13, "E"}, {10, "E"}, {2031, 6, 21}, {7, 0}, {16, 54}},
-    {{34, 36, "S", 58, 23, "W"}, {3, "W"}, {1880, 9, 23}, {6, 41}, {18, 51}}, // Buenos Aires
-    {{34, 36, "S", 58, 23, "W"}, {3, "W"}, {1999, 12, 31}, {5, 43}, {20, 10}},
+    {{34, 36, "S", 58, 23, "W"}, {3, "W"}, {1880, 9, 23}, {6, 41}, {18, 51}},  // Buenos Aires
     {{1, 17, "S", 36, 49, "E"}, {3, "E"}, {1963, 12, 12}, {6, 20}, {18, 32}},  // Nairobi
     {{61, 13, "N", 149, 54, "W"}, {9, "W"}, {1964, 3, 27}, {6, 38}, {19, 34}}, // Anchorage
     {{18, 8, "S", 178, 25, "E"}, {12, "E"}, {1970, 10, 10}, {5, 42}, {18, 6}}, // Suva, by the date line
-    {{13, 50, "S", 171, 45, "W"}, {11, "W"}, {1962, 1, 1}, {6, 3}, {18, 59}},  // Apia, on its other side
     {{54, 48, "S", 68, 18, "W"}, {3, "W"}, {1884, 12, 21}, {4, 52}, {22, 12}}, // Ushuaia
     {{54, 48, "S", 68, 18, "W"}, {3, "W"}, {2050, 6, 21}, {9, 59}, {17, 11}},
-    {{35, 41, "N", 139, 46, "E"}, {9, "E"}, {1868, 1, 3}, {6, 51}, {16, 39}}, // Tokyo
     {reykjavik, {0, "E"}, {2011, 12, 1}, {10, 45}, {15, 48}},
-    {reykjavik,
-     {0, "E"},
-     {1944, 6, 17},
-     {2, 56},
-     {0, 1}}, // the Sun of the evening before sets after midnight
+    {reykjavik, {0, "E"}, {1944, 6, 17}, {2, 56}, {0, 1}}, // sets after midnight
 };
 
 TEST(Sunrise, AgreesWithTheEphemerides) {
@@ -92,7 +81,7 @@ TEST(Sunrise, AgreesWithTheEphemerides) {
 }
 
 TEST(Sunrise, TakesNoNoticeOfDaylightSaving) {
-    for (const Day &day : {days[0], days[9]}) {
+    for (const Day &day : {days[0], days[5]}) {
         EXPECT_EQ(SunriseAt(day.place, day.zone, day.date, 0), SunriseAt(day.place, day.zone, day.date, 1));
         EXPECT_EQ(SunsetAt(day.place, day.zone, day.date, 0), SunsetAt(day.place, day.zone, day.date, 1));
     }
@@ -109,6 +98,11 @@ TEST(Sunrise, LeavesAMissingSunsetAsItWas) {
     EXPECT_EQ(SunsetAt(finder, reykjavik, {0, "E"}, without), Moment());
     const Moment earlier = SunsetAt(finder, reykjavik, {0, "E"}, {1995, 3, 1});
     EXPECT_EQ(SunsetAt(finder, reykjavik, {0, "E"}, without), earlier);
+    // Dates asked for again are remembered, with and without a sunset.
+    const Moment later = SunsetAt(finder, reykjavik, {0, "E"}, {1995, 4, 1});
+    EXPECT_EQ(SunsetAt(finder, reykjavik, {0, "E"}, without), later);
+    EXPECT_EQ(SunsetAt(finder, reykjavik, {0, "E"}, {1995, 3, 1}), earlier);
+    EXPECT_NE(SunsetAt(finder, tromso, {1, "E"}, {1995, 3, 1}), earlier);
     ExpectEvent(SunriseAt(reykjavik, {0, "E"}, without), without, {2, 57}, 1);
 }
 
