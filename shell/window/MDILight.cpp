@@ -14,11 +14,13 @@
 #include "store/masters/PersonalDetails.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 
 #include <array>
+#include <optional>
 
 namespace kelvaro {
 
@@ -83,12 +85,28 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
         preferences.FnPreferences(connection_);
         PutPreferencesInForce(preferences, horoscope_.state);
         ReadLetterhead();
-        FNInitialize();
-        FnEnable();
+        ShowFirstHoroscope();
         // A database that cannot be written would otherwise be told only when something is to be saved.
         connection_.RequireWritable();
     } catch (const std::exception &error) {
         ShowError(this, error);
+    }
+}
+
+/// The window is seen as it will stand before what the run wrote is on the disk, which takes as long as all
+/// of the run.
+void MDILight::ShowFirstHoroscope() {
+    std::optional<store::Transaction> written;
+    try {
+        written.emplace(connection_);
+    } catch (const store::StoreError &) {
+        // The horoscope can be seen all the same; what is wrong is told after it.
+    }
+    FNInitialize();
+    FnEnable();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (written) {
+        written->Commit();
     }
 }
 

@@ -68,6 +68,7 @@ private:
     void RunFailed(std::string_view step, std::string_view cause) override;
 
     void ReadLetterhead();
+    void ShowFirstHoroscope();
     void FNInitialize();
     void FnEnable() { menu_.Enable(true); }
     void FnDisable() { menu_.Enable(false); }
