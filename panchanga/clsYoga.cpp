@@ -14,7 +14,7 @@ struct YogaRow {
     double end; ///< degrees, belongs to the yoga
 };
 
-// The span of 13 degrees 20 minutes is cut to three decimals; the last yoga takes what is left.
+// The span of 13 degrees 20 minutes is shortened to three decimals; the last yoga takes what is left.
 constexpr std::array<YogaRow, 27> yogas{{
     {1, "Vishkumbha", 13.333}, {2, "Preeti", 26.666},       {3, "Ayushmaana", 39.999},
     {4, "Saubhagya", 53.332},  {5, "Shobhana", 66.665},     {6, "Atiganda", 79.998},

@@ -16,8 +16,8 @@ namespace kelvaro {
 /// quotes the text, where it is no date or the date does not exist.
 Moment ReadMoment(std::string_view text);
 
-/// The number 1 to 12 of a month from its number or its English name, whole or cut to three letters, in any
-/// case. Raises ConversionError for any other text.
+/// The number 1 to 12 of a month from its number or its English name, whole or its first three letters, in
+/// any case. Raises ConversionError for any other text.
 int ReadMonth(std::string_view text);
 
 /// "14/07/1965"
@@ -26,7 +26,7 @@ std::string DateText(Moment moment);
 /// "14/Jul/1965"
 std::string MonthNameDateText(Moment moment);
 
-/// "02:15 PM"; midnight is "12:00 AM" and noon "12:00 PM". Seconds are cut off.
+/// "02:15 PM"; midnight is "12:00 AM" and noon "12:00 PM". Seconds are left out.
 std::string ClockText(Moment moment);
 
 /// "14/07/1965 02:15 PM"

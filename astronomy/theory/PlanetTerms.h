@@ -22,7 +22,7 @@ struct OrbitCorrections {
     double latitude = 0;      ///< dB, radians
 };
 
-// Perturbations after Le Verrier's theories of the planets, in the shortened form that reckons from 1900
+// Perturbations after Le Verrier's theories of the planets, in the shortened form that counts from 1900
 // January 0.5. `centuries` is the time from that epoch in Julian centuries.
 
 OrbitCorrections FnMercuryTerms(const MeanAnomalies &anomalies);

@@ -16,7 +16,7 @@ struct IshtaGhati {
     friend bool operator==(const IshtaGhati &, const IshtaGhati &) = default;
 };
 
-/// The ghatis of so many whole minutes since sunrise, reckoned with four places of decimals, so that the last
+/// The ghatis of so many whole minutes since sunrise, computed with four places of decimals, so that the last
 /// part can be one short.
 IshtaGhati IshtaGhatiOf(std::int32_t minutes);
 

@@ -96,7 +96,7 @@ constexpr std::array<std::string_view, 2 * muhurtasInDay> muhurtaNames{
     "Pawan/Swati",
 };
 
-Boundaries Cut(Moment start, std::int32_t partSeconds, std::size_t parts) {
+Boundaries Divide(Moment start, std::int32_t partSeconds, std::size_t parts) {
     Boundaries boundaries{start};
     while (boundaries.size() <= parts) {
         boundaries.push_back(DateAdd(Interval::Second, partSeconds, boundaries.back()));
@@ -109,22 +109,22 @@ std::int32_t PartOfEighths(std::int32_t eighth, int parts) {
     return ToInt32(eighth * 8.0 / parts);
 }
 
-BoundaryTables CutAll(Moment sunrise, Moment sunset, Moment nextSunrise) {
+BoundaryTables DivideAll(Moment sunrise, Moment sunset, Moment nextSunrise) {
     const std::int32_t day = ToInt32(DateDiff(Interval::Second, sunrise, sunset) / 8.0);
     const std::int32_t night = ToInt32(DateDiff(Interval::Second, sunset, nextSunrise) / 8.0);
     const std::int32_t sixtieth = ToInt32(DateDiff(Interval::Second, sunrise, nextSunrise) / 60.0);
     BoundaryTables tables;
-    tables.dayEighths = Cut(sunrise, day, 8);
-    tables.nightEighths = Cut(sunset, night, 8);
-    tables.daySixteenths = Cut(sunrise, PartOfEighths(day, 16), 16);
-    tables.nightSixteenths = Cut(sunset, PartOfEighths(night, 16), 16);
-    tables.dayTwelfths = Cut(sunrise, PartOfEighths(day, 12), 12);
-    tables.nightTwelfths = Cut(sunset, PartOfEighths(night, 12), 12);
-    tables.dayThirtieths = Cut(sunrise, PartOfEighths(day, 30), 30);
-    tables.nightThirtieths = Cut(sunset, PartOfEighths(night, 30), 30);
-    tables.wholeDaySixtieths = Cut(sunrise, sixtieth, 60);
-    tables.dayFifteenths = Cut(sunrise, PartOfEighths(day, 15), 15);
-    tables.nightFifteenths = Cut(sunset, PartOfEighths(night, 15), 15);
+    tables.dayEighths = Divide(sunrise, day, 8);
+    tables.nightEighths = Divide(sunset, night, 8);
+    tables.daySixteenths = Divide(sunrise, PartOfEighths(day, 16), 16);
+    tables.nightSixteenths = Divide(sunset, PartOfEighths(night, 16), 16);
+    tables.dayTwelfths = Divide(sunrise, PartOfEighths(day, 12), 12);
+    tables.nightTwelfths = Divide(sunset, PartOfEighths(night, 12), 12);
+    tables.dayThirtieths = Divide(sunrise, PartOfEighths(day, 30), 30);
+    tables.nightThirtieths = Divide(sunset, PartOfEighths(night, 30), 30);
+    tables.wholeDaySixtieths = Divide(sunrise, sixtieth, 60);
+    tables.dayFifteenths = Divide(sunrise, PartOfEighths(day, 15), 15);
+    tables.nightFifteenths = Divide(sunset, PartOfEighths(night, 15), 15);
     return tables;
 }
 
@@ -197,7 +197,7 @@ PeriodLists ListMuhurtas(const Boundaries &day, const Boundaries &night) {
 } // namespace
 
 void clsTimes::findtimes() {
-    const BoundaryTables tables = CutAll(Sunrisetime, Sunsettime, SunRiseNexttime);
+    const BoundaryTables tables = DivideAll(Sunrisetime, Sunsettime, SunRiseNexttime);
     const int weekday = WeekdayOf(currentdate);
     SetPeriods(*this, tables, weekday);
 

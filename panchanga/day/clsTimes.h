@@ -6,8 +6,8 @@
 
 namespace kelvaro {
 
-/// Cuts day and night into equal parts and hands out, by weekday, the moments of the inauspicious and named
-/// periods.
+/// Divides day and night into equal parts and hands out, by weekday, the moments of the inauspicious and
+/// named periods.
 ///
 /// Set the four inputs, call `findtimes`, read the results. What a call does not assign keeps its earlier
 /// value. Parts are whole seconds, so the last boundary of a span can miss its end by some seconds. Raises

@@ -82,23 +82,5 @@ TEST(Ayanamsa, StaysAsItWasForAnUnknownKind) {
     EXPECT_EQ(facade.FnFindAyanamsa(), 0);
 }
 
-TEST(Ayanamsa, MovesEveryLongitude) {
-    const CivilMoment civil{{1965, 7, 14}, {14, 15, 0}};
-    const BirthPlace chennai{13, 5, "N", 80, 17, "E"};
-    ClsFindPlanetPosition tropical;
-    ClsFindPlanetPosition sidereal;
-    FindPositions(tropical, civil, 5.5, "E", chennai);
-    FindPositions(sidereal, civil, 5.5, "E", chennai, "Raman");
-    for (const auto position :
-         {&ClsFindPlanetPosition::FnFindLagnaPosition, &ClsFindPlanetPosition::FnFindSunPosition,
-          &ClsFindPlanetPosition::FnFindMoonPosition, &ClsFindPlanetPosition::FnFindMarsPosition,
-          &ClsFindPlanetPosition::FnFindMercuryPosition, &ClsFindPlanetPosition::FnFindJupiterPosition,
-          &ClsFindPlanetPosition::FnFindVenusPosition, &ClsFindPlanetPosition::FnFindSaturnPosition,
-          &ClsFindPlanetPosition::FnFindRahuPosition, &ClsFindPlanetPosition::FnFindKethuPosition,
-          &ClsFindPlanetPosition::FnFindMidHeaven}) {
-        EXPECT_NEAR(Deviation((sidereal.*position)(), (tropical.*position)()), -21.93038912971836, 1e-9);
-    }
-}
-
 } // namespace
 } // namespace kelvaro

@@ -111,7 +111,7 @@ TEST(Longitudes, AgreeWithTheEphemerides) {
 /// Figures of a second program, written apart from this one in another language from the printed theory. The
 /// ephemerides show whether the theory is right; these show a slip in its smallest terms, which hides below
 /// their tolerances.
-struct Reckoning {
+struct Figures {
     CivilMoment civil;
     double zone;
     const char *zoneSide;
@@ -121,7 +121,7 @@ struct Reckoning {
 };
 
 // clang-format off
-const Reckoning reckonings[] = {
+const Figures figures[] = {
     {{{1800, 1, 1}, {0, 0, 0}}, 0, "E", -21.063319715,
      {280.428878868, 348.474939647, 268.348078301, 233.630794575, 244.345596373,
       84.503288331, 128.780168367, 33.247921946, 265.334945696, 180.745304918}},
@@ -140,9 +140,9 @@ const Reckoning reckonings[] = {
 };
 // clang-format on
 
-TEST(Longitudes, AgreeWithASecondReckoning) {
+TEST(Longitudes, AgreeWithASecondProgram) {
     const BirthPlace chennai{13, 5, "N", 80, 17, "E"};
-    for (const Reckoning &r : reckonings) {
+    for (const Figures &r : figures) {
         SCOPED_TRACE(r.civil.date.year);
         ClsFindPlanetPosition facade;
         FindPositions(facade, r.civil, r.zone, r.zoneSide, chennai);
