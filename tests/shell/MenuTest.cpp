@@ -49,7 +49,6 @@ private slots:
 
     void MenusStandInTheirOrder();
     void MenusWaitForTheDatabase();
-    void EveryEntryOpensItsWindow_data();
     void EveryEntryOpensItsWindow();
     void FaultIsToldByTheBirthForm();
     void HelpOpensAtTheSubjectInFront();
@@ -106,34 +105,26 @@ void MenuTest::MenusWaitForTheDatabase() {
     QVERIFY(Action("mdiHelpmnu")->isEnabled());
 }
 
-void MenuTest::EveryEntryOpensItsWindow_data() {
-    QTest::addColumn<QString>("menu");
-    QTest::addColumn<QString>("entry");
-    QTest::addColumn<QString>("window");
-    const auto row = [](const char *menu, const char *entry, const char *window) {
-        QTest::newRow(window) << menu << entry << window;
-    };
-    row("mnuBirthDetails", "", "frm_OpenChart");
-    row("mnuTools", "mDI_Country", "frm_Add_Country");
-    row("mnuTools", "MDI_LAt_Lon", "frm_New_LatLon");
-    row("mnuTools", "MDI_ADD_TimeZone", "frm_AddTimeZone");
-    row("mnuTools", "mnudetails", "frm_Details");
-    row("mnuTools", "mnuPreferences", "frm_Preferences");
-    row("mnuBirthTime", "Mnu_IshtaGhatika", "frm_BirthTimetoIshtaGhatika");
-    row("mnuBirthTime", "mnu_BirthTime", "frm_IshtaghatikaToBirthTime");
-    row("mdiHelpmnu", "mnuAboutus", "frm_AboutUs");
-}
-
 void MenuTest::EveryEntryOpensItsWindow() {
-    QFETCH(QString, menu);
-    QFETCH(QString, entry);
-    QFETCH(QString, window);
     Start();
-    for (int time = 1; time <= 2; ++time) {
-        const ModalWatch watch;
-        Choose(qPrintable(menu), entry.isEmpty() ? nullptr : qPrintable(entry));
-        QTRY_COMPARE(watch.names, QStringList{window});
-        QTRY_COMPARE(QApplication::activeModalWidget(), nullptr);
+    const struct {
+        const char *menu, *entry, *window;
+    } cases[] = {{"mnuBirthDetails", nullptr, "frm_OpenChart"},
+                 {"mnuTools", "mDI_Country", "frm_Add_Country"},
+                 {"mnuTools", "MDI_LAt_Lon", "frm_New_LatLon"},
+                 {"mnuTools", "MDI_ADD_TimeZone", "frm_AddTimeZone"},
+                 {"mnuTools", "mnudetails", "frm_Details"},
+                 {"mnuTools", "mnuPreferences", "frm_Preferences"},
+                 {"mnuBirthTime", "Mnu_IshtaGhatika", "frm_BirthTimetoIshtaGhatika"},
+                 {"mnuBirthTime", "mnu_BirthTime", "frm_IshtaghatikaToBirthTime"},
+                 {"mdiHelpmnu", "mnuAboutus", "frm_AboutUs"}};
+    for (const auto &c : cases) {
+        for (int time = 1; time <= 2; ++time) {
+            const ModalWatch watch;
+            Choose(c.menu, c.entry);
+            QTRY_COMPARE(watch.names, QStringList(c.window));
+            QTRY_COMPARE(QApplication::activeModalWidget(), nullptr);
+        }
     }
     QVERIFY(window_->isVisible());
     QVERIFY(Action("mnuPreferences")->isEnabled());

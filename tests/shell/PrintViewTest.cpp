@@ -7,7 +7,6 @@
 #include "report/ReportFile.h"
 #include "shell/print/ReportPrinter.h"
 #include "tests/shell/MessageBoxAnswer.h"
-#include "tests/store/OrdinaryUser.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -108,10 +107,8 @@ private slots:
     void FilesHoldTheReport_data();
     void FilesHoldTheReport();
     void ExistingFileIsReplacedAfterAQuestionOnly();
-    void ForbiddenFolderIsTold();
     void CancelAndFailureLeaveTheReportShown();
     void AnotherHoroscopeTakesTheReportAway();
-    void PrintDialogMakesAPdf_data();
     void PrintDialogMakesAPdf();
     void PagesToPrintAreCounted();
     void PagesFitThePaperLineByLine();
@@ -253,20 +250,6 @@ void PrintViewTest::ExistingFileIsReplacedAfterAQuestionOnly() {
     QCOMPARE(ContentOf(Path("chart.Txt")), QByteArray::fromStdString(view_->Report()) + "\r\n");
 }
 
-void PrintViewTest::ForbiddenFolderIsTold() {
-    QFile::setPermissions(folder_->path(),
-                          QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
-    MessageBoxAnswer answer;
-    {
-        const store::OrdinaryUser user;
-        Press({Typing(Path("new"))});
-    }
-    QCOMPARE(answer.Count(), 1);
-    QCOMPARE(answer.Icon(), QMessageBox::Critical);
-    QVERIFY2(answer.Text().contains(QStringLiteral("new.Txt")), qPrintable(answer.Text()));
-    QFile::setPermissions(folder_->path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
 void PrintViewTest::CancelAndFailureLeaveTheReportShown() {
     const MessageBoxAnswer answer;
     for (const char *output : {"Op4", "Op3", "Op5"}) {
@@ -297,39 +280,34 @@ void PrintViewTest::AnotherHoroscopeTakesTheReportAway() {
     QVERIFY(ContentOf(Path("empty.Txt")).contains("JANMA PATRIKA"));
 }
 
-void PrintViewTest::PrintDialogMakesAPdf_data() {
-    QTest::addColumn<QString>("antra");
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<int>("sheets");
-    // Nine pages of antras follow on the sample's first six.
-    QTest::newRow("without antra") << "Op2" << 0 << 1 << 6;
-    QTest::newRow("with antra") << "Op1" << 0 << 1 << 15;
-    QTest::newRow("from the fourth page on") << "Op2" << 4 << 1 << 3;
-    QTest::newRow("two copies of the last two") << "Op1" << 14 << 2 << 4;
-}
-
 void PrintViewTest::PrintDialogMakesAPdf() {
-    QFETCH(QString, antra);
-    QFETCH(int, from);
-    QFETCH(int, copies);
-    QFETCH(int, sheets);
-    Choose(antra.toLatin1());
     Choose("Op5");
-    Press({[&](QDialog &dialog) {
-        QVERIFY(qobject_cast<QPrintDialog *>(&dialog) != nullptr);
-        auto *printers = dialog.findChild<QComboBox *>("printers");
-        printers->setCurrentIndex(printers->findText(QStringLiteral("PDF"), Qt::MatchContains));
-        dialog.findChild<QLineEdit *>("filename")->setText(Path("chart.pdf"));
-        if (from > 0) {
-            dialog.findChild<QRadioButton *>("printRange")->click();
-            dialog.findChild<QSpinBox *>("from")->setValue(from);
-        }
-        dialog.findChild<QSpinBox *>("copies")->setValue(copies);
-        dialog.accept();
-    }});
-    QVERIFY(ContentOf(Path("chart.pdf")).startsWith("%PDF"));
-    QCOMPARE(SheetsIn(ContentOf(Path("chart.pdf"))), sheets);
+    const struct {
+        const char *antra;
+        int from, copies;
+        qsizetype sheets;
+    } cases[] = {{"Op2", 1, 1, 6}, // nine pages of antras follow on the sample's first six
+                 {"Op1", 1, 1, 15},
+                 {"Op2", 4, 1, 3},
+                 {"Op1", 14, 2, 4}};
+    for (const auto &c : cases) {
+        Choose(c.antra);
+        Press({[&](QDialog &dialog) {
+            QVERIFY(qobject_cast<QPrintDialog *>(&dialog) != nullptr);
+            auto *printers = dialog.findChild<QComboBox *>("printers");
+            printers->setCurrentIndex(printers->findText(QStringLiteral("PDF"), Qt::MatchContains));
+            QFile::remove(Path("chart.pdf")); // the dialog would ask whether to replace it
+            dialog.findChild<QLineEdit *>("filename")->setText(Path("chart.pdf"));
+            if (c.from > 1) {
+                dialog.findChild<QRadioButton *>("printRange")->click();
+                dialog.findChild<QSpinBox *>("from")->setValue(c.from);
+            }
+            dialog.findChild<QSpinBox *>("copies")->setValue(c.copies);
+            dialog.accept();
+        }});
+        QVERIFY(ContentOf(Path("chart.pdf")).startsWith("%PDF"));
+        QCOMPARE(SheetsIn(ContentOf(Path("chart.pdf"))), c.sheets);
+    }
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
 }
 
