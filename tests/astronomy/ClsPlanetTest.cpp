@@ -69,19 +69,6 @@ TEST(ClsPlanet, KeepsDaylightSavingFromTheLagna) {
     EXPECT_EQ(at(12, 1).Ayanamsa, at(12, 0).Ayanamsa);
 }
 
-TEST(ClsPlanet, CountsHoursBeforeMidnightOfGreenwich) {
-    // Ten past midnight in India is the evening before in Greenwich.
-    ClsFindPlanetPosition india;
-    ClsFindPlanetPosition greenwich;
-    FindPositions(india, {{1900, 1, 1}, {0, 10, 0}}, 5.5, "E", {13, 5, "N", 80, 17, "E"});
-    FindPositions(greenwich, {{1899, 12, 31}, {18, 40, 0}}, 0, "E", {13, 5, "N", 80, 17, "E"});
-    const Positions expected = PositionsOf(greenwich);
-    const Positions found = PositionsOf(india);
-    for (std::size_t i = 0; i < found.size(); ++i) {
-        EXPECT_NEAR(Deviation(found[i], expected[i]), 0, 1e-6) << i;
-    }
-}
-
 TEST(ClsPlanet, RaisesOnInvalidNumbers) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     for (const double wrong : {infinity, -infinity, std::numeric_limits<double>::quiet_NaN(), 1e300}) {
