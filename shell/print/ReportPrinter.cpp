@@ -2,6 +2,7 @@
 
 #include "report/ReportFile.h"
 #include "report/TextLayout.h"
+#include "shell/widgets/TextOf.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -23,7 +24,7 @@ constexpr int measuredSize = 1000; // pixels of the type in which texts are meas
 QStringList LinesOf(std::string_view page) {
     static const QString separator =
         QString::fromLatin1(lineEnd.data(), static_cast<qsizetype>(lineEnd.size()));
-    QStringList lines = QString::fromUtf8(page.data(), static_cast<qsizetype>(page.size())).split(separator);
+    QStringList lines = TextOf(page).split(separator);
     while (!lines.isEmpty() && lines.back().trimmed().isEmpty()) {
         lines.pop_back();
     }

@@ -1,6 +1,7 @@
 #include "shell/window/UserSettings.h"
 
 #include "runtime/RuntimeError.h"
+#include "shell/widgets/TextOf.h"
 
 #include <utility>
 
@@ -9,7 +10,7 @@ namespace kelvaro {
 namespace {
 
 QString PathOf(std::string_view key) {
-    return QStringLiteral("Horo/") + QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
+    return QStringLiteral("Horo/") + TextOf(key);
 }
 
 } // namespace

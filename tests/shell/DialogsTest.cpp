@@ -25,7 +25,7 @@
 using namespace kelvaro;
 using namespace Qt::StringLiterals;
 
-/// The dialogs beside those of the birth and of the preferences, and what all of them tell.
+/// The dialogs beside the form of birth details, and what all of them tell.
 class DialogsTest : public QObject {
     Q_OBJECT
 
@@ -41,6 +41,9 @@ private slots:
     void Letterhead();
     void BirthTimeBecomesIshtaGhatiAndComesBack();
     void AConverterTellsFaultsAndItsFieldWaits();
+    void SavedPreferencesRunTheDriverAnew();
+    void AppliedPreferencesAreNotStored();
+    void FaultyCustomAyanamsaIsToldAndKept();
     void EveryNoticeNamesAFieldOfItsDialog();
 
 private:
@@ -76,6 +79,12 @@ private:
     static int SelectedRow(const MasterGrid *grid) {
         const QModelIndexList rows = grid->selectionModel()->selectedRows();
         return rows.isEmpty() ? -1 : rows.front().row();
+    }
+
+    store::OnLoadClass StoredPreferences() {
+        store::OnLoadClass preferences;
+        preferences.FnPreferences(connection_);
+        return preferences;
     }
 
     std::unique_ptr<SeedFolder> folder_;
@@ -352,6 +361,76 @@ void DialogsTest::AConverterTellsFaultsAndItsFieldWaits() {
     Press(dialog, "cmdSubmit");
     QCOMPARE(answer.Icon(), QMessageBox::Critical);
     QVERIFY2(answer.Text().contains(u"31/2/"_s), qPrintable(answer.Text()));
+}
+
+void DialogsTest::SavedPreferencesRunTheDriverAnew() {
+    NoDisplay display;
+    Horoscope horoscope(connection_, display);
+    connection_.Execute("update Preference set Bhava = 'Not Equal'");
+    PreferencesDialog first(horoscope);
+    first.show();
+    const auto *bhava = first.findChild<QComboBox *>("cbBhava");
+    QCOMPARE(bhava->count(), 1);
+    QCOMPARE(bhava->itemText(0) + bhava->currentText(), u"Equal HousePlacidius"_s);
+    Type(first, "cbAyanamsa", "kr");
+    QCOMPARE(TextIn(first, "cbAyanamsa"), u"Krishnamoorthy Ayanamsa"_s);
+    QCOMPARE(first.findChild<QComboBox *>("cbAyanamsa")->lineEdit()->selectedText(),
+             u"ishnamoorthy Ayanamsa"_s);
+    Press(first, "cmdSave");
+    QVERIFY(!first.isVisible());
+    QVERIFY(horoscope.forms.frm_UserDetails.txtAyanamsa.ends_with("(KP)"));
+    PreferencesDialog second(horoscope);
+    QCOMPARE(TextIn(second, "cbAyanamsa"), u"Krishnamoorthy Ayanamsa"_s);
+    second.show();
+    Type(second, "cbLanguage", "S");
+    Type(second, "cbChart", "no");
+    Press(second, "cmdSave");
+    QCOMPARE(horoscope.forms.frm_UserDetails.txtLagna, std::string("Tula"));
+    QCOMPARE(horoscope.forms.frm_rasi.VisibleFrame, ChartStyle::North);
+    QCOMPARE(StoredPreferences().clsLanguage + StoredPreferences().clsBhava,
+             std::string("SanskritNot Equal"));
+}
+
+void DialogsTest::AppliedPreferencesAreNotStored() {
+    NoDisplay display;
+    Horoscope horoscope(connection_, display);
+    PreferencesDialog applied(horoscope);
+    applied.show();
+    Type(applied, "cbAyanamsa", "T");
+    Type(applied, "Cbdays", "360");
+    Press(applied, "Command1");
+    QVERIFY(!applied.isVisible());
+    PreferencesDialog closed(horoscope);
+    closed.show();
+    Type(closed, "cbAyanamsa", "R");
+    Press(closed, "CMDCANCEl");
+    QCOMPARE(horoscope.state.preferences.DaysInYear, 360.0);
+    QCOMPARE(horoscope.state.preferences.AyanamsaName, std::string("Sayana"));
+    QCOMPARE(StoredPreferences().clsAyanamsa, std::string("Lahiri"));
+}
+
+void DialogsTest::FaultyCustomAyanamsaIsToldAndKept() {
+    MessageBoxAnswer answer;
+    NoDisplay display;
+    Horoscope horoscope(connection_, display);
+    PreferencesDialog dialog(horoscope);
+    dialog.show();
+    QVERIFY(!dialog.findChild<QWidget *>("FRAMECUSTOM")->isVisible());
+    Type(dialog, "cbAyanamsa", "Cu");
+    QVERIFY(dialog.findChild<QWidget *>("FRAMECUSTOM")->isVisible());
+    Type(dialog, "txtZero", "2004");
+    QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    QCOMPARE(FocusIn(dialog), u"txtPogression"_s);
+    Type(dialog, "txtPogression", "50");
+    Press(dialog, "cmdSave");
+    QCOMPARE(answer.Title() + answer.Text(), u"PreferencesEnter Zero Year Less than current Year "_s);
+    QVERIFY(dialog.isVisible());
+    QCOMPARE(TextIn(dialog, "txtZero") + FocusIn(dialog), u"2004txtZero"_s);
+    Type(dialog, "txtZero", "397");
+    Press(dialog, "cmdSave");
+    QVERIFY(!dialog.isVisible());
+    QCOMPARE(answer.Count(), 1);
+    QCOMPARE(horoscope.state.preferences.YearInForce + StoredPreferences().clsProgress, 447.0);
 }
 
 void DialogsTest::EveryNoticeNamesAFieldOfItsDialog() {
