@@ -51,9 +51,10 @@ TimeConverters::Result TimeConverters::IshtaGhatiOfBirthTime(const BirthFields &
         return *std::move(notice);
     }
     const Moment birth = MomentOfBirth(fields);
-    Moment sunrise = SunriseOf(birth, fields);
+    const Site site = SiteOf(fields);
+    Moment sunrise = sunrise_.FnFindSunrise(birth, site);
     if (birth < sunrise) {
-        sunrise = SunriseOf(DateAdd(Interval::Day, -1, birth), fields);
+        sunrise = sunrise_.FnFindSunrise(DateAdd(Interval::Day, -1, birth), site);
     }
     const IshtaGhati time = IshtaGhatiOf(DateDiff(Interval::Minute, sunrise, birth));
     return "Ishta Ghati : " + std::to_string(time.ghati) + ":" + std::to_string(time.vighati) + ":" +
@@ -64,16 +65,10 @@ TimeConverters::Result TimeConverters::BirthTimeOfIshtaGhati(const BirthFields &
     if (auto notice = FirstBroken(ghatiRules, fields)) {
         return *std::move(notice);
     }
-    const Moment sunrise = SunriseOf(ReadMoment(DateTextOf(fields)), fields);
+    const Moment sunrise = sunrise_.FnFindSunrise(ReadMoment(DateTextOf(fields)), SiteOf(fields));
     const Moment birth =
         MomentAfterSunrise(sunrise, NumberFromText(fields.cbHour), NumberFromText(fields.cbMins));
     return "Birth Time : " + ClockText(birth);
-}
-
-Moment TimeConverters::SunriseOf(Moment date, const BirthFields &fields) {
-    return sunrise_.FnFindSunrise(date, fields.txt_VC_LatNS, fields.txt_VC_LatDeg, fields.txt_VC_LatMin,
-                                  fields.txt_VC_LonEW, fields.txt_VC_LonDeg, fields.txt_VC_LonMin, 0,
-                                  fields.txt_VC_TimeDiff, fields.txt_VC_TimeDiffEW);
 }
 
 } // namespace kelvaro

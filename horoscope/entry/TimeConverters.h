@@ -33,8 +33,6 @@ public:
     Result BirthTimeOfIshtaGhati(const BirthFields &fields);
 
 private:
-    Moment SunriseOf(Moment date, const BirthFields &fields);
-
     clsFindSunrise sunrise_;
 };
 

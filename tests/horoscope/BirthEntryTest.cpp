@@ -104,10 +104,7 @@ TEST_F(BirthEntryTest, AcceptedBirthIsHandedOverAndComputed) {
     EXPECT_EQ(state.birth.BirthMoment, state.positions.BirthMomentDate);
     EXPECT_EQ(state.preferences.AyanamsaInForce, "Raman");
     EXPECT_EQ(state.birth.BirthTimeZoneName, "Indian Standard Time  (5.5 hrs E)");
-    EXPECT_EQ(state.site.LatDeg + state.site.LatMin / 100, 17.20);
-    EXPECT_EQ(state.site.LonDeg + state.site.LonMin / 100, 78.30);
-    EXPECT_EQ(state.site.LatNS + state.site.LonEW + state.site.TimeDiffEW, "NEE");
-    EXPECT_EQ(state.site.TimeDiff, 5.5);
+    EXPECT_EQ(state.site, (Site{17, 20, "N", 78, 30, "E", 5.5, "E"}));
 }
 
 TEST_F(BirthEntryTest, ChoicesFillTheFields) {
