@@ -66,6 +66,11 @@ void MainMenu::Enable(bool areEnabled) {
     }
 }
 
+/// What an entry does that opens a dialog.
+template <class Dialog, class Subject> std::function<void()> MainMenu::Opens(Subject &subject) {
+    return [this, &subject] { window_.Guard([this, &subject] { Dialog(subject, &window_).exec(); }); };
+}
+
 void MainMenu::BuildMenu() {
     QMenuBar *bar = window_.menuBar();
     Horoscope &horoscope = window_.HoroscopeInForce();
@@ -73,23 +78,17 @@ void MainMenu::BuildMenu() {
     bar->addAction(ActionOf(
         {"mnuBirthDetails", "&Enter Birth Details", [this] { window_.Guard([this] { birthForm_.Show(); }); }},
         bar));
-    AddMenu(
-        bar, "mnuTools", "&Tools",
-        {{"mDI_Country", "&Country Master", [this, &connection] { ShowModally<CountryDialog>(connection); }},
-         {"MDI_LAt_Lon", "Cit&y Master", [this, &connection] { ShowModally<CityDialog>(connection); }},
-         {"MDI_ADD_TimeZone", "Time &Zone Master",
-          [this, &connection] { ShowModally<TimeZoneDialog>(connection); }},
-         {},
-         {"mnudetails", "Edit Personal &Info",
-          [this, &connection] { ShowModally<PersonalInfoDialog>(connection); }},
-         {"mnuPreferences", "&Preferences",
-          [this, &horoscope] { ShowModally<PreferencesDialog>(horoscope); }}});
-    AddMenu(bar, "mnuBirthTime", "&Time Converter",
-            {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika",
-              [this, &horoscope] { ShowModally<IshtaGhatiDialog>(horoscope); }},
+    AddMenu(bar, "mnuTools", "&Tools",
+            {{"mDI_Country", "&Country Master", Opens<CountryDialog>(connection)},
+             {"MDI_LAt_Lon", "Cit&y Master", Opens<CityDialog>(connection)},
+             {"MDI_ADD_TimeZone", "Time &Zone Master", Opens<TimeZoneDialog>(connection)},
              {},
-             {"mnu_BirthTime", "Ishta&Ghatika To BirthTime",
-              [this, &horoscope] { ShowModally<BirthTimeDialog>(horoscope); }}});
+             {"mnudetails", "Edit Personal &Info", Opens<PersonalInfoDialog>(connection)},
+             {"mnuPreferences", "&Preferences", Opens<PreferencesDialog>(horoscope)}});
+    AddMenu(bar, "mnuBirthTime", "&Time Converter",
+            {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika", Opens<IshtaGhatiDialog>(horoscope)},
+             {},
+             {"mnu_BirthTime", "Ishta&Ghatika To BirthTime", Opens<BirthTimeDialog>(horoscope)}});
     AddMenu(bar, "mdiHelpmnu", "Help",
             {{"mnuHelp", "&Help", [this] { help_.Show(); }, QKeySequence::HelpContents},
              {},
@@ -133,10 +132,6 @@ void MainMenu::SaveBirth() {
 void MainMenu::Print() {
     window_.ChooseView(ViewNamed("Print"));
     window_.findChild<QPushButton *>(QStringLiteral("CoPrt"))->setFocus();
-}
-
-template <class Dialog, class Subject> void MainMenu::ShowModally(Subject &subject) {
-    window_.Guard([this, &subject] { Dialog(subject, &window_).exec(); });
 }
 
 } // namespace kelvaro

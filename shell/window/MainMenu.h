@@ -22,7 +22,7 @@ private:
     void NewBirth();
     void SaveBirth();
     void Print();
-    template <class Dialog, class Subject> void ShowModally(Subject &subject);
+    template <class Dialog, class Subject> std::function<void()> Opens(Subject &subject);
 
     MDILight &window_;
     BirthForm birthForm_;
