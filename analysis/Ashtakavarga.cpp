@@ -1,6 +1,6 @@
 #include "analysis/Ashtakavarga.h"
 
-#include "runtime/RuntimeError.h"
+#include "panchanga/Sign.h"
 
 #include <algorithm>
 #include <array>
@@ -153,49 +153,37 @@ constexpr std::string_view englishHeader =
 /// Points of one column: one entry a rasi, then their total.
 using BinduCount = std::array<std::int16_t, rasiCount + 1>;
 
-int RasiOfHouse(std::int16_t firstRasi, int house) {
-    const int rasi = firstRasi + house - 1;
-    const int reduced = rasi > 12 ? rasi - 12 : rasi;
-    if (reduced < 1 || reduced > 12) {
-        throw OverflowError("Overflow: there is no rasi " + std::to_string(reduced));
-    }
-    return reduced;
-}
-
-BinduCount CountBindus(const HoroscopeState &state, const PointsRule &rule) {
+BinduCount CountBindus(const Positions &positions, const PointsRule &rule) {
     BinduCount count{};
     for (std::size_t i = 0; i < contributors.size(); ++i) {
+        const Sign first(positions.*contributors[i]);
         for (const std::uint8_t house : rule.houses[i]) {
             if (house == 0) {
                 break;
             }
-            ++count[static_cast<std::size_t>(RasiOfHouse(state.positions.*contributors[i], house) - 1)];
+            ++count[first.Plus(house - 1).Index()];
             ++count[rasiCount];
         }
     }
     return count;
 }
 
-void KeepStarOfMoon(HoroscopeState &state, clsStar &stars) {
-    stars.PlanetPosition = state.positions.MoonLon;
-    stars.findstar();
-    state.moonStar.MoonStarName = stars.StarName;
-    state.moonStar.MoonStarPada = stars.StarQuarter;
-    state.moonStar.MoonHouseNo = stars.HouseNo;
-}
-
 } // namespace
 
-void FillAshtakavarga(HoroscopeState &state, AshtakavargaForm &form, clsStar &stars) {
-    KeepStarOfMoon(state, stars);
-    TextGrid &grid = form.mshAshtaVarga;
-    grid.header = state.preferences.Language == "Sanskrit" ? sanskritHeader : englishHeader;
+MoonStar MoonStarOf(double moonLongitude, clsStar &stars) {
+    stars.PlanetPosition = moonLongitude;
+    stars.findstar();
+    return {stars.StarName, stars.StarQuarter, stars.HouseNo};
+}
+
+TextGrid AshtakavargaGrid(const Positions &positions, const Names &names, Language language) {
+    TextGrid grid;
+    grid.header = language == Language::Sanskrit ? sanskritHeader : englishHeader;
     std::array<BinduCount, rules.size()> columns{};
     std::ranges::transform(rules, columns.begin(),
-                           [&](const PointsRule &rule) { return CountBindus(state, rule); });
-    grid.rows.clear();
+                           [&](const PointsRule &rule) { return CountBindus(positions, rule); });
     for (std::size_t i = 0; i <= rasiCount; ++i) {
-        std::vector<std::string> row{i < rasiCount ? state.names.RasiNames.at(i) : "Total"};
+        std::vector<std::string> row{i < rasiCount ? names.RasiNames.at(i) : "Total"};
         int planets = 0;
         int all = 0;
         for (std::size_t column = 0; column < columns.size(); ++column) {
@@ -208,6 +196,7 @@ void FillAshtakavarga(HoroscopeState &state, AshtakavargaForm &form, clsStar &st
         row.push_back(std::to_string(all));
         grid.rows.push_back(std::move(row));
     }
+    return grid;
 }
 
 } // namespace kelvaro

@@ -1,15 +1,14 @@
 #include "analysis/BhavaSystem.h"
 
-#include "horoscope/record/Bodies.h"
 #include "panchanga/Sign.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstddef>
 #include <span>
-#include <vector>
 
 namespace kelvaro {
 
@@ -55,15 +54,17 @@ BhavaPoints DividedArcs(double lagna, double midHeaven) {
     return points;
 }
 
-void TakePointsAsMiddles(HoroscopeState &state) {
-    const BhavaPoints points = DividedArcs(state.positions.LagnaLon, state.positions.MidHeaven);
+Houses MiddlesAtPoints(double lagna, double midHeaven) {
+    const BhavaPoints points = DividedArcs(lagna, midHeaven);
+    Houses found;
     for (std::size_t k = 0; k < houses; ++k) {
-        state.houses.BhavaMid.at(k) = Normalized(points.at(2 * k));
-        state.houses.BhavaSandhi.at(k) = Normalized(points.at(2 * k + 1));
+        found.BhavaMid.at(k) = Normalized(points.at(2 * k));
+        found.BhavaSandhi.at(k) = Normalized(points.at(2 * k + 1));
     }
     for (std::size_t k = 0; k < houses; ++k) {
-        state.houses.BhavaStart.at(k) = state.houses.BhavaSandhi.at((k + houses - 1) % houses);
+        found.BhavaStart.at(k) = found.BhavaSandhi.at((k + houses - 1) % houses);
     }
+    return found;
 }
 
 /// The middle of house 2 to 11 (index k) between the middles that become its limits.
@@ -81,20 +82,19 @@ double LastMiddle(double start, double firstMiddle, double firstStart) {
     return start > firstMiddle ? (start + (firstMiddle + 360)) / 2 : (start + firstStart) / 2;
 }
 
-/// Reworks the houses so that the old mid points become the starts.
-void TurnMiddlesIntoStarts(HoroscopeState &state) {
-    const std::array<double, 12> old = state.houses.BhavaMid;
-    state.houses.BhavaStart = old;
-    for (std::size_t k = 0; k < houses; ++k) {
-        state.houses.BhavaSandhi.at(k) = old.at((k + 1) % houses);
-    }
+/// The houses that start at the given mid points.
+Houses StartsAtMiddles(const std::array<double, 12> &middles) {
+    Houses found;
+    found.BhavaStart = middles;
+    std::ranges::rotate_copy(middles, middles.begin() + 1, found.BhavaSandhi.begin());
     // No allowance for a passage through 0 degrees in the first house.
-    const double firstMiddle = (old.at(1) + old.at(0)) / 2;
-    state.houses.BhavaMid.at(0) = Normalized(firstMiddle);
+    const double firstMiddle = (middles.at(1) + middles.at(0)) / 2;
+    found.BhavaMid.at(0) = Normalized(firstMiddle);
     for (std::size_t k = 1; k < houses - 1; ++k) {
-        state.houses.BhavaMid.at(k) = Normalized(MiddleOf(old.at(k), old.at(k + 1), k));
+        found.BhavaMid.at(k) = Normalized(MiddleOf(middles.at(k), middles.at(k + 1), k));
     }
-    state.houses.BhavaMid.at(houses - 1) = Normalized(LastMiddle(old.at(houses - 1), firstMiddle, old.at(0)));
+    found.BhavaMid.back() = Normalized(LastMiddle(middles.back(), firstMiddle, middles.front()));
+    return found;
 }
 
 struct Range {
@@ -132,31 +132,43 @@ std::int16_t Reduce12(std::int16_t number) {
     return number;
 }
 
-std::string PlanetsInBhava(const HoroscopeState &state, double start, double end) {
-    std::string names;
+std::vector<Body> BodiesInBhava(const Positions &positions, double start, double end) {
+    std::vector<Body> bodies;
     for (const Range &range : RangesOf(start, end)) {
         for (const BodyFields &fields : bodiesOfHouses) {
-            const double longitude = state.positions.*fields.longitude;
+            const double longitude = positions.*fields.longitude;
             if (longitude >= range.lower && longitude <= range.upper) {
-                names.append(names.empty() ? "" : " ").append(ShortNameOf(state, fields.body));
+                bodies.push_back(fields.body);
             }
         }
     }
-    return names;
+    return bodies;
 }
 
-void FindBhavas(HoroscopeState &state) {
-    TakePointsAsMiddles(state);
-    if (state.preferences.BhavaSystem == "Not Equal") {
-        TurnMiddlesIntoStarts(state);
+std::string PlanetsInBhava(const Positions &positions, const Names &names, double start, double end) {
+    std::string planets;
+    for (const Body body : BodiesInBhava(positions, start, end)) {
+        planets.append(planets.empty() ? "" : " ").append(ShortNameOf(names, body));
     }
-    const int lagnaRasi = RasiOfLongitude(state.positions.LagnaLon, rasiSize);
+    return planets;
+}
+
+Houses HousesOf(const Positions &positions, HouseSystem system, const Names &names) {
+    Houses found = MiddlesAtPoints(positions.LagnaLon, positions.MidHeaven);
+    if (system == HouseSystem::NotEqual) {
+        found = StartsAtMiddles(found.BhavaMid);
+    }
+    const int lagnaRasi = RasiOfLongitude(positions.LagnaLon, rasiSize);
     for (std::size_t k = 0; k < houses; ++k) {
-        state.houses.BhavaRasi.at(k) = Reduce12(ToInt16(lagnaRasi + static_cast<int>(k)));
-        state.houses.BhavaPlanets.at(k) =
-            PlanetsInBhava(state, state.houses.BhavaStart.at(k), state.houses.BhavaSandhi.at(k));
+        const double start = found.BhavaStart.at(k);
+        const double end = found.BhavaSandhi.at(k);
+        found.BhavaRasi.at(k) = Reduce12(ToInt16(lagnaRasi + static_cast<int>(k)));
+        found.bodies.at(k) = BodiesInBhava(positions, start, end);
+        found.BhavaPlanets.at(k) = PlanetsInBhava(positions, names, start, end);
     }
-    state.houses.BhavaPlanets.front().insert(0, ShortNameOf(state, Body::Lagna) + " ");
+    found.bodies.front().insert(found.bodies.front().begin(), Body::Lagna);
+    found.BhavaPlanets.front().insert(0, ShortNameOf(names, Body::Lagna) + " ");
+    return found;
 }
 
 } // namespace kelvaro

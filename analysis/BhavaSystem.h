@@ -1,9 +1,11 @@
 #pragma once
 
-#include "horoscope/record/HoroscopeState.h"
+#include "horoscope/record/Houses.h"
+#include "horoscope/record/Names.h"
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace kelvaro {
 
@@ -14,19 +16,21 @@ double Normalize360(double &degrees);
 /// Takes 12 off while the number is 13 or above.
 std::int16_t Reduce12(std::int16_t number);
 
-/// The short names of the bodies, Sun to Ketu, from `start` to `end` (degrees), both limits included,
-/// separated by a blank.
+/// The bodies, Sun to Ketu, from `start` to `end` (degrees), both limits included.
 ///
 /// A house with a start of 329 or more and an end of 345 or less counts as one across 0 degrees and is read
 /// as two ranges, start to 360 and then 0 to end; a body in both is named twice. Every other house is the
 /// plain range, which holds nothing where the start lies above the end.
-std::string PlanetsInBhava(const HoroscopeState &state, double start, double end);
+std::vector<Body> BodiesInBhava(const Positions &positions, double start, double end);
 
-/// Computes the twelve houses of the record from `LagnaLon` and `MidHeaven`, by `BhavaSystem`: start, mid
-/// point, sandhi, rasi and bodies of each.
+/// Their short names, separated by a blank.
+std::string PlanetsInBhava(const Positions &positions, const Names &names, double start, double end);
+
+/// The twelve houses from Lagna and Midheaven: start, mid point, sandhi, rasi and bodies of each. The Lagna
+/// opens house 1.
 ///
-/// The arcs between Midheaven and Lagna are cut into six steps a quarter. "Not Equal" takes every other step,
-/// from the Lagna on, as the start of a house; any other word takes the same steps as the mid points.
-void FindBhavas(HoroscopeState &state);
+/// The arcs between Midheaven and Lagna are cut into six steps a quarter. `NotEqual` takes every other step,
+/// from the Lagna on, as the start of a house; the others take the same steps as the mid points.
+Houses HousesOf(const Positions &positions, HouseSystem system, const Names &names);
 
 } // namespace kelvaro

@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -13,144 +14,135 @@ namespace kelvaro {
 
 namespace {
 
-/// Writes periods that follow one another into the rows of a grid, the first from birth on.
-class PeriodRows {
+/// Periods that follow one another from birth on.
+class PeriodList {
 public:
-    PeriodRows(TextGrid &grid, Moment birth) : grid_(grid), birth_(birth), last_(LimitAt(birth)) {
-        grid_.rows.clear();
-        grid_.sections.clear();
+    PeriodList(Moment birth, const Names &names) : birth_(birth), names_(names), start_(birth) {}
+
+    void Add(std::string_view lord, Moment end, std::size_t dasa, std::size_t bhukti = 0,
+             std::size_t antra = 0) {
+        const Body body = LordNamed(lord).value();
+        periods_.push_back(
+            {body, LongNameOf(names_, body), start_, end, AgeAt(start_), AgeAt(end), dasa, bhukti, antra});
+        start_ = end;
     }
 
-    void OpenSection(std::string title) { grid_.sections.push_back({std::move(title), grid_.rows.size()}); }
-
-    void Add(std::string lord, Moment end) {
-        Limit next = LimitAt(end);
-        grid_.rows.push_back({std::move(lord), last_.date, next.date, last_.age + " - " + next.age});
-        last_ = std::move(next);
-    }
+    std::vector<DasaPeriod> Periods() && { return std::move(periods_); }
 
 private:
-    struct Limit {
-        std::string date;
-        std::string age; ///< calendar years since the year of birth
-    };
+    int AgeAt(Moment moment) const { return DateDiff(Interval::Year, birth_, moment); }
 
-    Limit LimitAt(Moment moment) const {
-        return {MonthNameDateText(moment), std::to_string(DateDiff(Interval::Year, birth_, moment))};
-    }
-
-    TextGrid &grid_;
     Moment birth_;
-    Limit last_;
+    const Names &names_;
+    Moment start_;
+    std::vector<DasaPeriod> periods_;
 };
 
-/// The scheme in the language in force, beside the moment it counts from.
-struct NamedScheme {
-    VimshottariDasa periods;
-    std::array<std::string, 9> dasaNames;
-    std::array<std::string, 81> bhuktiNames;
-    Moment birth;
-};
-
-void FindMoon(HoroscopeState &state, ClsFindPlanetPosition &position) {
-    position.FindFixValuesAt(state.positions.BirthMomentDate, state.site, state.preferences.InForce());
-    state.positions.MoonLon = position.FnFindMoonPosition();
-}
-
-NamedScheme FindScheme(const HoroscopeState &state, clsStar &stars) {
-    stars.PlanetPosition = state.positions.MoonLon;
-    stars.findstar();
-    std::int16_t star = stars.StarNo;
-    const std::string_view firstLord = StarLordOf(star);
-    const int minutesLeft = MinutesLeftInStar(star, state.positions.MoonLon);
-    NamedScheme scheme;
-    scheme.birth = state.positions.BirthMomentDate;
-    scheme.periods = FindVimshottariDasa(firstLord, minutesLeft, scheme.birth, state.preferences.DaysInYear);
-    for (std::size_t i = 0; i < scheme.dasaNames.size(); ++i) {
-        scheme.dasaNames[i] = LocalisedPlanetName(state, scheme.periods.DasaLord[i]);
+std::vector<DasaPeriod> DasasOf(const VimshottariDasa &scheme, PeriodList list) {
+    for (std::size_t i = 0; i < scheme.DasaLord.size(); ++i) {
+        list.Add(scheme.DasaLord[i], scheme.DasaEnd[i], i);
     }
-    for (std::size_t i = 0; i < scheme.bhuktiNames.size(); ++i) {
-        scheme.bhuktiNames[i] = LocalisedPlanetName(state, scheme.periods.BhuktiLord[i]);
-    }
-    return scheme;
+    return std::move(list).Periods();
 }
 
-void FillBalance(const NamedScheme &scheme, HoroscopeState &state, DasaForm &form) {
-    const YearsMonthsDays balance = DivideYears(scheme.periods.balance);
-    const std::string &lord = scheme.dasaNames.front();
-    const std::string years = std::to_string(balance.years);
-    const std::string months = std::to_string(balance.months);
-    const std::string days = std::to_string(static_cast<int>(std::floor(balance.days)));
-    form.Lab_DasaBalanceV = "Dasa Balance at Birth :Dasa  " + lord + " " + years + "-" + months + "- " + days;
-    state.DasaBalanceText = lord + " Dasa  " + years + " Years " + months + " Months " + days + " Days ";
-}
-
-void FillDasaGrid(const NamedScheme &scheme, TextGrid &grid) {
-    grid.header = "Dasa       | From              | To                 |  Age ";
-    PeriodRows rows(grid, scheme.birth);
-    for (std::size_t i = 0; i < scheme.dasaNames.size(); ++i) {
-        rows.Add(scheme.dasaNames[i], scheme.periods.DasaEnd[i]);
-    }
-}
-
-std::string InsertOf(long chartNumber, const std::string &dasa, const std::string &bhukti,
-                     const std::vector<std::string> &row) {
-    return "insert into tempBhukthi(UserID,DasaName,BhukthiName,BhukthiStart,BhukhiEnd,BhukthiAge) Values('" +
-           std::to_string(chartNumber) + "','" + dasa + "','" + bhukti + "','" + row[1] + "','" + row[2] +
-           "','" + row[3] + "')";
-}
-
-/// Gives the inserts of the rows written.
-std::vector<std::string> FillBhuktiGrid(const NamedScheme &scheme, TextGrid &grid, long chartNumber) {
-    grid.header = "Bhukthi  | From            | To                |  Age ";
-    PeriodRows rows(grid, scheme.birth);
-    std::vector<std::string> inserts;
-    std::size_t openDasa = scheme.dasaNames.size();
-    for (std::size_t i = 0; i < scheme.bhuktiNames.size(); ++i) {
-        if (scheme.periods.BhuktiEnd[i] <= scheme.birth) {
-            continue;
+std::vector<DasaPeriod> BhuktisOf(const VimshottariDasa &scheme, Moment birth, PeriodList list) {
+    for (std::size_t i = 0; i < scheme.BhuktiLord.size(); ++i) {
+        if (scheme.BhuktiEnd[i] > birth) {
+            list.Add(scheme.BhuktiLord[i], scheme.BhuktiEnd[i], i / 9, i % 9);
         }
-        const std::size_t dasa = i / 9;
-        if (dasa != openDasa) {
-            rows.OpenSection(scheme.dasaNames[dasa] + " Dasa");
-            openDasa = dasa;
-        }
-        rows.Add(scheme.bhuktiNames[i] + " Dasa", scheme.periods.BhuktiEnd[i]);
-        inserts.push_back(
-            InsertOf(chartNumber, scheme.dasaNames[dasa], scheme.bhuktiNames[i], grid.rows.back()));
     }
-    return inserts;
+    return std::move(list).Periods();
 }
 
-void ExecuteAll(const std::vector<std::string> &statements, store::Connection &connection) {
-    store::Transaction transaction(connection);
-    for (const std::string &statement : statements) {
-        connection.Execute(statement);
+std::vector<DasaPeriod> AntrasOf(const VimshottariDasa &scheme, PeriodList list) {
+    for (std::size_t i = 0; i < scheme.AntraLord.size(); ++i) {
+        list.Add(scheme.AntraLord[i], scheme.AntraEnd[i], i / 81, i / 9 % 9, i % 9);
     }
-    transaction.Commit();
+    return std::move(list).Periods();
 }
 
-void FillAntraGrid(const NamedScheme &scheme, const HoroscopeState &state, TextGrid &grid) {
-    grid.header = "Antra     | From            | To                |  Age ";
-    PeriodRows rows(grid, scheme.birth);
-    for (std::size_t i = 0; i < scheme.periods.AntraEnd.size(); ++i) {
-        if (i % 9 == 0) {
-            rows.OpenSection(scheme.dasaNames[i / 81] + " Dasa, " + scheme.bhuktiNames[i / 9] + " Bhukthi");
-        }
-        rows.Add(LocalisedPlanetName(state, scheme.periods.AntraLord[i]), scheme.periods.AntraEnd[i]);
-    }
+std::string AgeText(const DasaPeriod &period) {
+    return std::to_string(period.ageAtStart) + " - " + std::to_string(period.ageAtEnd);
+}
+
+void AddRow(const DasaPeriod &period, std::string lord, TextGrid &grid) {
+    grid.rows.push_back(
+        {std::move(lord), MonthNameDateText(period.start), MonthNameDateText(period.end), AgeText(period)});
+}
+
+const std::string &DasaName(const NamedScheme &scheme, const DasaPeriod &period) {
+    return scheme.dasas.at(period.dasa).lordName;
 }
 
 } // namespace
 
-void FillDasa(HoroscopeState &state, DasaForm &form, ClsFindPlanetPosition &position, clsStar &stars,
-              store::Connection &connection, long chartNumber) {
-    FindMoon(state, position);
-    const NamedScheme scheme = FindScheme(state, stars);
-    FillBalance(scheme, state, form);
-    FillDasaGrid(scheme, form.mshDasa);
-    ExecuteAll(FillBhuktiGrid(scheme, form.mshBukti, chartNumber), connection);
-    FillAntraGrid(scheme, state, form.mshAntra);
+NamedScheme FindNamedScheme(double moonLongitude, Moment birth, double daysInYear, const Names &names,
+                            clsStar &stars) {
+    stars.PlanetPosition = moonLongitude;
+    stars.findstar();
+    std::int16_t star = stars.StarNo;
+    const std::string_view firstLord = StarLordOf(star);
+    const int minutesLeft = MinutesLeftInStar(star, moonLongitude);
+    const VimshottariDasa scheme = FindVimshottariDasa(firstLord, minutesLeft, birth, daysInYear);
+    const PeriodList fromBirth(birth, names);
+    return {scheme.balance, DasasOf(scheme, fromBirth), BhuktisOf(scheme, birth, fromBirth),
+            AntrasOf(scheme, fromBirth)};
+}
+
+BalanceTexts BalanceTextsOf(const NamedScheme &scheme) {
+    const YearsMonthsDays balance = DivideYears(scheme.balance);
+    const std::string &lord = scheme.dasas.front().lordName;
+    const std::string years = std::to_string(balance.years);
+    const std::string months = std::to_string(balance.months);
+    const std::string days = std::to_string(static_cast<int>(std::floor(balance.days)));
+    return {"Dasa Balance at Birth :Dasa  " + lord + " " + years + "-" + months + "- " + days,
+            lord + " Dasa  " + years + " Years " + months + " Months " + days + " Days "};
+}
+
+TextGrid DasaGrid(const NamedScheme &scheme) {
+    TextGrid grid;
+    grid.header = "Dasa       | From              | To                 |  Age ";
+    for (const DasaPeriod &period : scheme.dasas) {
+        AddRow(period, period.lordName, grid);
+    }
+    return grid;
+}
+
+TextGrid BhuktiGrid(const NamedScheme &scheme) {
+    TextGrid grid;
+    grid.header = "Bhukthi  | From            | To                |  Age ";
+    std::size_t openDasa = scheme.dasas.size();
+    for (const DasaPeriod &period : scheme.bhuktis) {
+        if (period.dasa != openDasa) {
+            grid.sections.push_back({DasaName(scheme, period) + " Dasa", grid.rows.size()});
+            openDasa = period.dasa;
+        }
+        AddRow(period, period.lordName + " Dasa", grid);
+    }
+    return grid;
+}
+
+TextGrid AntraGrid(const NamedScheme &scheme) {
+    TextGrid grid;
+    grid.header = "Antra     | From            | To                |  Age ";
+    for (const DasaPeriod &period : scheme.antras) {
+        if (period.antra == 0) {
+            // The first antra of a bhukti is that of its own lord.
+            grid.sections.push_back(
+                {DasaName(scheme, period) + " Dasa, " + period.lordName + " Bhukthi", grid.rows.size()});
+        }
+        AddRow(period, period.lordName, grid);
+    }
+    return grid;
+}
+
+std::vector<store::Bhukti> BhuktiRows(const NamedScheme &scheme) {
+    std::vector<store::Bhukti> rows;
+    for (const DasaPeriod &period : scheme.bhuktis) {
+        rows.push_back({DasaName(scheme, period), period.lordName, MonthNameDateText(period.start),
+                        MonthNameDateText(period.end), AgeText(period)});
+    }
+    return rows;
 }
 
 } // namespace kelvaro

@@ -1,6 +1,5 @@
 #include "analysis/Karakas.h"
 
-#include "horoscope/record/Bodies.h"
 #include "presentation/AngleText.h"
 
 #include <algorithm>
@@ -26,19 +25,19 @@ constexpr std::size_t karakaColumn = 8;
 /// Sun to Saturn: Rahu and Ketu take no part.
 constexpr std::span<const BodyFields> rankedBodies{bodyFields.data() + 1, karakas.size()};
 
-std::vector<std::vector<std::string>> DegreeTexts(const HoroscopeState &state) {
+std::vector<std::vector<std::string>> DegreeTexts(const Positions &positions) {
     std::vector<std::vector<std::string>> rows;
     for (const BodyFields &fields : rankedBodies) {
-        rows.push_back({DegreeMinuteSecondText(FoldToSign(state.positions.*fields.longitude))});
+        rows.push_back({FormatDegrees(DegreesInRasi(positions.*fields.longitude))});
     }
     return rows;
 }
 
 } // namespace
 
-void RankKarakas(const HoroscopeState &state, PlanetPositionsForm &form) {
+void RankKarakas(const Positions &positions, PlanetPositionsForm &form) {
     std::vector<std::vector<std::string>> &ranking = form.MSFlexGridSort.rows;
-    ranking = DegreeTexts(state);
+    ranking = DegreeTexts(positions);
     std::sort(ranking.begin(), ranking.end(), std::greater<>());
     for (std::size_t rank = 0; rank < karakas.size(); ++rank) {
         for (std::size_t planet = 0; planet < karakas.size(); ++planet) {

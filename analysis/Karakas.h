@@ -1,7 +1,7 @@
 #pragma once
 
 #include "horoscope/record/HoroscopeForms.h"
-#include "horoscope/record/HoroscopeState.h"
+#include "horoscope/record/Positions.h"
 
 namespace kelvaro {
 
@@ -11,6 +11,6 @@ namespace kelvaro {
 /// The ranking goes by the text of the degrees in the sign, the last in the order of characters first, and
 /// not by the number: "9.10.3" stands before "12.5.7". Planets of the same text all take the karaka of the
 /// last rank among them. Column 1 must hold those texts without a retrograde mark.
-void RankKarakas(const HoroscopeState &state, PlanetPositionsForm &form);
+void RankKarakas(const Positions &positions, PlanetPositionsForm &form);
 
 } // namespace kelvaro

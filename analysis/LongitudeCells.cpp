@@ -6,16 +6,16 @@
 
 namespace kelvaro {
 
-std::vector<std::string> LongitudeCells(const HoroscopeState &state, clsStar &star, double longitude) {
+std::vector<std::string> LongitudeCells(const Names &names, clsStar &star, double longitude) {
     star.PlanetPosition = longitude;
     star.findstar();
     return {
-        RasiNameOf(state, RasiOfLongitude(longitude, rasiSize)),
-        RasiLordOf(state, longitude, "Rasi"),
+        RasiNameOf(names, RasiOfLongitude(longitude, rasiSize)),
+        RasiLordOf(names, longitude, "Rasi"),
         star.StarName,
         std::to_string(star.StarQuarter),
-        LocalisedPlanetName(state, StarLordOf(star.StarNo)),
-        SubLordOf(state, longitude),
+        LocalisedPlanetName(names, StarLordOf(star.StarNo)),
+        SubLordOf(names, longitude),
     };
 }
 

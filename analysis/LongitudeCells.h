@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/record/HoroscopeState.h"
+#include "horoscope/record/Names.h"
 #include "panchanga/clsStar.h"
 
 #include <string>
@@ -10,6 +10,6 @@ namespace kelvaro {
 
 /// What the tables of planets and of houses say of a longitude (degrees, 0 to 360), a cell each: rasi, rasi
 /// lord, star, pada, star lord, sub lord, in the language in force. Asks the given classifier once.
-std::vector<std::string> LongitudeCells(const HoroscopeState &state, clsStar &star, double longitude);
+std::vector<std::string> LongitudeCells(const Names &names, clsStar &star, double longitude);
 
 } // namespace kelvaro

@@ -1,8 +1,6 @@
 #include "analysis/Lords.h"
 
-#include "horoscope/record/Bodies.h"
 #include "panchanga/Sign.h"
-#include "runtime/RuntimeError.h"
 
 #include <algorithm>
 #include <array>
@@ -44,19 +42,11 @@ constexpr std::array<EnglishName, 9> englishNames{{
     {"Kethu", Body::Ketu},
 }};
 
-/// The place in a table of twelve of a rasi, 1 to 12.
-std::size_t PlaceOf(std::int16_t rasi) {
-    if (rasi < 1 || rasi > 12) {
-        throw OverflowError("Overflow: there is no rasi " + std::to_string(rasi));
-    }
-    return static_cast<std::size_t>(rasi - 1);
-}
-
 } // namespace
 
-std::string RasiLordOf(const HoroscopeState &state, double longitude, std::string_view kind) {
-    const std::int16_t rasi = RasiOfLongitude(longitude, kind == "Rasi" ? rasiSize : navamsaSize);
-    return LongNameOf(state, rasiLords.at(PlaceOf(rasi)));
+const std::string &RasiLordOf(const Names &names, double longitude, std::string_view kind) {
+    const Sign rasi(RasiOfLongitude(longitude, kind == "Rasi" ? rasiSize : navamsaSize));
+    return LongNameOf(names, rasiLords.at(rasi.Index()));
 }
 
 std::string_view StarLordOf(std::int16_t star) {
@@ -66,15 +56,18 @@ std::string_view StarLordOf(std::int16_t star) {
     return starLords.at(static_cast<std::size_t>(star - 1));
 }
 
-std::string LocalisedPlanetName(const HoroscopeState &state, std::string_view englishName) {
-    const auto *const found =
-        std::find_if(englishNames.begin(), englishNames.end(),
-                     [=](const EnglishName &entry) { return entry.name == englishName; });
-    return found == englishNames.end() ? std::string() : LongNameOf(state, found->body);
+std::optional<Body> LordNamed(std::string_view englishName) {
+    const auto *const found = std::ranges::find(englishNames, englishName, &EnglishName::name);
+    return found == englishNames.end() ? std::nullopt : std::optional(found->body);
 }
 
-const std::string &RasiNameOf(const HoroscopeState &state, std::int16_t rasi) {
-    return state.names.RasiNames.at(PlaceOf(rasi));
+std::string LocalisedPlanetName(const Names &names, std::string_view englishName) {
+    const auto lord = LordNamed(englishName);
+    return lord ? LongNameOf(names, *lord) : std::string();
+}
+
+const std::string &RasiNameOf(const Names &names, std::int16_t rasi) {
+    return names.RasiNames.at(Sign(rasi).Index());
 }
 
 } // namespace kelvaro

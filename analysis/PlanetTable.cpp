@@ -3,7 +3,6 @@
 #include "analysis/Karakas.h"
 #include "analysis/LongitudeCells.h"
 #include "analysis/SayanadiAvastha.h"
-#include "horoscope/record/Bodies.h"
 #include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
 
@@ -52,32 +51,27 @@ constexpr std::array<RowOfBody, 10> rowsOfBodies{{
     {"Kethu", false, nodeMark, &ClsFindPlanetPosition::FnFindKethuPosition},
 }};
 
-double LongitudeIn(const HoroscopeState &state, std::size_t row) {
-    return state.positions.*bodyFields.at(row).longitude;
+double LongitudeIn(const Positions &positions, std::size_t row) {
+    return positions.*bodyFields.at(row).longitude;
 }
 
-void FindNextDay(const HoroscopeState &state, ClsFindPlanetPosition &position) {
-    position.FindFixValuesAt(DateAdd(Interval::Day, 1, state.positions.BirthMomentDate), state.site,
-                             state.preferences.InForce());
-}
-
-void FillClasses(const HoroscopeState &state, TextGrid &grid, clsStar &star) {
+void FillClasses(const Positions &positions, const Names &names, TextGrid &grid, clsStar &star) {
     for (std::size_t i = 0; i < rowsOfBodies.size(); ++i) {
         std::vector<std::string> &row = grid.rows.at(i);
-        row.at(nameColumn) = ShortNameOf(state, bodyFields.at(i).body);
-        row.at(longitudeColumn) = DegreeMinuteSecondText(FoldToSign(LongitudeIn(state, i)));
-        std::ranges::move(LongitudeCells(state, star, LongitudeIn(state, i)), row.begin() + rasiColumn);
+        row.at(nameColumn) = ShortNameOf(names, bodyFields.at(i).body);
+        row.at(longitudeColumn) = FormatDegrees(DegreesInRasi(LongitudeIn(positions, i)));
+        std::ranges::move(LongitudeCells(names, star, LongitudeIn(positions, i)), row.begin() + rasiColumn);
     }
 }
 
-void FillAvasthas(const HoroscopeState &state, TextGrid &grid, clsStar &star) {
-    const std::int16_t lagnaRasi = RasiOfLongitude(state.positions.LagnaLon, rasiSize);
+void FillAvasthas(const Positions &positions, double ishtaGhati, TextGrid &grid, clsStar &star) {
+    const std::int16_t lagnaRasi = RasiOfLongitude(positions.LagnaLon, rasiSize);
     for (std::size_t i = 0; i < rowsOfBodies.size(); ++i) {
         const std::string_view lordName = rowsOfBodies.at(i).lordName;
         grid.rows.at(i).at(avasthaColumn) =
             lordName.empty() ? "----"
-                             : SayanadiAvastha(state, star, LongitudeIn(state, i), lordName,
-                                               state.positions.LagnaLon, state.positions.MoonLon, lagnaRasi);
+                             : SayanadiAvastha(star, LongitudeIn(positions, i), lordName, positions.LagnaLon,
+                                               positions.MoonLon, lagnaRasi, ishtaGhati);
     }
 }
 
@@ -91,13 +85,10 @@ void DashKarakas(TextGrid &grid) {
 }
 
 /// Only now: the ranking of the karakas compares the bare texts.
-void MarkRetrogrades(const HoroscopeState &state, TextGrid &grid, ClsFindPlanetPosition &position) {
+void MarkRetrogrades(const Positions &positions, const RetroLongitudes &nextDay, TextGrid &grid) {
     for (std::size_t i = 0; i < rowsOfBodies.size(); ++i) {
-        const RowOfBody &body = rowsOfBodies.at(i);
-        if (body.retroKind != noMark) {
-            grid.rows.at(i).at(longitudeColumn) +=
-                RetroMark(LongitudeIn(state, i), (position.*body.longitude)(), body.retroKind);
-        }
+        grid.rows.at(i).at(longitudeColumn) +=
+            RetroMark(LongitudeIn(positions, i), nextDay.at(i), rowsOfBodies.at(i).retroKind);
     }
 }
 
@@ -109,18 +100,27 @@ std::string_view RetroMark(double today, double nextDay, int kind) {
     return isMarked ? " (R)" : "";
 }
 
-void FillPlanetPositions(const HoroscopeState &state, PlanetPositionsForm &form,
-                         ClsFindPlanetPosition &position, clsStar &star) {
-    FindNextDay(state, position);
+RetroLongitudes RetroLongitudesOf(ClsFindPlanetPosition &position) {
+    RetroLongitudes longitudes{};
+    for (std::size_t i = 0; i < rowsOfBodies.size(); ++i) {
+        const RowOfBody &body = rowsOfBodies.at(i);
+        longitudes.at(i) = body.retroKind == noMark ? 0 : (position.*body.longitude)();
+    }
+    return longitudes;
+}
+
+PlanetPositionsForm PlanetTable(const Positions &positions, const RetroLongitudes &nextDay,
+                                const Names &names, double ishtaGhati, clsStar &star) {
+    PlanetPositionsForm form;
     TextGrid &grid = form.mshNirayana;
-    grid = {};
     grid.header = heading;
     grid.rows.assign(rowsOfBodies.size(), std::vector<std::string>(columns));
-    FillClasses(state, grid, star);
-    RankKarakas(state, form);
-    FillAvasthas(state, grid, star);
+    FillClasses(positions, names, grid, star);
+    RankKarakas(positions, form);
+    FillAvasthas(positions, ishtaGhati, grid, star);
     DashKarakas(grid);
-    MarkRetrogrades(state, grid, position);
+    MarkRetrogrades(positions, nextDay, grid);
+    return form;
 }
 
 } // namespace kelvaro

@@ -2,9 +2,10 @@
 
 #include "astronomy/ClsFindPlanetPosition.h"
 #include "horoscope/record/HoroscopeForms.h"
-#include "horoscope/record/HoroscopeState.h"
+#include "horoscope/record/Names.h"
 #include "panchanga/clsStar.h"
 
+#include <array>
 #include <string_view>
 
 namespace kelvaro {
@@ -14,12 +15,16 @@ namespace kelvaro {
 /// Empty otherwise and for any other kind. The passage through 0 degrees counts as a step back.
 std::string_view RetroMark(double today, double nextDay, int kind);
 
-/// Fills the table of planet positions: a row each for Lagna, Sun to Saturn, Rahu and Ketu.
-///
-/// The names of the record must be those of its language and its longitudes those of the birth: the driver
-/// loads names and runs a position pass right before. The facade is left at the moment a day after the birth.
-/// Raises what the astronomy and the avasthas raise.
-void FillPlanetPositions(const HoroscopeState &state, PlanetPositionsForm &form,
-                         ClsFindPlanetPosition &position, clsStar &star);
+/// Longitudes of Lagna to Ketu, degrees; 0 for the first three, which never move backward.
+using RetroLongitudes = std::array<double, 10>;
+
+/// The longitudes of the moment that the facade has been set to.
+RetroLongitudes RetroLongitudesOf(ClsFindPlanetPosition &position);
+
+/// The table of planet positions: a row each for Lagna, Sun to Saturn, Rahu and Ketu, and the work area of
+/// the karaka ranking. `nextDay` is for the moment a day after that of the positions. Raises what the
+/// avasthas raise.
+PlanetPositionsForm PlanetTable(const Positions &positions, const RetroLongitudes &nextDay,
+                                const Names &names, double ishtaGhati, clsStar &star);
 
 } // namespace kelvaro

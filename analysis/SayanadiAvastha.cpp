@@ -67,13 +67,13 @@ std::string_view AvasthaName(std::int16_t number) {
     return avasthaNames.at(static_cast<std::size_t>(number - 1));
 }
 
-std::string_view SayanadiAvastha(const HoroscopeState &state, clsStar &star, double longitude,
-                                 std::string_view lordName, double /*lagnaLongitude*/, double moonLongitude,
-                                 std::int16_t lagnaRasi) {
+std::string_view SayanadiAvastha(clsStar &star, double longitude, std::string_view lordName,
+                                 double /*lagnaLongitude*/, double moonLongitude, std::int16_t lagnaRasi,
+                                 double ishtaGhati) {
     std::int16_t number = Product(SortedStarNumber(star, longitude), PlanetOrdinal(lordName));
-    number = Product(number, NavamsaInRasi(FoldToSign(longitude)));
+    number = Product(number, NavamsaInRasi(DegreesInRasi(longitude)));
     number = Sum(number, SortedStarNumber(star, moonLongitude));
-    number = Sum(number, ToInt16(state.ghati.IshtaGhati));
+    number = Sum(number, ToInt16(ishtaGhati));
     number = Sum(number, lagnaRasi);
     return AvasthaName(RestOfTwelve(number));
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "horoscope/record/HoroscopeState.h"
 #include "panchanga/clsStar.h"
 
 #include <cstdint>
@@ -24,10 +23,10 @@ std::string_view AvasthaName(std::int16_t number);
 /// The state in which a body is at birth, out of twelve.
 ///
 /// `lordName` is the English name of the body; longitudes are in degrees, 0 to 360; `lagnaRasi` is 1 to 12.
-/// The Ishta Ghati comes from the record, to the nearest whole (half to even); the longitude of the Lagna is
+/// The Ishta Ghati of the birth counts to the nearest whole (half to even); the longitude of the Lagna is
 /// accepted and not used. Raises OverflowError where the number behind the state does not fit 16 bits.
-std::string_view SayanadiAvastha(const HoroscopeState &state, clsStar &star, double longitude,
-                                 std::string_view lordName, double lagnaLongitude, double moonLongitude,
-                                 std::int16_t lagnaRasi);
+std::string_view SayanadiAvastha(clsStar &star, double longitude, std::string_view lordName,
+                                 double lagnaLongitude, double moonLongitude, std::int16_t lagnaRasi,
+                                 double ishtaGhati);
 
 } // namespace kelvaro

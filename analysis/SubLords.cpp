@@ -1,6 +1,5 @@
 #include "analysis/SubLords.h"
 
-#include "horoscope/record/Bodies.h"
 #include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
 
@@ -103,44 +102,44 @@ constexpr std::array<Band, 21> wateryBands{{
     {30.0, Body::Saturn},
 }};
 
-std::string LordInBands(const HoroscopeState &state, std::span<const Band> bands, double degreesInRasi) {
+std::string LordInBands(const Names &names, std::span<const Band> bands, double degreesInRasi) {
     if (!(degreesInRasi >= 0)) {
         return {};
     }
     const auto found = std::find_if(bands.begin(), bands.end(),
                                     [=](const Band &band) { return degreesInRasi <= band.limit; });
-    return found == bands.end() ? std::string() : LongNameOf(state, found->lord);
+    return found == bands.end() ? std::string() : LongNameOf(names, found->lord);
 }
 
 } // namespace
 
-std::string SubLordTable1(const HoroscopeState &state, double degreesInRasi) {
-    return LordInBands(state, fieryBands, degreesInRasi);
+std::string SubLordTable1(const Names &names, double degreesInRasi) {
+    return LordInBands(names, fieryBands, degreesInRasi);
 }
 
-std::string SubLordTable2(const HoroscopeState &state, double degreesInRasi) {
-    return LordInBands(state, earthyBands, degreesInRasi);
+std::string SubLordTable2(const Names &names, double degreesInRasi) {
+    return LordInBands(names, earthyBands, degreesInRasi);
 }
 
-std::string SubLordTable3(const HoroscopeState &state, double degreesInRasi) {
-    return LordInBands(state, airyBands, degreesInRasi);
+std::string SubLordTable3(const Names &names, double degreesInRasi) {
+    return LordInBands(names, airyBands, degreesInRasi);
 }
 
-std::string SubLordTable4(const HoroscopeState &state, double degreesInRasi) {
-    return LordInBands(state, wateryBands, degreesInRasi);
+std::string SubLordTable4(const Names &names, double degreesInRasi) {
+    return LordInBands(names, wateryBands, degreesInRasi);
 }
 
-std::string SubLordOf(const HoroscopeState &state, double longitude) {
-    const double degrees = FoldToSign(longitude);
+std::string SubLordOf(const Names &names, double longitude) {
+    const double degrees = DegreesInRasi(longitude);
     switch (RasiOfLongitude(longitude, rasiSize) % 4) {
     case 1:
-        return SubLordTable1(state, degrees);
+        return SubLordTable1(names, degrees);
     case 2:
-        return SubLordTable2(state, degrees);
+        return SubLordTable2(names, degrees);
     case 3:
-        return SubLordTable3(state, degrees);
+        return SubLordTable3(names, degrees);
     default:
-        return SubLordTable4(state, degrees);
+        return SubLordTable4(names, degrees);
     }
 }
 

@@ -1,12 +1,9 @@
 #include "analysis/Vargas.h"
 
 #include "analysis/Lords.h"
-#include "horoscope/record/Bodies.h"
 #include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
-#include "runtime/Numbers.h"
 #include "runtime/Texts.h"
-#include "store/database/Recordset.h"
 
 #include <algorithm>
 #include <optional>
@@ -58,16 +55,18 @@ constexpr std::string_view englishHeader =
 /// The ten bodies of the grid; Gulika and Maandi have no column.
 constexpr std::span<const BodyFields, 10> columnBodies{bodyFields.data(), 10};
 
-void LayOutGrid(const HoroscopeState &state, TextGrid &grid) {
-    if (state.preferences.Language == "Sanskrit") {
+TextGrid LaidOutGrid(Language language) {
+    TextGrid grid;
+    if (language == Language::Sanskrit) {
         grid.header = sanskritHeader;
-    } else if (state.preferences.Language == "English") {
+    } else if (language == Language::English) {
         grid.header = englishHeader;
     }
     grid.rows.assign(vargas.size(), std::vector<std::string>(columnBodies.size() + 1));
     for (std::size_t row = 0; row < vargas.size(); ++row) {
         grid.rows[row].front() = vargas[row].label;
     }
+    return grid;
 }
 
 std::optional<std::size_t> RowOfChart(std::string_view chartName) {
@@ -82,72 +81,56 @@ std::optional<std::size_t> RowOfChart(std::string_view chartName) {
     return static_cast<std::size_t>(found - vargas.begin());
 }
 
-std::optional<std::int16_t> LookUpHouse(std::string_view chartName, double longitude, std::int16_t rasi,
-                                        store::Recordset &recordset, store::Connection &connection) {
-    const std::string degrees = NumberText(FoldToSign(longitude));
-    const std::string statement = "Select Housenumber from chartsmaster where  chartname ='" +
-                                  std::string(chartName) + "'" + "and  startDegree <= " + degrees +
-                                  " and EndDegree >" + degrees + " and RasiHouse =" + std::to_string(rasi);
-    if (recordset.IsOpen()) {
-        recordset.Close();
-    }
-    recordset.Open(statement, connection);
-    if (recordset.IsEndOfFile()) {
-        return std::nullopt;
-    }
-    return ToInt16(recordset.Number("HouseNumber"));
-}
-
-std::string ShortNameOfRasi(const HoroscopeState &state, std::int16_t rasi) {
-    return RasiShortFromName(state, RasiNameOf(state, rasi));
+std::string ShortNameOfRasi(const Names &names, std::int16_t rasi) {
+    return RasiShortFromName(names, RasiNameOf(names, rasi));
 }
 
 } // namespace
 
-std::string RasiShortFromName(const HoroscopeState &state, std::string_view rasiName) {
-    const auto found = std::ranges::find(state.names.RasiNames, rasiName);
-    if (found == state.names.RasiNames.end()) {
+std::string RasiShortFromName(const Names &names, std::string_view rasiName) {
+    const auto found = std::ranges::find(names.RasiNames, rasiName);
+    if (found == names.RasiNames.end()) {
         return {};
     }
-    return state.names.RasiShortNames.at(static_cast<std::size_t>(found - state.names.RasiNames.begin()));
+    return names.RasiShortNames.at(static_cast<std::size_t>(found - names.RasiNames.begin()));
 }
 
-void FillVargaRow(const HoroscopeState &state, const VargaLongitudes &longitudes, std::string_view chartName,
-                  double size, VargaSource source, VargasForm &form, store::Connection &connection) {
+void FillVargaRow(const VargaPositions &positions, std::string_view chartName, double size,
+                  VargaSource source, const Names &names, store::VargaTable &table, TextGrid &mshVargas) {
     const auto row = RowOfChart(chartName);
     if (!row) {
         return;
     }
-    store::Recordset recordset;
-    for (std::size_t i = 0; i < longitudes.size(); ++i) {
+    for (std::size_t i = 0; i < positions.longitudes.size(); ++i) {
+        const double longitude = positions.longitudes[i];
         const auto rasi = source == VargaSource::Table
-                              ? LookUpHouse(chartName, longitudes[i], state.positions.*columnBodies[i].rasi,
-                                            recordset, connection)
-                              : RasiOfLongitude(longitudes[i], size);
+                              ? table.HouseNumber(chartName, DegreesInRasi(longitude), positions.rasis[i])
+                              : RasiOfLongitude(longitude, size);
         if (rasi) {
-            form.mshVargas.rows.at(*row).at(i + 1) = ShortNameOfRasi(state, *rasi);
+            mshVargas.rows.at(*row).at(i + 1) = ShortNameOfRasi(names, *rasi);
         }
     }
 }
 
-void FillVargas(HoroscopeState &state, VargasForm &form, store::Connection &connection) {
-    LayOutGrid(state, form.mshVargas);
-    VargaLongitudes longitudes{};
+TextGrid VargaGrid(const Positions &positions, const Names &names, Language language,
+                   store::VargaTable &table) {
+    TextGrid grid = LaidOutGrid(language);
+    VargaPositions bodies{};
     for (std::size_t i = 0; i < columnBodies.size(); ++i) {
-        const BodyFields &body = columnBodies[i];
-        longitudes[i] = state.positions.*body.longitude;
-        state.positions.*body.rasi = RasiOfLongitude(longitudes[i], rasiSize);
-        form.mshVargas.rows.front()[i + 1] = ShortNameOfRasi(state, state.positions.*body.rasi);
+        bodies.longitudes[i] = positions.*columnBodies[i].longitude;
+        bodies.rasis[i] = RasiOfLongitude(bodies.longitudes[i], rasiSize);
+        grid.rows.front()[i + 1] = ShortNameOfRasi(names, bodies.rasis[i]);
     }
     for (std::size_t row = 1; row < navaNavamsaRow; ++row) {
         const Varga &varga = vargas[row];
-        FillVargaRow(state, longitudes, varga.chartName, varga.size, varga.source, form, connection);
+        FillVargaRow(bodies, varga.chartName, varga.size, varga.source, names, table, grid);
     }
-    for (double &longitude : longitudes) {
+    for (double &longitude : bodies.longitudes) {
         longitude *= 81;
     }
     const Varga &last = vargas[navaNavamsaRow];
-    FillVargaRow(state, longitudes, last.chartName, last.size, last.source, form, connection);
+    FillVargaRow(bodies, last.chartName, last.size, last.source, names, table, grid);
+    return grid;
 }
 
 } // namespace kelvaro

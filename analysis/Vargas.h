@@ -1,8 +1,8 @@
 #pragma once
 
-#include "horoscope/record/HoroscopeForms.h"
-#include "horoscope/record/HoroscopeState.h"
-#include "store/database/Connection.h"
+#include "horoscope/record/Names.h"
+#include "horoscope/record/TextGrid.h"
+#include "store/tables/VargaTable.h"
 
 #include <array>
 #include <cstdint>
@@ -17,21 +17,24 @@ enum class VargaSource : std::uint8_t {
     Table = 1,    ///< from `chartsmaster`, for the charts whose rules plain division cannot express
 };
 
-/// Longitudes of the ten bodies from Lagna to Ketu, degrees.
-using VargaLongitudes = std::array<double, 10>;
+/// The ten bodies from Lagna to Ketu.
+struct VargaPositions {
+    std::array<double, 10> longitudes;  ///< degrees
+    std::array<std::int16_t, 10> rasis; ///< of the Rasi chart, 1 to 12
+};
 
-/// Fills the grid of the divisional charts: a row for each of the 21, in it the short rasi name of each body.
-/// Leaves the rasi numbers of the record at those of the Rasi chart. Raises StoreError where a lookup fails.
-void FillVargas(HoroscopeState &state, VargasForm &form, store::Connection &connection);
+/// The divisional charts: a row for each of the 21, in it the short rasi name of each body. Raises what the
+/// table raises.
+TextGrid VargaGrid(const Positions &positions, const Names &names, Language language,
+                   store::VargaTable &table);
 
 /// Writes the row of one divisional chart, which is found by its name without regard to case; another name
-/// writes nothing. `size` is the division in degrees, which does not count for a chart of the table. A chart
-/// of the table reads the rasi numbers of the record, which must be those of the Rasi chart; where the table
-/// has no row for a body, the cell of that body is left as it is. The grid must have its 21 rows.
-void FillVargaRow(const HoroscopeState &state, const VargaLongitudes &longitudes, std::string_view chartName,
-                  double size, VargaSource source, VargasForm &form, store::Connection &connection);
+/// writes nothing. `size` is the division in degrees, which does not count for a chart of the table; where
+/// the table has no row for a body, the cell of that body is left as it is. The grid must have its 21 rows.
+void FillVargaRow(const VargaPositions &positions, std::string_view chartName, double size,
+                  VargaSource source, const Names &names, store::VargaTable &table, TextGrid &mshVargas);
 
-/// The short name of a rasi by its full name, in the language in force. Empty for any other text.
-std::string RasiShortFromName(const HoroscopeState &state, std::string_view rasiName);
+/// The short name of a rasi by its full name, in the language of the names. Empty for any other text.
+std::string RasiShortFromName(const Names &names, std::string_view rasiName);
 
 } // namespace kelvaro

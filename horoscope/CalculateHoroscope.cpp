@@ -1,16 +1,9 @@
 #include "horoscope/CalculateHoroscope.h"
 
-#include "analysis/Ashtakavarga.h"
-#include "analysis/BhavaForms.h"
-#include "analysis/DasaForms.h"
-#include "analysis/PlanetTable.h"
-#include "analysis/Vargas.h"
 #include "horoscope/BirthSummary.h"
-#include "horoscope/ChartPositions.h"
 #include "horoscope/Horoscope.h"
-#include "horoscope/NamesForLanguage.h"
+#include "horoscope/Steps.h"
 #include "panchanga/Sign.h"
-#include "presentation/ChartCells.h"
 
 #include <array>
 #include <exception>
@@ -25,54 +18,22 @@ struct Step {
     void (*run)(Horoscope &);
 };
 
-void LoadHoroscopeForms(Horoscope &horoscope) {
-    horoscope.status.HideHoroscopeForms();
-    horoscope.forms = {};
-}
-
-void FillBhavaChart(Horoscope &horoscope) {
-    ComputeChartPositions(horoscope, rasiSize);
-    FillBhava(horoscope.state, horoscope.forms, horoscope.calculators.star);
-}
-
-/// From here on the rasi numbers of the record are those of the Rasi chart.
-void FillPlanetTable(Horoscope &horoscope) {
-    LoadNamesForLanguage(horoscope.state);
-    ComputeChartPositions(horoscope, rasiSize);
-    FillPlanetPositions(horoscope.state, horoscope.forms.Frm_PP, horoscope.calculators.position,
-                        horoscope.calculators.star);
-}
-
-/// Builds the table a second time, with the same result.
-void RefreshPlanetTable(Horoscope &horoscope) {
-    FillPlanetTable(horoscope);
-    LoadNamesForLanguage(horoscope.state);
-    horoscope.status.HideOpenChart();
-}
-
-void FillDasaTables(Horoscope &horoscope) {
-    Calculators &calculators = horoscope.calculators;
-    FillDasa(horoscope.state, horoscope.forms.Frm_Dasa, calculators.position, calculators.star,
-             horoscope.connection, horoscope.chartNumber);
-}
-
 /// The fill of the status display moves on after each of them.
 constexpr std::array<Step, 15> steps{{
     {"Load the forms", LoadHoroscopeForms},
     {"Rasi positions", [](Horoscope &h) { ComputeChartPositions(h, rasiSize); }},
-    {"Names", [](Horoscope &h) { LoadNamesForLanguage(h.state); }},
-    {"Rasi chart", [](Horoscope &h) { FillRasiChart(h.state, h.forms); }},
+    {"Names", LoadNamesForLanguage},
+    {"Rasi chart", FillRasiChart},
     {"Birth details", FillBirthSummary},
-    {"Ashtakavarga",
-     [](Horoscope &h) { FillAshtakavarga(h.state, h.forms.Frm_AVargas, h.calculators.star); }},
+    {"Ashtakavarga", FillAshtakavarga},
     {"Navamsa positions", [](Horoscope &h) { ComputeChartPositions(h, navamsaSize); }},
-    {"Names for the Navamsa", [](Horoscope &h) { LoadNamesForLanguage(h.state); }},
-    {"Navamsa chart", [](Horoscope &h) { FillNavamsaChart(h.state, h.forms); }},
-    {"Bhava", FillBhavaChart},
-    {"Planet positions", FillPlanetTable},
-    {"Planet positions again", RefreshPlanetTable},
-    {"Vargas", [](Horoscope &h) { FillVargas(h.state, h.forms.Frm_Vargas, h.connection); }},
-    {"Dasa", FillDasaTables},
+    {"Names for the Navamsa", LoadNamesForLanguage}, // changes nothing
+    {"Navamsa chart", FillNavamsaChart},
+    {"Bhava", FillBhava},
+    {"Planet positions", FillPlanetPositions},
+    {"Planet positions again", RefreshPlanetTable}, // changes nothing
+    {"Vargas", FillVargas},
+    {"Dasa", FillDasa},
     {"Show the view", [](Horoscope &h) { h.status.ShowCurrentView(h.CurrentView); }},
 }};
 

@@ -1,7 +1,6 @@
 #include "horoscope/ChartPositions.h"
 
 #include "horoscope/Horoscope.h"
-#include "horoscope/record/Bodies.h"
 #include "panchanga/Sign.h"
 #include "runtime/MomentText.h"
 
@@ -15,109 +14,104 @@ namespace {
 /// The ten bodies whose longitudes the facade gives; Gulika and Maandi are rising degrees.
 constexpr std::span<const BodyFields> bodiesOfTheFacade{bodyFields.data(), 10};
 
-Moment BirthMomentOf(const HoroscopeState &state) {
-    return ReadMoment(state.birth.BirthDay + "/" + state.birth.BirthMonth + "/" + state.birth.BirthYear +
-                      " " + state.birth.BirthHour + ":" + state.birth.BirthMinute + ": 00");
+Moment BirthMomentOf(const BirthDetails &birth) {
+    return ReadMoment(birth.BirthDay + "/" + birth.BirthMonth + "/" + birth.BirthYear + " " +
+                      birth.BirthHour + ":" + birth.BirthMinute + ": 00");
 }
 
-void ReadLongitudes(Horoscope &horoscope) {
-    HoroscopeState &state = horoscope.state;
-    ClsFindPlanetPosition &position = horoscope.calculators.position;
-    state.positions.LagnaLon = position.FnFindLagnaPosition();
-    state.positions.SunLon = position.FnFindSunPosition();
-    state.positions.MoonLon = position.FnFindMoonPosition();
-    state.positions.MarsLon = position.FnFindMarsPosition();
-    state.positions.MercuryLon = position.FnFindMercuryPosition();
-    state.positions.JupiterLon = position.FnFindJupiterPosition();
-    state.positions.VenusLon = position.FnFindVenusPosition();
-    state.positions.SaturnLon = position.FnFindSaturnPosition();
-    state.positions.RahuLon = position.FnFindRahuPosition();
-    state.positions.KetuLon = position.FnFindKethuPosition();
-    state.positions.MidHeaven = position.FnFindMidHeaven();
-    state.positions.Ayanamsa = position.FnFindAyanamsa();
+/// The longitudes of the moment that the facade has been set to.
+Positions ReadLongitudes(Moment moment, double division, ClsFindPlanetPosition &facade) {
+    Positions positions;
+    positions.BirthMomentDate = moment;
+    positions.LagnaLon = facade.FnFindLagnaPosition();
+    positions.SunLon = facade.FnFindSunPosition();
+    positions.MoonLon = facade.FnFindMoonPosition();
+    positions.MarsLon = facade.FnFindMarsPosition();
+    positions.MercuryLon = facade.FnFindMercuryPosition();
+    positions.JupiterLon = facade.FnFindJupiterPosition();
+    positions.VenusLon = facade.FnFindVenusPosition();
+    positions.SaturnLon = facade.FnFindSaturnPosition();
+    positions.RahuLon = facade.FnFindRahuPosition();
+    positions.KetuLon = facade.FnFindKethuPosition();
+    positions.MidHeaven = facade.FnFindMidHeaven();
+    positions.Ayanamsa = facade.FnFindAyanamsa();
+    for (const BodyFields &body : bodiesOfTheFacade) {
+        positions.*body.rasi = RasiOfLongitude(positions.*body.longitude, division);
+    }
+    return positions;
 }
 
-/// The astrological day that holds the birth runs from sunrise to sunrise.
-void FindDayOfBirth(Horoscope &horoscope) {
-    HoroscopeState &state = horoscope.state;
-    const Moment birth = state.positions.BirthMomentDate;
-    SunTimes &sunTimes = horoscope.calculators.sunTimes;
-    SunTimes::Day limits = sunTimes.SunTimesOf(birth, state.site);
-    state.day.SunriseOfBirthDay = limits.sunrise;
-    state.day.SunsetOfBirthDay = limits.sunset;
-    state.day.SunriseNextDay = limits.nextSunrise;
-    state.day.DayCurrentDate = birth;
+/// The limits of the astrological day, sunrise to sunrise, that holds the birth.
+DayOfBirth FindDay(Moment birth, const Site &site, SunTimes &sunTimes) {
+    SunTimes::Day limits = sunTimes.SunTimesOf(birth, site);
+    DayOfBirth day;
+    day.SunriseOfBirthDay = limits.sunrise;
+    day.SunsetOfBirthDay = limits.sunset;
+    day.SunriseNextDay = limits.nextSunrise;
+    day.DayCurrentDate = birth;
     const bool isDay = birth > limits.sunrise && birth < limits.sunset;
-    state.day.DayOrNight = isDay ? "Day" : "Night";
+    day.DayOrNight = isDay ? "Day" : "Night";
     if (!isDay) {
         if (IsBeforeNoon(birth)) {
-            state.day.DayCurrentDate = DateAdd(Interval::Day, -1, birth);
+            day.DayCurrentDate = DateAdd(Interval::Day, -1, birth);
         }
-        limits = sunTimes.SunTimesOf(state.day.DayCurrentDate, state.site);
+        limits = sunTimes.SunTimesOf(day.DayCurrentDate, site);
     }
-    state.day.DaySunrise = limits.sunrise;
-    state.day.DaySunset = limits.sunset;
-    state.day.DayNextSunrise = limits.nextSunrise;
+    day.DaySunrise = limits.sunrise;
+    day.DaySunset = limits.sunset;
+    day.DayNextSunrise = limits.nextSunrise;
+    return day;
 }
 
-void FindRiseTimes(Horoscope &horoscope) {
-    HoroscopeState &state = horoscope.state;
-    clsTimes &times = horoscope.calculators.times;
-    times.currentdate = state.day.DayCurrentDate;
-    times.Sunrisetime = state.day.DaySunrise;
-    times.Sunsettime = state.day.DaySunset;
-    times.SunRiseNexttime = state.day.DayNextSunrise;
+void FindRiseTimes(DayOfBirth &day, clsTimes &times) {
+    times.currentdate = day.DayCurrentDate;
+    times.Sunrisetime = day.DaySunrise;
+    times.Sunsettime = day.DaySunset;
+    times.SunRiseNexttime = day.DayNextSunrise;
     times.findtimes();
-    state.day.GulikaDay = times.GulikaRise_Day;
-    state.day.GulikaNight = times.GulikaRise_Night;
-    state.day.MandiDay = times.MandiRise_Day;
-    state.day.MandiNight = times.MandiRise_Night;
+    day.GulikaDay = times.GulikaRise_Day;
+    day.GulikaNight = times.GulikaRise_Night;
+    day.MandiDay = times.MandiRise_Day;
+    day.MandiNight = times.MandiRise_Night;
 }
 
-/// A night rise that reads "AM" belongs to the date after that of the sunrise. The date found becomes the
-/// current one.
-Moment NightMoment(HoroscopeState &state, Moment rise) {
-    state.day.DayCurrentDate =
-        IsBeforeNoon(rise) ? DateAdd(Interval::Day, 1, state.day.DaySunrise) : state.day.DaySunrise;
-    return Join(state.day.DayCurrentDate, ToTheMinute(rise));
+/// A night rise that reads "AM" belongs to the date after that of the sunrise.
+Moment DateOfNightRise(const DayOfBirth &day, Moment rise) {
+    return IsBeforeNoon(rise) ? DateAdd(Interval::Day, 1, day.DaySunrise) : day.DaySunrise;
 }
 
-void JoinRiseMoments(HoroscopeState &state) {
-    if (state.day.DayOrNight == "Day") {
-        state.day.GulikaMoment = Join(state.day.DaySunrise, ToTheMinute(state.day.GulikaDay));
-        state.day.MandiMoment = Join(state.day.DaySunrise, ToTheMinute(state.day.MandiDay));
-    } else {
-        state.day.GulikaMoment = NightMoment(state, state.day.GulikaNight);
-        state.day.MandiMoment = NightMoment(state, state.day.MandiNight);
+void JoinRiseMoments(DayOfBirth &day) {
+    if (day.DayOrNight == "Day") {
+        day.GulikaMoment = Join(day.DaySunrise, ToTheMinute(day.GulikaDay));
+        day.MandiMoment = Join(day.DaySunrise, ToTheMinute(day.MandiDay));
+        return;
     }
-}
-
-double LagnaAt(Horoscope &horoscope, Moment moment) {
-    ClsFindPlanetPosition &position = horoscope.calculators.position;
-    position.FindFixValuesAt(moment, horoscope.state.site, horoscope.state.preferences.InForce());
-    return position.FnFindLagnaPosition();
+    day.GulikaMoment = Join(DateOfNightRise(day, day.GulikaNight), ToTheMinute(day.GulikaNight));
+    // The date found last becomes the current one.
+    day.DayCurrentDate = DateOfNightRise(day, day.MandiNight);
+    day.MandiMoment = Join(day.DayCurrentDate, ToTheMinute(day.MandiNight));
 }
 
 } // namespace
 
-void ComputeChartPositions(Horoscope &horoscope, double division) {
-    HoroscopeState &state = horoscope.state;
-    state.positions.BirthMomentDate = BirthMomentOf(state);
-    const Preferences &preferences = state.preferences;
-    horoscope.calculators.position.FindFixValuesAt(
-        state.positions.BirthMomentDate, state.site,
-        {preferences.AyanamsaName, preferences.YearInForce, preferences.ProgressInForce});
-    ReadLongitudes(horoscope);
-    for (const BodyFields &body : bodiesOfTheFacade) {
-        state.positions.*body.rasi = RasiOfLongitude(state.positions.*body.longitude, division);
-    }
-    FindDayOfBirth(horoscope);
-    FindRiseTimes(horoscope);
-    JoinRiseMoments(state);
-    state.positions.GulikaLon = LagnaAt(horoscope, state.day.GulikaMoment);
-    state.positions.GulikaRasi = RasiOfLongitude(state.positions.GulikaLon, division);
-    state.positions.MaandiLon = LagnaAt(horoscope, state.day.MandiMoment);
-    state.positions.MaandiRasi = RasiOfLongitude(state.positions.MaandiLon, division);
+PositionPass FindPositions(const BirthDetails &birth, const Site &site, const Preferences &preferences,
+                           double division, Calculators &calculators) {
+    ClsFindPlanetPosition &facade = calculators.position;
+    const auto lagnaAt = [&](Moment moment) {
+        facade.FindFixValuesAt(moment, site, preferences.InForce());
+        return facade.FnFindLagnaPosition();
+    };
+    const Moment moment = BirthMomentOf(birth);
+    facade.FindFixValuesAt(moment, site,
+                           {preferences.AyanamsaName, preferences.YearInForce, preferences.ProgressInForce});
+    PositionPass pass{ReadLongitudes(moment, division, facade), FindDay(moment, site, calculators.sunTimes)};
+    FindRiseTimes(pass.day, calculators.times);
+    JoinRiseMoments(pass.day);
+    pass.positions.GulikaLon = lagnaAt(pass.day.GulikaMoment);
+    pass.positions.GulikaRasi = RasiOfLongitude(pass.positions.GulikaLon, division);
+    pass.positions.MaandiLon = lagnaAt(pass.day.MandiMoment);
+    pass.positions.MaandiRasi = RasiOfLongitude(pass.positions.MaandiLon, division);
+    return pass;
 }
 
 } // namespace kelvaro

@@ -1,12 +1,16 @@
 #pragma once
 
+#include "horoscope/record/HoroscopeState.h"
+
 namespace kelvaro {
 
-struct Horoscope;
+struct Calculators;
 
-/// One position pass: from the birth details of the record to its longitudes, rasi numbers under the division
-/// size, ayanamsa, the limits of the day, and Gulika and Maandi with their rise moments. Raises
-/// ConversionError for birth texts that are no date, and what the astronomy raises.
-void ComputeChartPositions(Horoscope &horoscope, double division);
+/// One position pass: from a birth to its longitudes, rasi numbers under the division size (degrees),
+/// ayanamsa, the limits of its day, and Gulika and Maandi with their rise moments. Of the preferences only
+/// those of the ayanamsa count. Raises ConversionError for birth texts that are no date, and what the
+/// astronomy raises.
+PositionPass FindPositions(const BirthDetails &birth, const Site &site, const Preferences &preferences,
+                           double division, Calculators &calculators);
 
 } // namespace kelvaro

@@ -1,11 +1,12 @@
 #pragma once
 
-#include "horoscope/record/HoroscopeState.h"
+#include "horoscope/record/Names.h"
+
+#include <optional>
 
 namespace kelvaro {
 
-/// Fills the name tables of the record from its `Language`, "English" or "Sanskrit". Any other language
-/// leaves them.
-void LoadNamesForLanguage(HoroscopeState &state);
+/// The names of bodies and rasis in a language; nothing for an unknown one.
+std::optional<Names> NamesIn(Language language);
 
 } // namespace kelvaro

@@ -34,4 +34,9 @@ inline constexpr double navamsaSize = 3.33333333333333;
 /// the zodiac. Raises OverflowError beyond 16 bits.
 std::int16_t RasiOfLongitude(double longitude, double division);
 
+/// The same by the name that it has among the charts.
+inline std::int16_t SignOfLongitude(double position, double width) {
+    return RasiOfLongitude(position, width);
+}
+
 } // namespace kelvaro

@@ -14,4 +14,14 @@ std::string DegreeMinuteText(double value);
 /// "12.5.9" for 12 degrees 5 minutes 9 seconds, under the same rules.
 std::string DegreeMinuteSecondText(double value);
 
+// The names of the two in the tables of planets and houses.
+
+inline double DegreesInRasi(double longitude) {
+    return FoldToSign(longitude);
+}
+
+inline std::string FormatDegrees(double angle) {
+    return DegreeMinuteSecondText(angle);
+}
+
 } // namespace kelvaro

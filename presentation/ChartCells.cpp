@@ -1,9 +1,10 @@
 #include "presentation/ChartCells.h"
 
-#include "horoscope/record/Bodies.h"
+#include "panchanga/Sign.h"
 #include "presentation/AngleText.h"
-#include "runtime/RuntimeError.h"
+#include "presentation/ChartStyles.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
@@ -12,182 +13,166 @@ namespace kelvaro {
 
 namespace {
 
-using Cells = std::array<std::string, 12>;
-
 constexpr std::string_view gap = "  ";
-
-/// The twelve cells of one style in one window.
-struct CellArray {
-    ChartForm HoroscopeForms::*window;
-    Cells ChartForm::*style;
-
-    Cells &In(HoroscopeForms &forms) const { return forms.*window.*style; }
-};
-
-constexpr CellArray rasiSouth{&HoroscopeForms::frm_rasi, &ChartForm::South};
-constexpr CellArray rasiEast{&HoroscopeForms::frm_rasi, &ChartForm::East};
-constexpr CellArray rasiNorth{&HoroscopeForms::frm_rasi, &ChartForm::North};
-constexpr CellArray navamsaSouth{&HoroscopeForms::frm_Navamsa, &ChartForm::South};
-constexpr CellArray navamsaEast{&HoroscopeForms::frm_Navamsa, &ChartForm::East};
-constexpr CellArray navamsaNorth{&HoroscopeForms::frm_Navamsa, &ChartForm::North};
-constexpr CellArray bhavaSouth{&HoroscopeForms::frm_BhavaChart, &ChartForm::South};
-constexpr CellArray bhavaEast{&HoroscopeForms::frm_BhavaChart, &ChartForm::East};
-constexpr CellArray bhavaNorth{&HoroscopeForms::frm_BhavaChart, &ChartForm::North};
-
-struct Selection {
-    std::int16_t selector;
-    CellArray cells;
-};
-
-constexpr std::array<Selection, 9> selections{{
-    {1, rasiSouth},
-    {2, navamsaSouth},
-    {3, rasiNorth},
-    {4, navamsaNorth},
-    {5, rasiEast},
-    {6, navamsaEast},
-    {7, bhavaNorth},
-    {8, bhavaEast},
-    {9, bhavaSouth},
-}};
 
 /// How a kind writes its bodies. One cell array shows degrees, and one runs its bodies on along the line.
 struct KindOfCell {
     std::string_view kind;
-    CellArray cells;
     bool showsDegrees;
     bool breaksLines;
 };
 
 constexpr std::array<KindOfCell, 4> kindsOfCell{{
-    {"1", rasiSouth, true, true},
-    {"2", navamsaSouth, false, true},
-    {"3", rasiEast, false, false},
-    {"5", navamsaEast, false, true},
+    {"1", true, true},
+    {"2", false, true},
+    {"3", false, false},
+    {"5", false, true},
 }};
 
-struct StyleOfWindow {
-    ChartStyle style;
-    std::int16_t selector;
-    std::string_view kind; ///< empty for North, whose cells are filled by house
-};
-
-struct WindowOfChart {
-    ChartForm HoroscopeForms::*window;
-    std::array<StyleOfWindow, 3> styles;
-};
-
-constexpr WindowOfChart rasiWindow{
-    &HoroscopeForms::frm_rasi,
-    {{{ChartStyle::South, 1, "1"}, {ChartStyle::East, 5, "3"}, {ChartStyle::North, 3, ""}}}};
-constexpr WindowOfChart navamsaWindow{
-    &HoroscopeForms::frm_Navamsa,
-    {{{ChartStyle::South, 2, "2"}, {ChartStyle::East, 6, "5"}, {ChartStyle::North, 4, ""}}}};
-
-/// The cell of a sign or house, 1 to 12.
-std::string &CellOf(Cells &cells, int number) {
-    if (number < 1 || number > 12) {
-        throw OverflowError("Overflow: a chart has no cell " + std::to_string(number));
+void AppendToLabel(const KindOfCell &kind, const CellBody &body, std::string &label) {
+    if (!label.empty() && !kind.breaksLines) {
+        label.append(gap).append(body.name);
+        return;
     }
-    return cells.at(static_cast<std::size_t>(number - 1));
+    label.append(label.empty() ? "" : "\r\n").append(body.name).append(gap).append(body.degrees);
 }
 
-/// The number after going once round the twelve.
-int WithinTwelve(int number) {
-    return number > 12 ? number - 12 : number;
+/// The houses of Sun to Maandi, counted from the Lagna.
+std::array<std::int16_t, 11> NorthHouseOfBody(const Positions &positions) {
+    std::array<std::int16_t, 11> houses{};
+    std::transform(bodyFields.begin() + 1, bodyFields.end(), houses.begin(), [&](const BodyFields &fields) {
+        return HouseFromLagna(positions.LagnaRasi, positions.*fields.rasi);
+    });
+    return houses;
 }
 
-void FillBySigns(const HoroscopeState &state, HoroscopeForms &forms, std::string_view kind) {
+void NumberHouses(Sign first, ChartForm &form) {
+    for (std::size_t house = 0; house < form.NorthRasiOfHouse.size(); ++house) {
+        const std::int16_t rasi = first.Plus(static_cast<int>(house)).Number();
+        form.NorthRasiOfHouse.at(house) = rasi;
+        form.Lab_NHouseNo.at(house) = std::to_string(rasi);
+    }
+}
+
+void AppendToHouse(std::size_t house, Body body, const std::string &name, ChartForm &form) {
+    form.North.at(house).append(name).append(gap);
+    form.bodies.at(house).push_back({body, name, {}});
+}
+
+void FillByHouses(const Positions &positions, const Names &names, ChartForm &form) {
+    NumberHouses(Sign(positions.LagnaRasi), form);
+    // House 1 opens with the Lagna, which alone has its long text.
+    AppendToHouse(0, Body::Lagna, LongNameOf(names, Body::Lagna), form);
+    const std::array<std::int16_t, 11> houses = NorthHouseOfBody(positions);
+    for (std::size_t i = 0; i < houses.size(); ++i) {
+        const Body body = bodyFields.at(i + 1).body;
+        AppendToHouse(Sign(houses.at(i)).Index(), body, ShortNameOf(names, body), form);
+    }
+}
+
+void FillBySigns(std::string_view kind, const Positions &positions, const Names &names,
+                 HoroscopeForms &forms) {
     for (const BodyFields &fields : bodyFields) {
-        ChartCellFill(forms, kind, ShortNameOf(state, fields.body), state.positions.*fields.rasi,
-                      state.positions.*fields.longitude);
+        ChartCellFill(forms, kind, fields.body, ShortNameOf(names, fields.body), positions.*fields.rasi,
+                      positions.*fields.longitude);
     }
 }
 
-void FillByHouses(const HoroscopeState &state, ChartForm &form) {
-    for (int house = 1; house <= 12; ++house) {
-        CellOf(form.Lab_NHouseNo, house) =
-            std::to_string(WithinTwelve(house - 1 + state.positions.LagnaRasi));
-    }
-    for (const BodyFields &fields : bodyFields) {
-        // House 1 opens with the Lagna, which alone has its long text.
-        const bool isLagna = fields.body == Body::Lagna;
-        const int house =
-            isLagna ? 1 : HouseFromLagna(state.positions.LagnaRasi, state.positions.*fields.rasi);
-        CellOf(form.North, house)
-            .append(isLagna ? LongNameOf(state, fields.body) : ShortNameOf(state, fields.body))
-            .append(gap);
-    }
+const StyleOfChart *FindStyle(ChartStyle style) {
+    const auto *const found = std::ranges::find(chartStyles, style, &StyleOfChart::style);
+    return found == chartStyles.end() ? nullptr : found;
 }
 
-void FillChart(const HoroscopeState &state, HoroscopeForms &forms, const WindowOfChart &chart) {
-    const auto style = ChartStyleOf(state.preferences.ChartStyle);
-    for (const StyleOfWindow &entry : chart.styles) {
-        if (entry.style != style) {
-            continue;
-        }
-        ChartForm &form = forms.*chart.window;
-        ChartCellClear(forms, entry.selector);
-        form.VisibleFrame = entry.style;
-        if (entry.style == ChartStyle::North) {
-            FillByHouses(state, form);
-        } else {
-            FillBySigns(state, forms, entry.kind);
-        }
+ChartForm &WindowOf(Chart chart, HoroscopeForms &forms) {
+    return forms.*chartWindows.at(static_cast<std::size_t>(chart));
+}
+
+void FillChart(Chart chart, const Positions &positions, const Names &names, ChartStyle wanted,
+               HoroscopeForms &forms) {
+    const StyleOfChart *style = FindStyle(wanted);
+    if (style == nullptr) {
+        return;
+    }
+    ChartCellClear(forms, style->Of(chart).selector);
+    ChartForm &form = WindowOf(chart, forms);
+    form.VisibleFrame = wanted;
+    if (wanted == ChartStyle::North) {
+        FillByHouses(positions, names, form);
+    } else {
+        FillBySigns(style->Of(chart).kind, positions, names, forms);
     }
 }
 
 } // namespace
 
-std::optional<ChartStyle> ChartStyleOf(std::string_view word) {
-    if (word == "South") {
-        return ChartStyle::South;
-    }
-    if (word == "East") {
-        return ChartStyle::East;
-    }
-    if (word == "North") {
-        return ChartStyle::North;
-    }
-    return std::nullopt;
-}
-
 void ChartCellClear(HoroscopeForms &forms, std::int16_t selector) {
-    for (const Selection &selection : selections) {
-        if (selection.selector == selector) {
-            selection.cells.In(forms).fill("");
+    for (const StyleOfChart &style : chartStyles) {
+        for (std::size_t chart = 0; chart < chartWindows.size(); ++chart) {
+            if (style.arrays.at(chart).selector == selector) {
+                ChartForm &form = forms.*chartWindows.at(chart);
+                (form.*style.cells).fill("");
+                form.bodies.fill({});
+                form.breaksLines = false;
+            }
         }
     }
 }
 
-void ChartCellFill(HoroscopeForms &forms, std::string_view kind, std::string_view text, std::int16_t signNo,
-                   double position) {
-    for (const KindOfCell &entry : kindsOfCell) {
-        if (entry.kind != kind) {
-            continue;
-        }
-        std::string &cell = CellOf(entry.cells.In(forms), signNo);
-        if (!cell.empty() && !entry.breaksLines) {
-            cell.append(gap).append(text);
-            continue;
-        }
-        cell.append(cell.empty() ? "" : "\r\n").append(text).append(gap);
-        if (entry.showsDegrees) {
-            cell.append(DegreeMinuteText(FoldToSign(position)));
+void ChartCellFill(HoroscopeForms &forms, std::string_view kind, Body body, std::string_view text,
+                   std::int16_t signNo, double position) {
+    const auto *const rule = std::ranges::find(kindsOfCell, kind, &KindOfCell::kind);
+    if (rule == kindsOfCell.end()) {
+        return;
+    }
+    for (const StyleOfChart &style : chartStyles) {
+        for (std::size_t chart = 0; chart < chartWindows.size(); ++chart) {
+            if (style.arrays.at(chart).kind != kind) {
+                continue;
+            }
+            ChartForm &form = forms.*chartWindows.at(chart);
+            const std::size_t cell = Sign(signNo).Index();
+            const CellBody shown{body, std::string(text),
+                                 rule->showsDegrees ? DegreeMinuteText(FoldToSign(position)) : ""};
+            AppendToLabel(*rule, shown, (form.*style.cells).at(cell));
+            form.bodies.at(cell).push_back(shown);
+            form.breaksLines = rule->breaksLines;
         }
     }
 }
 
 std::int16_t HouseFromLagna(std::int16_t lagnaSign, std::int16_t bodySign) {
-    return static_cast<std::int16_t>(WithinTwelve(13 - lagnaSign + bodySign));
+    const int house = 13 - lagnaSign + bodySign;
+    return static_cast<std::int16_t>(house > 12 ? house - 12 : house);
 }
 
-void FillRasiChart(const HoroscopeState &state, HoroscopeForms &forms) {
-    FillChart(state, forms, rasiWindow);
+void FillRasiChart(const Positions &positions, const Names &names, ChartStyle style, HoroscopeForms &forms) {
+    FillChart(Chart::Rasi, positions, names, style, forms);
 }
 
-void FillNavamsaChart(const HoroscopeState &state, HoroscopeForms &forms) {
-    FillChart(state, forms, navamsaWindow);
+void FillNavamsaChart(const Positions &positions, const Names &names, ChartStyle style,
+                      HoroscopeForms &forms) {
+    FillChart(Chart::Navamsa, positions, names, style, forms);
+}
+
+void FillBhavaChart(const Houses &houses, const Names &names, ChartStyle wanted, HoroscopeForms &forms) {
+    const StyleOfChart *style = FindStyle(wanted);
+    if (style == nullptr) {
+        return;
+    }
+    ChartCellClear(forms, style->Of(Chart::Bhava).selector);
+    ChartForm &form = WindowOf(Chart::Bhava, forms);
+    form.VisibleFrame = wanted;
+    const bool isByHouse = wanted == ChartStyle::North;
+    if (isByHouse) {
+        NumberHouses(Sign(houses.BhavaRasi.front()), form);
+    }
+    for (std::size_t house = 0; house < houses.BhavaRasi.size(); ++house) {
+        const std::size_t cell = isByHouse ? house : Sign(houses.BhavaRasi.at(house)).Index();
+        (form.*style->cells).at(cell) += houses.BhavaPlanets.at(house);
+        for (const Body body : houses.bodies.at(house)) {
+            form.bodies.at(cell).push_back({body, ShortNameOf(names, body), {}});
+        }
+    }
 }
 
 } // namespace kelvaro

@@ -1,8 +1,8 @@
 #include "report/ChartPages.h"
 
-#include "report/TableLine.h"
+#include "presentation/ChartStyles.h"
 #include "report/TextCharts.h"
-#include "runtime/Numbers.h"
+#include "report/TextLayout.h"
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
 #include "store/database/Recordset.h"
@@ -11,25 +11,13 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kelvaro {
 
 namespace {
 
 using CellReducer = std::string (*)(std::string_view label);
-
-struct StyleOfReport {
-    std::string_view word; ///< the preference in capitals
-    ChartStyle style;
-    std::array<std::string, 12> ChartForm::*cells;
-    CellReducer reduce; ///< for the Rasi and the Navamsa chart
-};
-
-constexpr std::array<StyleOfReport, 3> styles{{
-    {"SOUTH", ChartStyle::South, &ChartForm::South, ReduceCellLines},
-    {"NORTH", ChartStyle::North, &ChartForm::North, ReduceCellPairs},
-    {"EAST", ChartStyle::East, &ChartForm::East, ReduceCellLines},
-}};
 
 constexpr std::size_t bhavaRule = 70;
 /// House, longitude, rasi and its lord, star, pada, star lord, sub lord. The digit of the pada stands at the
@@ -41,12 +29,12 @@ constexpr std::string_view bhavaHeading1 =
 constexpr std::string_view bhavaHeading2 =
     "   Longitude            Lord                           Lord    Lord";
 
-/// The style of a drawing of the form; null where there is none to draw.
-const StyleOfReport *StyleFor(const HoroscopeState &state, const ChartForm &form) {
-    const auto *const found = std::ranges::find_if(styles, [&](const StyleOfReport &style) {
+/// The preferred style in any case of letters, where the form has a drawing in it; otherwise null.
+const StyleOfChart *StyleFor(const HoroscopeState &state, const ChartForm &form) {
+    const auto *const found = std::ranges::find_if(chartStyles, [&](const StyleOfChart &style) {
         return SameIgnoringCase(style.word, state.preferences.ChartStyle);
     });
-    return found != styles.end() && form.VisibleFrame == found->style ? found : nullptr;
+    return found != chartStyles.end() && form.VisibleFrame == found->style ? found : nullptr;
 }
 
 void OpenCells(const std::array<std::string, 12> &labels, CellReducer reduce, store::Connection &connection,
@@ -58,35 +46,37 @@ void OpenCells(const std::array<std::string, 12> &labels, CellReducer reduce, st
     cells.Open(statement.append(" from tempdasasandhi"), connection);
 }
 
-void DrawCells(const store::Recordset &cells, std::string_view title, const HoroscopeState &state,
-               const ChartForm &form, ChartStyle style, std::string &report) {
-    switch (style) {
+std::vector<std::string> DrawCells(const store::Recordset &cells, std::string_view title,
+                                   const HoroscopeState &state, const ChartForm &form) {
+    switch (form.VisibleFrame) {
     case ChartStyle::South:
-        SouthTextChart(cells, title, state.names.RasiNames, report);
-        break;
+        return SouthTextChart(cells, title, state.names.RasiNames);
     case ChartStyle::North:
-        NorthTextChart(cells, title, ToInt32(NumberFromText(form.Lab_NHouseNo.front())), report);
-        break;
+        return NorthTextChart(cells, title, form.NorthRasiOfHouse.front());
     case ChartStyle::East:
-        EastTextChart(cells, title, state.names.RasiNames, report);
+        return EastTextChart(cells, title, state.names.RasiNames);
+    case ChartStyle::Unknown:
         break;
     }
+    return {};
 }
 
-/// Without a reducer of its own, the chart takes that of the style.
-void AddChart(std::string_view title, const HoroscopeState &state, const ChartForm &form,
-              CellReducer ownReducer, store::Connection &connection, ReportPages &pages) {
-    const StyleOfReport *style = StyleFor(state, form);
+void AddChart(std::string_view title, const HoroscopeState &state, const ChartForm &form, bool isBhava,
+              store::Connection &connection, ReportPages &pages) {
+    const StyleOfChart *style = StyleFor(state, form);
     if (style == nullptr) {
         return;
     }
+    const CellReducer reduce = isBhava                             ? ReduceCellBlanks
+                               : style->style == ChartStyle::North ? ReduceCellPairs
+                                                                   : ReduceCellLines;
     store::Recordset cells;
-    OpenCells(form.*style->cells, ownReducer != nullptr ? ownReducer : style->reduce, connection, cells);
-    DrawCells(cells, title, state, form, style->style, pages.Drawing());
+    OpenCells(form.*style->cells, reduce, connection, cells);
+    pages.AddDrawing(DrawCells(cells, title, state, form));
 }
 
 void AddBhavaTable(const HoroscopeState &state, const TextGrid &grid, ReportPages &pages) {
-    pages.AddLine(state.preferences.BhavaSystem == "Equal"
+    pages.AddLine(HouseSystemOf(state.preferences.BhavaSystem) == HouseSystem::Equal
                       ? "Bhava Positions  (Equal Division of Houses From M.C)"
                       : "Bhava Positions  (Placidius Semi-Arc System)");
     pages.AddRule('-', bhavaRule);
@@ -103,16 +93,16 @@ void AddBhavaTable(const HoroscopeState &state, const TextGrid &grid, ReportPage
 void AddChartsPage(const HoroscopeState &state, const HoroscopeForms &forms, store::Connection &connection,
                    ReportPages &pages) {
     pages.OpenPage();
-    AddChart("Rasi", state, forms.frm_rasi, nullptr, connection, pages);
+    AddChart("Rasi", state, forms.frm_rasi, false, connection, pages);
     pages.AddBlankLines(2);
-    AddChart("Navamsa", state, forms.frm_Navamsa, nullptr, connection, pages);
+    AddChart("Navamsa", state, forms.frm_Navamsa, false, connection, pages);
 }
 
 void AddBhavaPage(const HoroscopeState &state, const HoroscopeForms &forms, store::Connection &connection,
                   ReportPages &pages) {
     pages.OpenPage();
     // The cells of all its styles part the bodies by one blank.
-    AddChart("Bhava", state, forms.frm_BhavaChart, ReduceCellBlanks, connection, pages);
+    AddChart("Bhava", state, forms.frm_BhavaChart, true, connection, pages);
     pages.AddBlankLines(2);
     AddBhavaTable(state, forms.frm_CBhava.bhava_features, pages);
 }

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "horoscope/record/TextGrid.h"
+#include "horoscope/record/DasaForm.h"
 #include "report/ReportPages.h"
 
 namespace kelvaro {
 
-// Periods stand two in a line, to be read line by line, in one block for each section of the grid. A block is
+// Periods stand two in a line, to be read line by line, in one block for each dasa or bhukti. A block is
 // not parted by a page's end; pages are added as blocks need them.
 
 /// The bhuktis of the nine dasas, which all fit on one page.
-void AddBhuktiPages(const TextGrid &mshBukti, ReportPages &pages);
+void AddBhuktiPages(const DasaForm &form, ReportPages &pages);
 
 /// The antras of all bhuktis.
-void AddAntraPages(const TextGrid &mshAntra, ReportPages &pages);
+void AddAntraPages(const DasaForm &form, ReportPages &pages);
 
 } // namespace kelvaro

@@ -18,9 +18,9 @@ std::string ComposeReport(const HoroscopeState &state, const HoroscopeForms &for
     AddBhavaPage(state, forms, connection, pages);
     AddPlanetsPage(state, forms, pages);
     AddVargasPage(state, forms, pages);
-    AddBhuktiPages(forms.Frm_Dasa.mshBukti, pages);
+    AddBhuktiPages(forms.Frm_Dasa, pages);
     if (antra == AntraSection::With) {
-        AddAntraPages(forms.Frm_Dasa.mshAntra, pages);
+        AddAntraPages(forms.Frm_Dasa, pages);
     }
     return std::move(pages).Text();
 }

@@ -52,6 +52,12 @@ void ReportPages::AddRule(char stroke, std::size_t width) {
     AddLine(std::string(width, stroke));
 }
 
+void ReportPages::AddDrawing(std::span<const std::string> lines) {
+    for (const std::string &line : lines) {
+        text_.append(line).append(lineEnd);
+    }
+}
+
 std::size_t ReportPages::LinesLeft() const {
     const auto start = text_.begin() + static_cast<std::ptrdiff_t>(pageStart_);
     const auto lines = static_cast<std::size_t>(std::count(start, text_.end(), lineEnd.back()));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -26,12 +27,12 @@ public:
     void AddLine(std::string_view line);
     void AddBlankLines(std::size_t count);
     void AddRule(char stroke, std::size_t width);
+    /// Adds lines as they are, blanks at their ends included.
+    void AddDrawing(std::span<const std::string> lines);
 
     /// Lines that the page still has room for.
     std::size_t LinesLeft() const;
 
-    /// The text up to now, for drawings that append their lines to it.
-    std::string &Drawing() { return text_; }
     /// The finished report.
     std::string Text() && { return std::move(text_); }
 

@@ -1,8 +1,7 @@
 #include "report/TablePages.h"
 
-#include "horoscope/record/Bodies.h"
-#include "report/TableLine.h"
 #include "report/TextLayout.h"
+#include "runtime/MomentText.h"
 
 #include <algorithm>
 #include <array>
@@ -59,7 +58,6 @@ constexpr std::array<TableColumn, 11> vargaColumns{
 
 constexpr std::size_t dasaRule = 67;
 constexpr std::array<TableColumn, 4> dasaColumns{{{0, 10}, {18, 11}, {38, 11}, {58, 9, Align::Right}}};
-constexpr std::string_view ageSeparator = " - ";
 
 /// The stars that share Abijit carry its name behind their own, for which the table has no room.
 void ShortenStar(std::string &star) {
@@ -90,11 +88,11 @@ std::string AshtakavargaLine(Row cells, const std::string &asterisk) {
     return TableLine(ashtakavargaColumns, cells);
 }
 
-void AddAshtakavarga(const HoroscopeState &state, const TextGrid &grid, ReportPages &pages) {
+void AddAshtakavarga(const Names &names, const TextGrid &grid, ReportPages &pages) {
     pages.AddLine("Ashta Vargas");
     Row heading{"Rasi"};
     for (const Body body : ashtakavargaBodies) {
-        heading.push_back(ShortNameOf(state, body));
+        heading.push_back(ShortNameOf(names, body));
     }
     heading.insert(heading.end(), {"  Total", "With *"});
     pages.AddLine(AshtakavargaLine(heading, "*"));
@@ -111,12 +109,12 @@ void AddAshtakavarga(const HoroscopeState &state, const TextGrid &grid, ReportPa
     pages.AddRule('-', ashtakavargaRule);
 }
 
-void AddVargas(const HoroscopeState &state, const TextGrid &grid, ReportPages &pages) {
+void AddVargas(const Names &names, const TextGrid &grid, ReportPages &pages) {
     pages.AddLine("Vargas");
     pages.AddRule('-', vargasRule);
     Row heading{"Chart Type"};
     for (std::size_t column = 1; column < vargaColumns.size(); ++column) {
-        heading.push_back(ShortNameOf(state, bodyFields.at(column - 1).body));
+        heading.push_back(ShortNameOf(names, bodyFields.at(column - 1).body));
     }
     pages.AddLine(TableLine(vargaColumns, heading));
     pages.AddRule('-', vargasRule);
@@ -125,18 +123,17 @@ void AddVargas(const HoroscopeState &state, const TextGrid &grid, ReportPages &p
     }
 }
 
-void AddDasas(const HoroscopeState &state, const TextGrid &grid, ReportPages &pages) {
+void AddDasas(const std::string &balance, std::span<const DasaPeriod> dasas, ReportPages &pages) {
     pages.AddLine("Vimshottari Dasa");
     pages.AddLine("================");
-    pages.AddLine("Dasa Balance at Birth : " + state.DasaBalanceText);
+    pages.AddLine("Dasa Balance at Birth : " + balance);
     pages.AddBlankLines(1);
     pages.AddLine(TableLine(dasaColumns, Row{"Dasa", "Start", "End", "Start Age"}));
     pages.AddRule('-', dasaRule);
-    for (Row row : grid.rows) {
-        // The grid has the ages at start and end.
-        std::string &age = row.at(3);
-        age.resize(std::min(age.find(ageSeparator), age.size()));
-        pages.AddLine(TableLine(dasaColumns, row));
+    for (const DasaPeriod &dasa : dasas) {
+        pages.AddLine(
+            TableLine(dasaColumns, Row{dasa.lordName, MonthNameDateText(dasa.start),
+                                       MonthNameDateText(dasa.end), std::to_string(dasa.ageAtStart)}));
     }
     pages.AddRule('-', dasaRule);
 }
@@ -147,14 +144,14 @@ void AddPlanetsPage(const HoroscopeState &state, const HoroscopeForms &forms, Re
     pages.OpenPage();
     AddPlanets(forms.Frm_PP.mshNirayana, pages);
     pages.AddBlankLines(2);
-    AddAshtakavarga(state, forms.Frm_AVargas.mshAshtaVarga, pages);
+    AddAshtakavarga(state.names, forms.Frm_AVargas.mshAshtaVarga, pages);
 }
 
 void AddVargasPage(const HoroscopeState &state, const HoroscopeForms &forms, ReportPages &pages) {
     pages.OpenPage();
-    AddVargas(state, forms.Frm_Vargas.mshVargas, pages);
+    AddVargas(state.names, forms.Frm_Vargas.mshVargas, pages);
     pages.AddBlankLines(2);
-    AddDasas(state, forms.Frm_Dasa.mshDasa, pages);
+    AddDasas(state.DasaBalanceText, forms.Frm_Dasa.dasas, pages);
 }
 
 } // namespace kelvaro

@@ -1,8 +1,8 @@
 #include "report/TextCharts.h"
 
+#include "panchanga/Sign.h"
 #include "report/TextLayout.h"
 #include "runtime/Numbers.h"
-#include "runtime/RuntimeError.h"
 #include "runtime/Texts.h"
 
 #include <algorithm>
@@ -164,33 +164,35 @@ private:
     const ChartTexts &texts_;
 };
 
-void AppendLine(std::size_t leftMargin, std::string_view line, std::string &report) {
-    report.append(leftMargin, ' ').append(line).append(lineEnd);
+std::string Indented(std::size_t leftMargin, std::string_view line) {
+    return std::string(leftMargin, ' ').append(line);
 }
 
 std::size_t MarginOf(const Drawing &drawing) {
     return (pageWidth - drawing.width) / 2;
 }
 
-void AppendTitle(const Drawing &drawing, std::string_view title, std::string &report) {
+std::string TitleLine(const Drawing &drawing, std::string_view title) {
     const std::string_view shown = FirstCharacters(title, drawing.width);
-    AppendLine(MarginOf(drawing) + (drawing.width - CharacterCount(shown)) / 2, shown, report);
+    return Indented(MarginOf(drawing) + (drawing.width - CharacterCount(shown)) / 2, shown);
 }
 
-void AppendDrawing(const Drawing &drawing, const ChartTexts &texts, std::string &report) {
+std::vector<std::string> Drawn(const Drawing &drawing, const ChartTexts &texts) {
     const PieceText textOf(texts);
+    std::vector<std::string> lines;
     for (const Line &line : drawing.lines) {
         std::string text;
         for (const Piece &piece : line) {
             text += std::visit(textOf, piece);
         }
-        AppendLine(MarginOf(drawing), text, report);
+        lines.push_back(Indented(MarginOf(drawing), text));
     }
+    return lines;
 }
 
 /// Without this line the order of the signs in a drawing could only be guessed.
-void AppendSignOrder(std::span<const std::size_t> cellsOfRows, std::span<const std::string, 12> signNames,
-                     std::string &report) {
+std::string SignOrderLine(std::span<const std::size_t> cellsOfRows,
+                          std::span<const std::string, 12> signNames) {
     std::string text("Cells by row:");
     auto name = signNames.begin();
     for (const std::size_t cells : cellsOfRows) {
@@ -199,7 +201,7 @@ void AppendSignOrder(std::span<const std::size_t> cellsOfRows, std::span<const s
         }
         text += name == signNames.end() ? "" : " /";
     }
-    AppendLine((pageWidth - CharacterCount(text)) / 2, text, report);
+    return Indented((pageWidth - CharacterCount(text)) / 2, text);
 }
 
 /// The tightened texts of the cells; empty without a row.
@@ -215,15 +217,11 @@ std::array<std::string, 12> CellsOf(const store::Recordset &row) {
 }
 
 /// The sign numbers of the houses 1 to 12.
-std::array<std::string, 12> SignNumbersFrom(int firstSign) {
-    if (firstSign < 1 || firstSign > 12) {
-        throw OverflowError("Overflow: no sign has the number " + std::to_string(firstSign));
-    }
+std::array<std::string, 12> SignNumbersFrom(Sign sign) {
     std::array<std::string, 12> numbers;
-    int sign = firstSign;
     for (std::string &number : numbers) {
-        number = std::to_string(sign > 12 ? sign - 12 : sign);
-        ++sign;
+        number = std::to_string(sign.Number());
+        sign = sign.Next();
     }
     return numbers;
 }
@@ -262,27 +260,29 @@ std::string TightenBlanks(std::string_view text) {
     return tightened.append(text);
 }
 
-void SouthTextChart(const store::Recordset &cells, std::string_view title,
-                    std::span<const std::string, 12> signNames, std::string &report) {
+std::vector<std::string> SouthTextChart(const store::Recordset &cells, std::string_view title,
+                                        std::span<const std::string, 12> signNames) {
     constexpr std::array<std::size_t, 4> cellsOfRows{4, 2, 2, 4};
-    AppendDrawing(southDrawing, {CellsOf(cells), {}, title}, report);
-    AppendSignOrder(cellsOfRows, signNames, report);
+    std::vector<std::string> lines = Drawn(southDrawing, {CellsOf(cells), {}, title});
+    lines.push_back(SignOrderLine(cellsOfRows, signNames));
+    return lines;
 }
 
-void NorthTextChart(const store::Recordset &cells, std::string_view title, int firstSign,
-                    std::string &report) {
-    const ChartTexts texts{CellsOf(cells), SignNumbersFrom(firstSign), title};
-    AppendTitle(northDrawing, title, report);
-    AppendDrawing(northDrawing, texts, report);
+std::vector<std::string> NorthTextChart(const store::Recordset &cells, std::string_view title,
+                                        int firstSign) {
+    const ChartTexts texts{CellsOf(cells), SignNumbersFrom(Sign(firstSign)), title};
+    std::vector<std::string> lines = Drawn(northDrawing, texts);
+    lines.insert(lines.begin(), TitleLine(northDrawing, title));
+    return lines;
 }
 
-void EastTextChart(const store::Recordset &cells, std::string_view title,
-                   std::span<const std::string, 12> signNames, std::string &report) {
+std::vector<std::string> EastTextChart(const store::Recordset &cells, std::string_view title,
+                                       std::span<const std::string, 12> signNames) {
     constexpr std::array<std::size_t, 3> cellsOfRows{5, 2, 5};
-    const ChartTexts texts{CellsOf(cells), {}, title};
-    AppendTitle(eastDrawing, title, report);
-    AppendDrawing(eastDrawing, texts, report);
-    AppendSignOrder(cellsOfRows, signNames, report);
+    std::vector<std::string> lines = Drawn(eastDrawing, {CellsOf(cells), {}, title});
+    lines.insert(lines.begin(), TitleLine(eastDrawing, title));
+    lines.push_back(SignOrderLine(cellsOfRows, signNames));
+    return lines;
 }
 
 } // namespace kelvaro

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kelvaro {
 
@@ -18,24 +19,22 @@ std::string ReduceCellBlanks(std::string_view label);
 /// The text with one blank for every three that stand together; what is left over of a run stays.
 std::string TightenBlanks(std::string_view text);
 
-// The drawings below are appended to the report, lines ended by CR LF and centred on the page. The first
-// twelve fields of the present row are the cells 1 to 12; without a row the cells are empty. Each cell shows
-// up to 36 characters of its text, in cuts that follow the room in the drawing. They raise StoreError for
-// a row of fewer fields.
+// The drawings below are lines centred on the page. The first twelve fields of the present row are the cells
+// 1 to 12; without a row the cells are empty. Each cell shows up to 36 characters of its text, in cuts that
+// follow the room in the drawing. They raise StoreError for a row of fewer fields.
 
 /// A drawing by signs, Aries in cell 1, with the title in the middle. A line below it names the signs row by
 /// row, in the first three characters of `signNames` (Aries first).
-void SouthTextChart(const store::Recordset &cells, std::string_view title,
-                    std::span<const std::string, 12> signNames, std::string &report);
+std::vector<std::string> SouthTextChart(const store::Recordset &cells, std::string_view title,
+                                        std::span<const std::string, 12> signNames);
 
 /// A drawing by houses, house 1 in cell 1, with the title on a line above. `firstSign` is the sign, 1 to 12,
 /// of house 1; each house has its sign number in the corner of its cell. Raises OverflowError for any other
 /// sign.
-void NorthTextChart(const store::Recordset &cells, std::string_view title, int firstSign,
-                    std::string &report);
+std::vector<std::string> NorthTextChart(const store::Recordset &cells, std::string_view title, int firstSign);
 
 /// A drawing by signs as in `SouthTextChart`, with the title on a line above.
-void EastTextChart(const store::Recordset &cells, std::string_view title,
-                   std::span<const std::string, 12> signNames, std::string &report);
+std::vector<std::string> EastTextChart(const store::Recordset &cells, std::string_view title,
+                                       std::span<const std::string, 12> signNames);
 
 } // namespace kelvaro

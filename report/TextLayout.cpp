@@ -2,6 +2,8 @@
 
 #include "runtime/RuntimeError.h"
 
+#include <algorithm>
+
 namespace kelvaro {
 
 namespace {
@@ -85,6 +87,19 @@ std::string Centred(std::string_view text, std::size_t width) {
     const std::string_view shown = FirstCharacters(text, width);
     const std::size_t room = width - CharacterCount(shown);
     return Padded(room / 2, shown, room - room / 2);
+}
+
+std::string TableLine(std::span<const TableColumn> columns, std::span<const std::string> texts) {
+    std::string line;
+    std::size_t end = 0; // in characters; a text may have more bytes
+    for (std::size_t i = 0; i < std::min(columns.size(), texts.size()); ++i) {
+        const TableColumn &column = columns[i];
+        line.append(column.start - end, ' ');
+        line +=
+            column.align == Align::Left ? Field(texts[i], column.width) : RightField(texts[i], column.width);
+        end = column.start + column.width;
+    }
+    return line;
 }
 
 } // namespace kelvaro

@@ -1,10 +1,9 @@
 #pragma once
 
 #include "horoscope/record/ChartForm.h"
+#include "horoscope/record/DasaForm.h"
 #include "horoscope/record/TextGrid.h"
 #include "horoscope/record/UserDetailsForm.h"
-
-#include <string>
 
 namespace kelvaro {
 
@@ -24,13 +23,6 @@ struct VargasForm {
 
 struct AshtakavargaForm {
     TextGrid mshAshtaVarga;
-};
-
-struct DasaForm {
-    TextGrid mshDasa;
-    TextGrid mshBukti; ///< sections group the rows by dasa
-    TextGrid mshAntra; ///< sections group the rows by dasa and bhukti
-    std::string Lab_DasaBalanceV;
 };
 
 /// What the views of the horoscope show: plain values that the driver fills, windows display and reports

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -58,15 +59,34 @@ double CommonTextSize(const std::array<double, 12> &largest) {
     return size;
 }
 
+CellText TextOf(const std::vector<CellBody> &bodies, bool isListed) {
+    CellText text;
+    text.isListed = isListed;
+    for (const CellBody &body : bodies) {
+        text.entries.push_back({QString::fromStdString(body.name), QString::fromStdString(body.degrees),
+                                body.IsLagna() ? Tone::Lagna : Tone::Name});
+    }
+    return text;
+}
+
+/// The bodies as they are read aloud.
+QString SpokenText(const CellText &text) {
+    QStringList entries;
+    for (const CellEntry &entry : text.entries) {
+        entries << (entry.figure.isEmpty() ? entry.name : entry.name + u' ' + entry.figure);
+    }
+    return entries.join(text.isListed ? QStringLiteral(", ") : QStringLiteral(" "));
+}
+
 } // namespace
 
-ChartFrame::ChartFrame(ChartStyle style, const QString &labelArray, int firstIndex, QWidget *parent)
-    : QWidget(parent), style_(style), flow_(style == ChartStyle::South ? CellFlow::Lines : CellFlow::Words),
-      outlines_(CellOutlines(style)), font_(font()) {
+ChartFrame::ChartFrame(const StyleOfChart &style, const QString &labelArray, QWidget *parent)
+    : QWidget(parent), style_(style.style), labels_(style.cells), outlines_(CellOutlines(style.style)),
+      font_(font()) {
     for (std::size_t index = 0; index < cells_.size(); ++index) {
         cells_.at(index) = new CellLabel(this);
         cells_.at(index)->setObjectName(
-            QStringLiteral("%1_%2").arg(labelArray).arg(static_cast<int>(index) + firstIndex));
+            QStringLiteral("%1_%2").arg(labelArray).arg(static_cast<int>(index) + style.firstIndex));
         if (HasSignNumbers()) {
             numbers_.at(index) = new CellLabel(this);
             numbers_.at(index)->setObjectName(QStringLiteral("Lab_NHouseNo_%1").arg(index + 1));
@@ -80,14 +100,21 @@ void ChartFrame::SetHeading(const ChartHeading &heading) {
     update();
 }
 
-void ChartFrame::SetCells(const std::array<std::string, 12> &cells,
-                          const std::array<std::string, 12> &signNumbers) {
+void ChartFrame::SetCells(const ChartForm &form, const std::array<std::string, 12> &signNames) {
+    const bool isShown = form.VisibleFrame == style_;
     for (std::size_t index = 0; index < cells_.size(); ++index) {
+        texts_.at(index) = isShown ? TextOf(form.bodies.at(index), form.breaksLines) : CellText{};
+        cells_.at(index)->setText(QString::fromStdString((form.*labels_).at(index)));
+        QString place;
+        std::size_t sign = index;
         if (HasSignNumbers()) {
-            numbers_.at(index)->setText(QString::fromStdString(signNumbers.at(index)));
+            numbers_.at(index)->setText(QString::fromStdString(form.Lab_NHouseNo.at(index)));
+            place = tr("House %1, ").arg(index + 1);
+            sign = static_cast<std::size_t>(std::max<int>(form.NorthRasiOfHouse.at(index), 1) - 1);
         }
-        cells_.at(index)->setText(QString::fromStdString(cells.at(index)));
-        cells_.at(index)->setAccessibleName(AccessibleTextOf(index));
+        cells_.at(index)->setAccessibleName(
+            QStringLiteral("%1%2: %3")
+                .arg(place, QString::fromStdString(signNames.at(sign)), SpokenText(texts_.at(index))));
     }
     FitCells();
     LayOut();
@@ -99,21 +126,6 @@ QPolygonF ChartFrame::CellOutline(std::size_t cell) const {
         corner = square_.topLeft() + corner * square_.width();
     }
     return outline;
-}
-
-QString ChartFrame::AccessibleTextOf(std::size_t cell) const {
-    std::size_t sign = cell;
-    QString place;
-    if (HasSignNumbers()) {
-        sign = static_cast<std::size_t>(std::max(numbers_.at(cell)->text().toInt(), 1)) - 1;
-        place = tr("House %1, ").arg(cell + 1);
-    }
-    const QString signName = names_.signs.value(static_cast<qsizetype>(sign));
-    QStringList entries = cells_.at(cell)->text().split(QStringLiteral("\r\n"), Qt::SkipEmptyParts);
-    for (QString &entry : entries) {
-        entry = entry.simplified();
-    }
-    return QStringLiteral("%1%2: %3").arg(place, signName, entries.join(QStringLiteral(", ")));
 }
 
 PlacedText ChartFrame::PlacedNumber(std::size_t house) const {
@@ -146,8 +158,7 @@ void ChartFrame::FitCells() {
     std::vector<CellFitter> fitters;
     std::array<double, 12> largest{};
     for (std::size_t index = 0; index < cells_.size(); ++index) {
-        fitters.emplace_back(ReadCellText(cells_.at(index)->text(), flow_, names_.lagna), TextEdges(index),
-                             font_);
+        fitters.emplace_back(texts_.at(index), TextEdges(index), font_);
         largest.at(index) = fitters.back().IsEmpty() ? usualTextSize : fitters.back().LargestSize(cellMargin);
     }
     const double common = CommonTextSize(largest);

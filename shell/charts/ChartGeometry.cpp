@@ -124,6 +124,8 @@ std::array<QPolygonF, 12> CellOutlines(ChartStyle style) {
         return OutlinesOf(eastCells, eastGrid);
     case ChartStyle::North:
         return OutlinesOf(northCells, northGrid);
+    case ChartStyle::Unknown:
+        break;
     }
     return {};
 }
@@ -136,6 +138,8 @@ std::vector<QLineF> InnerLines(ChartStyle style) {
         return LinesOf(eastLines, eastGrid);
     case ChartStyle::North:
         return LinesOf(northLines, northGrid);
+    case ChartStyle::Unknown:
+        break;
     }
     return {};
 }
@@ -147,6 +151,7 @@ QRectF OpenCentre(ChartStyle style) {
     case ChartStyle::East:
         return {1.0 / 3, 1.0 / 3, 1.0 / 3, 1.0 / 3};
     case ChartStyle::North:
+    case ChartStyle::Unknown:
         break;
     }
     return {};

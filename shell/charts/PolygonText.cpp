@@ -1,7 +1,5 @@
 #include "shell/charts/PolygonText.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -245,29 +243,6 @@ double ChartFont::Width(const QString &text, Tone tone) const {
 
 double ChartFont::LinePitch() const {
     return 1.24;
-}
-
-CellText ReadCellText(const QString &text, CellFlow flow, const QStringList &lagnaNames) {
-    static const QRegularExpression lineBreak(QStringLiteral("\\r\\n"));
-    static const QRegularExpression blanks(QStringLiteral("\\s+"));
-    CellText result;
-    result.isListed = flow == CellFlow::Lines || text.contains(lineBreak);
-    const auto add = [&](const QString &name, const QString &figure) {
-        result.entries.push_back({name, figure, lagnaNames.contains(name) ? Tone::Lagna : Tone::Name});
-    };
-    if (flow == CellFlow::Words) {
-        for (const QString &word : text.split(blanks, Qt::SkipEmptyParts)) {
-            add(word, {});
-        }
-        return result;
-    }
-    for (const QString &line : text.split(lineBreak, Qt::SkipEmptyParts)) {
-        const QString trimmed = line.simplified();
-        if (!trimmed.isEmpty()) {
-            add(trimmed.section(u' ', 0, 0), trimmed.section(u' ', 1));
-        }
-    }
-    return result;
 }
 
 std::vector<CellEdge> EdgesOf(const QPolygonF &polygon) {

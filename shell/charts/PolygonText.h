@@ -5,7 +5,6 @@
 #include <QPointF>
 #include <QPolygonF>
 #include <QString>
-#include <QStringList>
 
 #include <vector>
 
@@ -51,13 +50,6 @@ struct CellText {
     std::vector<CellEntry> entries;
     bool isListed = false; ///< each entry has a line of its own; otherwise entries flow, several to a line
 };
-
-enum class CellFlow {
-    Lines, ///< a line is an entry, a name and a figure
-    Words, ///< a blank divides entries, and a line break keeps every entry on its own line
-};
-
-CellText ReadCellText(const QString &text, CellFlow flow, const QStringList &lagnaNames);
 
 /// A straight border of a convex cell. A point is inside where the product of its place with the outward unit
 /// normal is not above the offset.

@@ -10,6 +10,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <span>
+#include <utility>
 
 namespace kelvaro {
 
@@ -18,8 +20,6 @@ namespace {
 constexpr int margin = 12;
 constexpr int listDistance = 10;
 constexpr int lineDistance = 6;
-constexpr std::size_t fromColumn = 1;
-constexpr std::size_t toColumn = 2;
 constexpr GridGroup::FontSizes fontSizes{1.8, 0.85};
 constexpr double linesOfContent = 45; // of the window that leave all but the lists as it is
 constexpr double lettersOfContent = 140;
@@ -27,42 +27,26 @@ constexpr double buttonWidth = 1.7; // times that of its word
 constexpr int linesAbove = 4;       // the lists
 constexpr int rowsOfList = 10;      // nine periods and the titles
 
-/// Where a section of a grid begins and how many rows it has.
-struct Rows {
-    std::size_t first = 0;
-    std::size_t count = 0;
-};
+using Periods = std::span<const DasaPeriod>;
 
-Rows RowsOf(const TextGrid &grid, std::size_t section) {
-    const std::size_t first = grid.sections.at(section).firstRow;
-    const std::size_t end =
-        section + 1 < grid.sections.size() ? grid.sections.at(section + 1).firstRow : grid.rows.size();
-    return {first, end - first};
-}
-
-std::optional<std::size_t> SectionNamed(const TextGrid &grid, const std::string &title) {
-    const auto found = std::ranges::find(grid.sections, title, &TextGrid::Section::title);
-    if (found == grid.sections.end()) {
+/// The period that holds a date, both taken as whole days; periods follow one another.
+std::optional<std::size_t> PeriodAt(Periods periods, Moment date) {
+    const auto found = std::ranges::find_if(periods, [&](const DasaPeriod &period) {
+        return DateOf(period.start) <= date && date < DateOf(period.end);
+    });
+    if (found == periods.end()) {
         return std::nullopt;
     }
-    return static_cast<std::size_t>(found - grid.sections.begin());
+    return static_cast<std::size_t>(found - periods.begin());
 }
 
-/// The row whose period holds a date; periods follow one another.
-std::optional<std::size_t> RowAt(const TextGrid &grid, Moment date) {
-    const auto holds = [&](const std::vector<std::string> &row) {
-        return ReadMoment(row.at(fromColumn)) <= date && date < ReadMoment(row.at(toColumn));
-    };
-    const auto found = std::ranges::find_if(grid.rows, holds);
-    if (found == grid.rows.end()) {
-        return std::nullopt;
-    }
-    return static_cast<std::size_t>(found - grid.rows.begin());
-}
-
-int RowWithin(const std::optional<std::size_t> &row, const Rows &rows) {
-    return row && *row >= rows.first && *row < rows.first + rows.count ? static_cast<int>(*row - rows.first)
-                                                                       : -1;
+/// Shows some of the periods of a list, whose rows the grid has, with that of a date marked.
+void ShowPeriods(Periods shown, Periods all, const TextGrid &grid, Moment date, TextGridView &list) {
+    const auto first = shown.empty() ? 0 : static_cast<std::size_t>(shown.data() - all.data());
+    list.Show(grid, first, shown.size());
+    const auto marked = PeriodAt(all, date);
+    const bool isShown = marked && *marked >= first && *marked < first + shown.size();
+    list.Rows().Mark(isShown ? static_cast<int>(*marked - first) : -1);
 }
 
 TextGridView *NewList(const char *name) {
@@ -127,6 +111,7 @@ DasaView::DasaView(QWidget *parent)
 
 void DasaView::Refresh(const Horoscope &horoscope) {
     form_ = horoscope.forms.Frm_Dasa;
+    bhuktis_ = {};
     today_ = DateOf(Now());
     heading_->Show(horoscope.state);
     balance_->setText(QString::fromStdString(form_.Lab_DasaBalanceV));
@@ -138,8 +123,7 @@ void DasaView::Refresh(const Horoscope &horoscope) {
             sections_->addItem(QString::fromStdString(section.title));
         }
     }
-    mshDasa_->Show(form_.mshDasa);
-    mshDasa_->Rows().Mark(RowWithin(RowAt(form_.mshDasa, today_), {0, form_.mshDasa.rows.size()}));
+    ShowPeriods(form_.dasas, form_.dasas, form_.mshDasa, today_, *mshDasa_);
     mshBukti_->Show(form_.mshBukti, 0, 0);
     mshAntra_->Show(form_.mshAntra, 0, 0);
     ChooseToday();
@@ -147,19 +131,15 @@ void DasaView::Refresh(const Horoscope &horoscope) {
 }
 
 QString DasaView::TodayText() const {
-    if (form_.mshDasa.rows.empty()) {
+    if (form_.dasas.empty()) {
         return {};
     }
     QStringList lords;
-    for (const auto &[name, grid] :
-         {std::pair{tr("Dasa"), &form_.mshDasa}, std::pair{tr("Bhukthi"), &form_.mshBukti},
-          std::pair{tr("Antra"), &form_.mshAntra}}) {
-        if (const auto row = RowAt(*grid, today_)) {
-            QString lord = QString::fromStdString(grid->rows.at(*row).front());
-            if (grid == &form_.mshBukti) {
-                lord.chop(lord.endsWith(QStringLiteral(" Dasa")) ? 5 : 0);
-            }
-            lords << QStringLiteral("%1 %2").arg(name, lord);
+    for (const auto &[name, periods] :
+         {std::pair{tr("Dasa"), Periods(form_.dasas)}, std::pair{tr("Bhukthi"), Periods(form_.bhuktis)},
+          std::pair{tr("Antra"), Periods(form_.antras)}}) {
+        if (const auto place = PeriodAt(periods, today_)) {
+            lords << QStringLiteral("%1 %2").arg(name, QString::fromStdString(periods[*place].lordName));
         }
     }
     const QString date = QString::fromStdString(MonthNameDateText(today_));
@@ -168,20 +148,17 @@ QString DasaView::TodayText() const {
 }
 
 void DasaView::ChooseToday() {
-    if (form_.mshDasa.rows.empty()) {
+    if (form_.dasas.empty()) {
         return;
     }
-    const std::size_t dasa = RowAt(form_.mshDasa, today_).value_or(0);
-    mshDasa_->selectRow(static_cast<int>(dasa));
+    mshDasa_->selectRow(static_cast<int>(PeriodAt(form_.dasas, today_).value_or(0)));
     const int bhukti = std::max(mshBukti_->Rows().MarkedRow(), 0);
     if (bhukti < mshBukti_->Rows().rowCount()) {
         mshBukti_->selectRow(bhukti);
     }
     // The antras are a reckoning of their own: today's may belong to another bhukti than today's bhukti.
-    if (const auto antra = RowAt(form_.mshAntra, today_)) {
-        const auto section =
-            std::ranges::upper_bound(form_.mshAntra.sections, *antra, {}, &TextGrid::Section::firstRow);
-        sections_->setCurrentIndex(static_cast<int>(section - form_.mshAntra.sections.begin()) - 1);
+    if (const auto antra = PeriodAt(form_.antras, today_)) {
+        sections_->setCurrentIndex(SectionOf(form_.antras.at(*antra)));
         mshAntra_->selectRow(mshAntra_->Rows().MarkedRow());
     }
 }
@@ -190,40 +167,40 @@ void DasaView::ShowBhuktisOf(int dasa) {
     if (dasa < 0) {
         return;
     }
-    const std::string title = form_.mshDasa.rows.at(static_cast<std::size_t>(dasa)).front() + " Dasa";
     // All bhuktis of a dasa that was nearly over at birth may have been dropped.
-    const auto section = SectionNamed(form_.mshBukti, title);
-    const Rows rows = section ? RowsOf(form_.mshBukti, *section) : Rows{};
-    firstBhukti_ = rows.first;
-    mshBukti_->Show(form_.mshBukti, rows.first, rows.count);
-    mshBukti_->Rows().Mark(RowWithin(RowAt(form_.mshBukti, today_), rows));
+    bhuktis_ = InDasa(form_.bhuktis, static_cast<std::size_t>(dasa));
+    ShowPeriods(bhuktis_, form_.bhuktis, form_.mshBukti, today_, *mshBukti_);
     LayOut();
-    if (rows.count > 0) {
+    if (!bhuktis_.empty()) {
         mshBukti_->selectRow(std::max(mshBukti_->Rows().MarkedRow(), 0));
     }
 }
 
 void DasaView::ShowAntrasOf(int bhukti) {
-    const QModelIndex dasa = mshDasa_->currentIndex();
-    if (bhukti < 0 || !dasa.isValid()) {
+    if (bhukti < 0 || form_.antras.empty()) {
         return;
     }
-    const std::string &dasaLord = form_.mshDasa.rows.at(static_cast<std::size_t>(dasa.row())).front();
-    std::string lord = form_.mshBukti.rows.at(firstBhukti_ + static_cast<std::size_t>(bhukti)).front();
-    lord.resize(lord.size() - std::string_view(" Dasa").size());
-    if (const auto section = SectionNamed(form_.mshAntra, dasaLord + " Dasa, " + lord + " Bhukthi")) {
-        sections_->setCurrentIndex(static_cast<int>(*section));
-        ShowAntraSection(static_cast<int>(*section));
-    }
+    const int section = SectionOf(bhuktis_[static_cast<std::size_t>(bhukti)]);
+    sections_->setCurrentIndex(section);
+    ShowAntraSection(section);
+}
+
+int DasaView::SectionOf(const DasaPeriod &period) const {
+    const Periods antras = InBhukti(form_.antras, period.dasa, period.bhukti);
+    const auto section = std::ranges::find(form_.mshAntra.sections,
+                                           static_cast<std::size_t>(antras.data() - form_.antras.data()),
+                                           &TextGrid::Section::firstRow);
+    return static_cast<int>(section - form_.mshAntra.sections.begin());
 }
 
 void DasaView::ShowAntraSection(int section) {
     if (section < 0) {
         return;
     }
-    const Rows rows = RowsOf(form_.mshAntra, static_cast<std::size_t>(section));
-    mshAntra_->Show(form_.mshAntra, rows.first, rows.count);
-    mshAntra_->Rows().Mark(RowWithin(RowAt(form_.mshAntra, today_), rows));
+    const DasaPeriod &first =
+        form_.antras.at(form_.mshAntra.sections.at(static_cast<std::size_t>(section)).firstRow);
+    ShowPeriods(InBhukti(form_.antras, first.dasa, first.bhukti), form_.antras, form_.mshAntra, today_,
+                *mshAntra_);
     LayOut();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/record/HoroscopeForms.h"
+#include "horoscope/record/DasaForm.h"
 #include "runtime/Moment.h"
 #include "shell/views/GridGroup.h"
 #include "shell/views/ViewHeading.h"
@@ -8,6 +8,8 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+
+#include <span>
 
 namespace kelvaro {
 
@@ -34,6 +36,8 @@ private:
     void LayOut();
     int HeightOfLists() const;
     QString TodayText() const;
+    /// The section of the antras of a bhukti, or the one that holds an antra.
+    int SectionOf(const DasaPeriod &period) const;
 
     DasaForm form_;
     Moment today_;
@@ -46,7 +50,7 @@ private:
     TextGridView *mshAntra_;
     GridGroup lists_;
     QComboBox *sections_;
-    std::size_t firstBhukti_ = 0; ///< row of the grid that stands first in the list
+    std::span<const DasaPeriod> bhuktis_; ///< those in the list
 };
 
 } // namespace kelvaro

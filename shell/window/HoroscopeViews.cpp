@@ -21,18 +21,15 @@ HoroscopeView *MakeUserDetailsView() {
 }
 
 HoroscopeView *MakeRasiView() {
-    return new ChartView({"Rasi", &HoroscopeForms::frm_rasi, "Lab_GM_GirlHouse", "Lab_chartHouse_Girl_Rasi",
-                          "Lab_ChartHouseN_Girl"});
+    return new ChartView("Rasi", Chart::Rasi);
 }
 
 HoroscopeView *MakeNavamsaView() {
-    return new ChartView({"Navamsa", &HoroscopeForms::frm_Navamsa, "Lab_GirlNav", "Lab_ChartGHouse_Girl_Nav",
-                          "Lab_ChartHouseN_GirlNav"});
+    return new ChartView("Navamsa", Chart::Navamsa);
 }
 
 HoroscopeView *MakeBhavaView() {
-    return new ChartView({"Bhava", &HoroscopeForms::frm_BhavaChart, "Lab_GirlNav", "Lab_ChartGHouse_Girl_Nav",
-                          "Lab_ChartHouseN_GirlNav", CellFlow::Words});
+    return new ChartView("Bhava", Chart::Bhava);
 }
 
 HoroscopeView *MakeBhavaFeaturesView() {

@@ -1,7 +1,7 @@
 #include "analysis/BhavaSystem.h"
 
+#include "analysis/BhavaForms.h"
 #include "horoscope/NamesForLanguage.h"
-#include "horoscope/record/Bodies.h"
 
 #include <gtest/gtest.h>
 
@@ -10,25 +10,28 @@
 #include <cmath>
 #include <random>
 #include <string>
+#include <vector>
 
 namespace kelvaro {
 namespace {
 
-using Houses = std::array<double, 12>;
+using Degrees = std::array<double, 12>;
+using Row = std::vector<std::string>;
 
-HoroscopeState StateWith(double lagna, double midHeaven, const char *system) {
-    HoroscopeState state;
-    LoadNamesForLanguage(state);
-    state.positions.LagnaLon = lagna;
-    state.positions.MidHeaven = midHeaven;
-    state.preferences.BhavaSystem = system;
-    return state;
+const Names names = *NamesIn(Language::English); // NOLINT(cert-err58-cpp)
+
+Positions PositionsOf(double lagna, double midHeaven, double sun = 0) {
+    Positions positions;
+    positions.LagnaLon = lagna;
+    positions.MidHeaven = midHeaven;
+    positions.SunLon = sun;
+    return positions;
 }
 
 struct HouseCase {
     double lagna, midHeaven;
     const char *system;
-    Houses start, middle; ///< a house ends where the next one starts
+    Degrees start, middle; ///< a house ends where the next one starts
 };
 
 // Divided by hand; all points are exact in binary.
@@ -67,13 +70,13 @@ const std::array<HouseCase, 5> houseCases{{
 
 TEST(BhavaSystem, DividesTheHouses) {
     for (const HouseCase &expected : houseCases) {
-        HoroscopeState state = StateWith(expected.lagna, expected.midHeaven, expected.system);
-        FindBhavas(state);
-        Houses ends = expected.start;
+        const Houses houses =
+            HousesOf(PositionsOf(expected.lagna, expected.midHeaven), HouseSystemOf(expected.system), names);
+        Degrees ends = expected.start;
         std::rotate(ends.begin(), ends.begin() + 1, ends.end());
-        EXPECT_EQ(state.houses.BhavaStart, expected.start) << expected.system << " from " << expected.lagna;
-        EXPECT_EQ(state.houses.BhavaMid, expected.middle) << expected.system << " from " << expected.lagna;
-        EXPECT_EQ(state.houses.BhavaSandhi, ends) << expected.system << " from " << expected.lagna;
+        EXPECT_EQ(houses.BhavaStart, expected.start) << expected.system << " from " << expected.lagna;
+        EXPECT_EQ(houses.BhavaMid, expected.middle) << expected.system << " from " << expected.lagna;
+        EXPECT_EQ(houses.BhavaSandhi, ends) << expected.system << " from " << expected.lagna;
     }
 }
 
@@ -97,27 +100,45 @@ const std::array<RangeCase, 8> rangeCases{{
 }};
 
 TEST(BhavaSystem, ListsTheBodiesOfAHouse) {
-    HoroscopeState state = StateWith(100, 10, "Equal");
+    Positions positions;
     constexpr std::array<double, 9> longitudes{340, 10, 345, 328.5, 345.5, 200, 360, 0, 10};
     for (std::size_t i = 0; i < 9; ++i) {
-        state.positions.*bodyFields.at(i + 1).longitude = longitudes.at(i);
+        positions.*bodyFields.at(i + 1).longitude = longitudes.at(i);
     }
     for (const RangeCase &expected : rangeCases) {
-        EXPECT_EQ(PlanetsInBhava(state, expected.start, expected.end), expected.bodies)
+        EXPECT_EQ(PlanetsInBhava(positions, names, expected.start, expected.end), expected.bodies)
             << expected.start << " to " << expected.end;
     }
 }
 
 TEST(BhavaSystem, HouseOneOpensWithTheLagna) {
-    HoroscopeState state = StateWith(100, 10, "Equal");
-    state.positions.SunLon = 115;
-    FindBhavas(state);
-    EXPECT_EQ(state.houses.BhavaPlanets.at(0), "Asc Sun");
-    EXPECT_EQ(state.houses.BhavaPlanets.at(1), "Sun");
-    state.positions.SunLon = 116;
-    FindBhavas(state);
-    EXPECT_EQ(state.houses.BhavaPlanets.at(0), "Asc ");
-    EXPECT_EQ(state.houses.BhavaRasi, (std::array<std::int16_t, 12>{4, 5, 6, 7, 8, 9, 10, 11, 12, 1, 2, 3}));
+    const Houses onTheLimit = HousesOf(PositionsOf(100, 10, 115), HouseSystem::Equal, names);
+    EXPECT_EQ(onTheLimit.BhavaPlanets.at(0), "Asc Sun");
+    EXPECT_EQ(onTheLimit.bodies.at(0), (std::vector<Body>{Body::Lagna, Body::Sun}));
+    EXPECT_EQ(onTheLimit.BhavaPlanets.at(1), "Sun");
+    const Houses behind = HousesOf(PositionsOf(100, 10, 116), HouseSystem::Equal, names);
+    EXPECT_EQ(behind.BhavaPlanets.at(0), "Asc ");
+    EXPECT_EQ(behind.BhavaRasi, (std::array<std::int16_t, 12>{4, 5, 6, 7, 8, 9, 10, 11, 12, 1, 2, 3}));
+}
+
+TEST(BhavaSystem, TablesShowLimitsAndMiddles) {
+    clsStar star;
+    const Houses houses = HousesOf(PositionsOf(119.25, 29.25, 134.25), HouseSystem::Equal, names);
+    const auto [limits, middles] = BhavaTables(houses, names, star);
+    EXPECT_EQ(limits.header, "House  |  Start Bhava | Mid Bhava    | Sandhi          | Planets               "
+                             "                                        ");
+    ASSERT_EQ(limits.rows.size(), 12U);
+    EXPECT_EQ(limits.rows.at(0), (Row{"1", "104.15.0", "119.15.0", "134.15.0", "Asc Sun"}));
+    EXPECT_EQ(limits.rows.at(11), (Row{"12", "74.15.0", "89.15.0", "104.15.0", ""}));
+
+    // 29.25 degrees in Cancer, then in Aries: star and sub lord by hand.
+    EXPECT_EQ(middles.header,
+              "House         |Longitude |   Rasi       | Rasi Lord |  Star             | Pada "
+              "|Star Lord       |Sub  Lord    ");
+    ASSERT_EQ(middles.rows.size(), 12U);
+    EXPECT_EQ(middles.rows.at(0),
+              (Row{"1", "119.15.0", "Cancer", "Moon", "Ashlesha", "4", "Mercury", "Saturn"}));
+    EXPECT_EQ(middles.rows.at(9), (Row{"10", "29.15.0", "Aries", "Mars", "Kritika", "1", "Sun", "Rahu"}));
 }
 
 double Forward(double from, double to) {
@@ -132,29 +153,28 @@ TEST(BhavaSystem, EqualHousesCoverTheZodiac) {
     std::uniform_real_distribution<double> quarter(30, 150);
     for (int run = 0; run < 1000; ++run) {
         const double lagna = anywhere(generator);
-        HoroscopeState state = StateWith(lagna, Forward(quarter(generator), lagna), "Equal");
-        state.positions.SunLon = anywhere(generator);
-        FindBhavas(state);
+        const double midHeaven = Forward(quarter(generator), lagna);
+        const double sun = anywhere(generator);
+        const Houses houses = HousesOf(PositionsOf(lagna, midHeaven, sun), HouseSystem::Equal, names);
 
         double circle = 0;
         bool isLost = false;
         for (std::size_t k = 0; k < 12; ++k) {
-            const double start = state.houses.BhavaStart.at(k);
-            const double width = Forward(start, state.houses.BhavaSandhi.at(k));
+            const double start = houses.BhavaStart.at(k);
+            const double width = Forward(start, houses.BhavaSandhi.at(k));
             circle += width;
-            EXPECT_EQ(state.houses.BhavaSandhi.at(k), state.houses.BhavaStart.at((k + 1) % 12));
-            EXPECT_LT(Forward(start, state.houses.BhavaMid.at(k)), width);
-            EXPECT_NEAR(Forward(state.houses.BhavaMid.at(k), state.houses.BhavaMid.at((k + 6) % 12)), 180,
-                        1e-9);
-            isLost |= start < 329 && start + width > 360 && Forward(start, state.positions.SunLon) < width;
+            EXPECT_EQ(houses.BhavaSandhi.at(k), houses.BhavaStart.at((k + 1) % 12));
+            EXPECT_LT(Forward(start, houses.BhavaMid.at(k)), width);
+            EXPECT_NEAR(Forward(houses.BhavaMid.at(k), houses.BhavaMid.at((k + 6) % 12)), 180, 1e-9);
+            isLost |= start < 329 && start + width > 360 && Forward(start, sun) < width;
         }
         EXPECT_NEAR(circle, 360, 1e-9);
-        EXPECT_NEAR(std::remainder(state.houses.BhavaMid.at(0) - lagna, 360), 0, 1e-9);
-        EXPECT_NEAR(std::remainder(state.houses.BhavaMid.at(9) - state.positions.MidHeaven, 360), 0, 1e-9);
-        const bool isListed = std::ranges::any_of(state.houses.BhavaPlanets, [](const std::string &names) {
-            return names.find("Sun") != std::string::npos;
+        EXPECT_NEAR(std::remainder(houses.BhavaMid.at(0) - lagna, 360), 0, 1e-9);
+        EXPECT_NEAR(std::remainder(houses.BhavaMid.at(9) - midHeaven, 360), 0, 1e-9);
+        const bool isListed = std::ranges::any_of(houses.BhavaPlanets, [](const std::string &planets) {
+            return planets.find("Sun") != std::string::npos;
         });
-        EXPECT_NE(isListed, isLost) << state.positions.SunLon << " with the Lagna at " << lagna;
+        EXPECT_NE(isListed, isLost) << sun << " with the Lagna at " << lagna;
     }
 }
 

@@ -1,6 +1,5 @@
 #include "analysis/Karakas.h"
 
-#include "horoscope/record/Bodies.h"
 #include "presentation/AngleText.h"
 
 #include <gtest/gtest.h>
@@ -36,20 +35,19 @@ const std::array<KarakaCase, 3> cases{{
 TEST(Karakas, RankByText) {
     for (const KarakaCase &expected : cases) {
         SCOPED_TRACE(expected.what);
-        HoroscopeState state;
+        Positions positions;
         PlanetPositionsForm form;
         form.MSFlexGridSort.rows.assign(9, {"stale"});
         form.mshNirayana.rows.assign(10, std::vector<std::string>(10));
         for (std::size_t i = 0; i < 7; ++i) {
-            state.positions.*bodyFields.at(i + 1).longitude = expected.longitudes.at(i);
-            form.mshNirayana.rows.at(i + 1).at(1) =
-                DegreeMinuteSecondText(FoldToSign(expected.longitudes.at(i)));
+            positions.*bodyFields.at(i + 1).longitude = expected.longitudes.at(i);
+            form.mshNirayana.rows.at(i + 1).at(1) = FormatDegrees(DegreesInRasi(expected.longitudes.at(i)));
         }
         // Rows that take no part, with the text of a planet.
         form.mshNirayana.rows.at(8).at(1) = form.mshNirayana.rows.at(1).at(1);
         form.mshNirayana.rows.at(0).at(1) = form.mshNirayana.rows.at(1).at(1);
 
-        RankKarakas(state, form);
+        RankKarakas(positions, form);
         EXPECT_EQ(form.MSFlexGridSort.rows.size(), 7U);
         for (std::size_t i = 0; i < 7; ++i) {
             EXPECT_EQ(form.mshNirayana.rows.at(i + 1).at(8), expected.karakas.at(i)) << "planet " << i;

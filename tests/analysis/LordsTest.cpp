@@ -13,12 +13,8 @@
 namespace kelvaro {
 namespace {
 
-HoroscopeState StateIn(const char *language) {
-    HoroscopeState state;
-    state.preferences.Language = language;
-    LoadNamesForLanguage(state);
-    return state;
-}
+const Names english = *NamesIn(Language::English);   // NOLINT(cert-err58-cpp)
+const Names sanskrit = *NamesIn(Language::Sanskrit); // NOLINT(cert-err58-cpp)
 
 struct DasaLord {
     const char *name;
@@ -51,35 +47,33 @@ TEST(Lords, StarsGoRoundTheNineLords) {
 }
 
 TEST(Lords, RasisAreRuledFromTheLuminariesOutward) {
-    const HoroscopeState state = StateIn("Sanskrit");
     // Either way round from Cancer and Leo: Mercury, Venus, Mars, Jupiter, Saturn.
     constexpr std::array<const char *, 6> outward{"Surya", "Budha", "Sukra", "Kuja", "Guru", "Sani"};
     for (std::size_t i = 0; i < 6; ++i) {
         const double forward = 120 + static_cast<double>(i) * 30;
         const double backward = std::fmod(90 - static_cast<double>(i) * 30 + 360, 360);
-        EXPECT_EQ(RasiLordOf(state, forward, "Rasi"), outward.at(i));
-        EXPECT_EQ(RasiLordOf(state, backward + 29.99, "Rasi"), i == 0 ? "Chandra" : outward.at(i));
+        EXPECT_EQ(RasiLordOf(sanskrit, forward, "Rasi"), outward.at(i));
+        EXPECT_EQ(RasiLordOf(sanskrit, backward + 29.99, "Rasi"), i == 0 ? "Chandra" : outward.at(i));
     }
     // 44.5 degrees lie in Taurus, in its fifth navamsa: the fourteenth from Aries is Taurus, the next Gemini.
-    EXPECT_EQ(RasiLordOf(state, 44.5, "Rasi"), "Sukra");
-    EXPECT_EQ(RasiLordOf(state, 44.5, "Navamsa"), "Sukra");
-    EXPECT_EQ(RasiLordOf(state, 47, "Navamsa"), "Budha");
-    EXPECT_THROW(RasiLordOf(state, -1, "Rasi"), OverflowError);
+    EXPECT_EQ(RasiLordOf(sanskrit, 44.5, "Rasi"), "Sukra");
+    EXPECT_EQ(RasiLordOf(sanskrit, 44.5, "Navamsa"), "Sukra");
+    EXPECT_EQ(RasiLordOf(sanskrit, 47, "Navamsa"), "Budha");
+    EXPECT_THROW(RasiLordOf(sanskrit, -1, "Rasi"), OverflowError);
 }
 
 TEST(Lords, NamesFollowTheLanguage) {
-    EXPECT_EQ(LocalisedPlanetName(StateIn("English"), "Jupiter"), "Jupiter");
-    EXPECT_EQ(LocalisedPlanetName(StateIn("Sanskrit"), "Jupiter"), "Guru");
-    EXPECT_EQ(LocalisedPlanetName(StateIn("Sanskrit"), "Venus"), "Sukra");
-    EXPECT_EQ(LocalisedPlanetName(StateIn("English"), "Kethu"), "Ketu");
-    EXPECT_EQ(LocalisedPlanetName(StateIn("English"), "Ketu"), "");
-    EXPECT_EQ(RasiNameOf(StateIn("Sanskrit"), 12), "Meena");
-    EXPECT_THROW(RasiNameOf(StateIn("English"), 0), OverflowError);
+    EXPECT_EQ(LocalisedPlanetName(english, "Jupiter"), "Jupiter");
+    EXPECT_EQ(LocalisedPlanetName(sanskrit, "Jupiter"), "Guru");
+    EXPECT_EQ(LocalisedPlanetName(sanskrit, "Venus"), "Sukra");
+    EXPECT_EQ(LocalisedPlanetName(english, "Kethu"), "Ketu");
+    EXPECT_EQ(LocalisedPlanetName(english, "Ketu"), "");
+    EXPECT_EQ(RasiNameOf(sanskrit, 12), "Meena");
+    EXPECT_THROW(RasiNameOf(english, 0), OverflowError);
 }
 
 // Each star is shared among the nine by their years out of 120, its own lord first.
 TEST(SubLords, ShareTheStarsByYears) {
-    const HoroscopeState state = StateIn("English");
     double start = 0;
     for (std::size_t star = 0; star < 27; ++star) {
         for (std::size_t i = 0; i < 9; ++i) {
@@ -89,8 +83,8 @@ TEST(SubLords, ShareTheStarsByYears) {
                 // One band of the airy signs belongs to the Sun by decree: the share of Venus in a star of
                 // Rahu.
                 const bool isDecreed = star % 9 == 5 && i == 5;
-                EXPECT_EQ(SubLordOf(state, longitude),
-                          isDecreed ? "Sun" : LocalisedPlanetName(state, lord.name))
+                EXPECT_EQ(SubLordOf(english, longitude),
+                          isDecreed ? "Sun" : LocalisedPlanetName(english, lord.name))
                     << longitude;
             }
             start = end;
@@ -101,7 +95,7 @@ TEST(SubLords, ShareTheStarsByYears) {
 
 TEST(SubLords, ALimitBelongsToTheBandThatEndsThere) {
     struct Case {
-        std::string (*table)(const HoroscopeState &, double);
+        std::string (*table)(const Names &, double);
         double degrees;
         const char *lord;
     };
@@ -121,9 +115,8 @@ TEST(SubLords, ALimitBelongsToTheBandThatEndsThere) {
         {SubLordTable4, 0, "Moon"},
         {SubLordTable4, -0.1, ""},
     }};
-    const HoroscopeState state = StateIn("English");
     for (const Case &expected : cases) {
-        EXPECT_EQ(expected.table(state, expected.degrees), expected.lord) << expected.degrees;
+        EXPECT_EQ(expected.table(english, expected.degrees), expected.lord) << expected.degrees;
     }
 }
 

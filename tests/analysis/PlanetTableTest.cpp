@@ -25,42 +25,33 @@ TEST(RetroMark, ComparesOneDayOn) {
     EXPECT_EQ(RetroMark(100, 99, 0), "");
 }
 
-/// The birth of the record, 14 July 1965, with the longitudes of the facade for planets and nodes.
-HoroscopeState StateAtBirth(ClsFindPlanetPosition &position, const char *language) {
-    HoroscopeState state;
-    state.preferences.Language = language;
-    LoadNamesForLanguage(state);
-    state.positions.BirthMomentDate = MomentOf({1965, 7, 14}, {14, 15, 0});
-    position.FindFixValues(state.positions.BirthMomentDate, state.site.LatNS, state.site.LatDeg,
-                           state.site.LatMin, state.site.LonEW, state.site.LonDeg, state.site.LonMin,
-                           state.site.TimeDiff, state.site.TimeDiffEW, 0, "Lahiri", 0, 0);
-    state.positions.MarsLon = position.FnFindMarsPosition();
-    state.positions.MercuryLon = position.FnFindMercuryPosition();
-    state.positions.JupiterLon = position.FnFindJupiterPosition();
-    state.positions.VenusLon = position.FnFindVenusPosition();
-    state.positions.SaturnLon = position.FnFindSaturnPosition();
-    state.positions.RahuLon = position.FnFindRahuPosition();
-    state.positions.KetuLon = position.FnFindKethuPosition();
+/// For 14 July 1965, with the longitudes of the facade for planets and nodes.
+TextGrid TableAtBirth(Language language) {
+    ClsFindPlanetPosition facade;
+    const auto setTo = [&](Moment moment) {
+        facade.FindFixValues(moment, "N", 17, 20, "E", 78, 30, 5.5, "E", 0, "Lahiri", 0, 0);
+    };
+    Positions positions;
+    const Moment birth = MomentOf({1965, 7, 14}, {14, 15, 0});
+    setTo(birth);
+    const RetroLongitudes atBirth = RetroLongitudesOf(facade);
+    for (std::size_t i = 3; i < atBirth.size(); ++i) {
+        positions.*bodyFields.at(i).longitude = atBirth.at(i);
+    }
     // These three never carry a mark, so they can stand where the classes are worth looking at.
-    state.positions.LagnaLon = 276.7;
-    state.positions.SunLon = 77.3;
-    state.positions.MoonLon = 0;
-    state.ghati.IshtaGhati = 20.5;
-    return state;
+    positions.LagnaLon = 276.7;
+    positions.SunLon = 77.3;
+    positions.MoonLon = 0;
+    setTo(DateAdd(Interval::Day, 1, birth));
+    clsStar star;
+    return PlanetTable(positions, RetroLongitudesOf(facade), *NamesIn(language), 20.5, star).mshNirayana;
 }
 
 // Worked by hand. 276.7 lies 6 degrees 42 minutes in Capricorn, past 276 2/3 where Abijit begins. 77.3 lies
 // 17 degrees 18 minutes in Gemini, in the first Sun band, the last pada of Ardra and the sixth navamsa; the
 // number is 6 * 1 * 6 + 1 + 20 + 10 = 67. For the Moon it is 1 * 2 * 1 + 1 + 20 + 10 = 33.
 TEST(PlanetTable, ClassifiesTheBodies) {
-    ClsFindPlanetPosition position;
-    clsStar star;
-    PlanetPositionsForm form;
-    form.mshNirayana.rows.assign(20, {"stale"});
-    form.mshNirayana.boldCells.push_back({0, 0});
-    FillPlanetPositions(StateAtBirth(position, "Sanskrit"), form, position, star);
-
-    const TextGrid &grid = form.mshNirayana;
+    const TextGrid grid = TableAtBirth(Language::Sanskrit);
     EXPECT_EQ(grid.header, "Planet|   Longitude  |   Rasi    |Rasi Lord|Star            |Pada|Star Lord|"
                            "Sub  Lord|Karaka*|Avasthas** ");
     ASSERT_EQ(grid.rows.size(), 10U);
@@ -85,11 +76,7 @@ TEST(PlanetTable, ClassifiesTheBodies) {
 // Eight weeks before its opposition of September 1965 Saturn moved backward, the four others forward and the
 // nodes as they always do.
 TEST(PlanetTable, MarksSaturnAlone) {
-    ClsFindPlanetPosition position;
-    clsStar star;
-    PlanetPositionsForm form;
-    FillPlanetPositions(StateAtBirth(position, "English"), form, position, star);
-    for (const Row &row : form.mshNirayana.rows) {
+    for (const Row &row : TableAtBirth(Language::English).rows) {
         EXPECT_EQ(row.at(1).ends_with(" (R)"), row.at(0) == "Sat") << row.at(0) << " " << row.at(1);
         EXPECT_FALSE(row.at(8).empty() || row.at(9).empty()) << row.at(0);
     }

@@ -55,10 +55,8 @@ const std::array<AvasthaCase, 10> cases{{
 TEST(SayanadiAvastha, FollowsTheSum) {
     clsStar star;
     for (const AvasthaCase &expected : cases) {
-        HoroscopeState state;
-        state.ghati.IshtaGhati = expected.ishtaGhati;
-        EXPECT_EQ(SayanadiAvastha(state, star, expected.longitude, expected.lordName, 0, expected.moon,
-                                  expected.lagnaRasi),
+        EXPECT_EQ(SayanadiAvastha(star, expected.longitude, expected.lordName, 0, expected.moon,
+                                  expected.lagnaRasi, expected.ishtaGhati),
                   expected.avastha)
             << expected.lordName << " at " << expected.longitude;
     }
@@ -66,12 +64,10 @@ TEST(SayanadiAvastha, FollowsTheSum) {
 
 TEST(SayanadiAvastha, ASumBeyondSixteenBitsIsAnError) {
     clsStar star;
-    HoroscopeState state;
-    state.ghati.IshtaGhati = 32267; // with 495 from the body itself 32762
-    EXPECT_NO_THROW(SayanadiAvastha(state, star, 135, "Kethu", 0, 1, 4));
-    EXPECT_THROW(SayanadiAvastha(state, star, 135, "Kethu", 0, 1, 5), OverflowError);
-    state.ghati.IshtaGhati = 32768;
-    EXPECT_THROW(SayanadiAvastha(state, star, 0, "", 0, 0, 1), OverflowError);
+    constexpr double ghati = 32267; // with 495 from the body itself 32762
+    EXPECT_NO_THROW(SayanadiAvastha(star, 135, "Kethu", 0, 1, 4, ghati));
+    EXPECT_THROW(SayanadiAvastha(star, 135, "Kethu", 0, 1, 5, ghati), OverflowError);
+    EXPECT_THROW(SayanadiAvastha(star, 0, "", 0, 0, 1, 32768), OverflowError);
 }
 
 } // namespace

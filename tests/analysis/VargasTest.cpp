@@ -1,8 +1,6 @@
 #include "analysis/Vargas.h"
 
 #include "horoscope/NamesForLanguage.h"
-#include "horoscope/record/Bodies.h"
-#include "store/database/Recordset.h"
 
 #include <gtest/gtest.h>
 
@@ -84,26 +82,26 @@ constexpr std::array<Rule, 21> rules{{
 
 class VargasTest : public testing::Test {
 protected:
-    VargasTest() {
-        connection_.OpenCopyInMemory(KELVARO_SEED_DATABASE);
-        LoadNamesForLanguage(state_);
-    }
+    VargasTest() { connection_.OpenCopyInMemory(KELVARO_SEED_DATABASE); }
 
     /// Places Lagna to Ketu and fills the grid.
-    void Fill(const VargaLongitudes &longitudes) {
+    void Fill(const std::array<double, 10> &longitudes, Language language = Language::English) {
+        Positions positions;
         for (std::size_t i = 0; i < longitudes.size(); ++i) {
-            state_.positions.*bodyFields[i].longitude = longitudes[i];
+            positions.*bodyFields[i].longitude = longitudes[i];
         }
-        FillVargas(state_, form_, connection_);
+        names_ = *NamesIn(language);
+        grid_ = VargaGrid(positions, names_, language, table_);
     }
 
     const std::string &Cell(std::size_t row, std::size_t column) const {
-        return form_.mshVargas.rows.at(row).at(column);
+        return grid_.rows.at(row).at(column);
     }
 
-    HoroscopeState state_;
-    VargasForm form_;
+    Names names_;
+    TextGrid grid_;
     store::Connection connection_;
+    store::VargaTable table_{connection_};
 };
 
 TEST_F(VargasTest, AllChartsFollowTheirRules) {
@@ -111,7 +109,7 @@ TEST_F(VargasTest, AllChartsFollowTheirRules) {
     for (int chart = 0; chart < 300; ++chart) {
         // An odd multiple of five millionths lies on no limit of any chart.
         std::array<std::int64_t, 10> wholes{};
-        VargaLongitudes longitudes{};
+        std::array<double, 10> longitudes{};
         for (std::size_t i = 0; i < wholes.size(); ++i) {
             wholes[i] = static_cast<std::int64_t>(random() % 36'000'000) * 10 + 5;
             longitudes[i] = static_cast<double>(wholes[i]) / 1e6;
@@ -123,7 +121,7 @@ TEST_F(VargasTest, AllChartsFollowTheirRules) {
                 const std::int64_t sign = wholes[i] / (30 * oneDegree);
                 const Place place{wholes[i], sign, wholes[i] - sign * 30 * oneDegree};
                 const auto expected = static_cast<std::size_t>(rules[row].sign(place) % 12);
-                ASSERT_EQ(Cell(row, i + 1), state_.names.RasiShortNames[expected])
+                ASSERT_EQ(Cell(row, i + 1), names_.RasiShortNames[expected])
                     << rules[row].label << " at " << longitudes[i];
             }
         }
@@ -156,17 +154,15 @@ TEST_F(VargasTest, ShortSizesRunAhead) {
 TEST_F(VargasTest, SpeaksTheLanguageInForce) {
     Fill({});
     EXPECT_EQ(
-        form_.mshVargas.header,
+        grid_.header,
         "  Chart                  | Asc  | Sun  | Moo  | Mar  | Mer  | Jup  | Ven  | Sat  | Rah  | Ket  ");
-    state_.preferences.Language = "Sanskrit";
-    LoadNamesForLanguage(state_);
-    Fill({});
+    Fill({}, Language::Sanskrit);
     EXPECT_EQ(
-        form_.mshVargas.header,
+        grid_.header,
         "  Chart                  | Lag  | Sur  | Cha  | Kuj  | Bud  | Gur  | Suk  | San  | Rah  | Ket  ");
     EXPECT_EQ(Cell(2, 1), "Sim");
-    EXPECT_EQ(RasiShortFromName(state_, "Vrischika"), "Vri");
-    EXPECT_EQ(RasiShortFromName(state_, "Scorpio"), "");
+    EXPECT_EQ(RasiShortFromName(names_, "Vrischika"), "Vri");
+    EXPECT_EQ(RasiShortFromName(names_, "Scorpio"), "");
 }
 
 TEST_F(VargasTest, ABodyThatTheTableDoesNotKnowHasAnEmptyCell) {
@@ -181,15 +177,20 @@ TEST_F(VargasTest, ABodyThatTheTableDoesNotKnowHasAnEmptyCell) {
 
 TEST_F(VargasTest, ARowIsFoundByItsNameInAnyCase) {
     Fill({});
-    const VargaLongitudes at31{31, 31, 31, 31, 31, 31, 31, 31, 31, 31};
-    FillVargaRow(state_, at31, " Navamsa ", 30, VargaSource::Computed, form_, connection_);
+    VargaPositions at31{};
+    at31.longitudes.fill(31);
+    at31.rasis.fill(1);
+    const auto fillRow = [&](const char *name, VargaSource source) {
+        FillVargaRow(at31, name, 30, source, names_, table_, grid_);
+    };
+    fillRow(" Navamsa ", VargaSource::Computed);
     EXPECT_EQ(Cell(1, 10), "Tau");
-    FillVargaRow(state_, at31, "hORA", 30, VargaSource::Table, form_, connection_);
-    EXPECT_EQ(Cell(2, 10), "Leo") << "one degree of the rasi in the record, Aries";
-    const auto before = form_.mshVargas.rows;
-    FillVargaRow(state_, at31, "Rasi", 30, VargaSource::Computed, form_, connection_);
-    FillVargaRow(state_, at31, "", 30, VargaSource::Computed, form_, connection_);
-    EXPECT_EQ(form_.mshVargas.rows, before);
+    fillRow("hORA", VargaSource::Table);
+    EXPECT_EQ(Cell(2, 10), "Leo") << "one degree of the rasi given, Aries";
+    const auto before = grid_.rows;
+    fillRow("Rasi", VargaSource::Computed);
+    fillRow("", VargaSource::Computed);
+    EXPECT_EQ(grid_.rows, before);
 }
 
 } // namespace

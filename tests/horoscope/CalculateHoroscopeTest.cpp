@@ -1,6 +1,5 @@
 #include "horoscope/CalculateHoroscope.h"
 
-#include "horoscope/record/Bodies.h"
 #include "panchanga/Sign.h"
 #include "runtime/MomentText.h"
 #include "tests/horoscope/HoroscopeFixture.h"
@@ -29,7 +28,7 @@ TEST_F(CalculateHoroscopeTest, SampleBirthFillsBothCharts) {
     for (const BodyFields &body : bodyFields) {
         const double longitude = horoscope.state.positions.*body.longitude;
         EXPECT_EQ(horoscope.state.positions.*body.rasi, static_cast<int>(longitude / 30) + 1);
-        const std::string &name = ShortNameOf(horoscope.state, body.body);
+        const std::string &name = ShortNameOf(horoscope.state.names, body.body);
         const int navamsa = static_cast<int>(longitude / (10.0 / 3)) % 12;
         EXPECT_NE(horoscope.forms.frm_Navamsa.South.at(static_cast<std::size_t>(navamsa)).find(name),
                   std::string::npos)
@@ -120,9 +119,9 @@ TEST_F(CalculateHoroscopeTest, DayOfBirthHoldsAlsoBeforeTheOriginOfMoments) {
 TEST_F(CalculateHoroscopeTest, NamesFollowTheLanguageAndOutliveAnUnknownOne) {
     horoscope.state.preferences.Language = "Sanskrit";
     CalculateHoroscope(horoscope);
-    EXPECT_EQ(ShortNameOf(horoscope.state, Body::Venus), "Suk");
-    EXPECT_EQ(LongNameOf(horoscope.state, Body::Venus), "Sukra");
-    EXPECT_EQ(LongNameOf(horoscope.state, Body::Jupiter), "Guru");
+    EXPECT_EQ(ShortNameOf(horoscope.state.names, Body::Venus), "Suk");
+    EXPECT_EQ(LongNameOf(horoscope.state.names, Body::Venus), "Sukra");
+    EXPECT_EQ(LongNameOf(horoscope.state.names, Body::Jupiter), "Guru");
     EXPECT_EQ(horoscope.state.names.LongNames.at(5), "Sukra");
     EXPECT_EQ(horoscope.state.names.ShortNames.at(5), "Gur");
     horoscope.state.preferences.Language = "Latin";

@@ -1,5 +1,6 @@
 #include "presentation/ChartCells.h"
 
+#include "presentation/ChartStyles.h"
 #include "runtime/RuntimeError.h"
 
 #include <gtest/gtest.h>
@@ -7,87 +8,133 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <vector>
 
 namespace kelvaro {
 namespace {
 
 using Cells = std::array<std::string, 12>;
 
+const Names names{// NOLINT(cert-err58-cpp)
+                  {"Lag", "Rav", "Cha", "Kuj", "Bud", "Gur", "Suk", "San", "Rah", "Ket", "Gul", "Maa"},
+                  {"Lagna", "Surya", "Chandra", "Kuja", "Budha", "Sukra", "Guru", "Sani", "Rahu", "Ketu"},
+                  {},
+                  {}};
+
 /// Lagna and Sun in Pisces, Moon, Venus and Maandi in Aries, all others in Cancer.
-HoroscopeState StateWithStyle(const std::string &style) {
-    HoroscopeState state;
-    state.preferences.ChartStyle = style;
-    state.names.ShortNames = {"Lag", "Rav", "Cha", "Kuj", "Bud", "Gur",
-                              "Suk", "San", "Rah", "Ket", "Gul", "Maa"};
-    state.names.LongNames = {"Lagna", "Surya", "Chandra", "Kuja", "Budha",
-                             "Sukra", "Guru",  "Sani",    "Rahu", "Ketu"};
-    state.positions.LagnaRasi = state.positions.SunRasi = 12;
-    state.positions.MoonRasi = state.positions.VenusRasi = state.positions.MaandiRasi = 1;
-    state.positions.MarsRasi = state.positions.MercuryRasi = state.positions.JupiterRasi =
-        state.positions.SaturnRasi = state.positions.RahuRasi = state.positions.KetuRasi =
-            state.positions.GulikaRasi = 4;
-    state.positions.LagnaLon = 342.5;
-    state.positions.SunLon = 330;
-    state.positions.MoonLon = 3 + 40 / 60.0;
-    state.positions.VenusLon = 29.25;
-    return state;
+Positions SomePositions() {
+    Positions positions;
+    for (const BodyFields &fields : bodyFields) {
+        positions.*fields.rasi = 4;
+    }
+    positions.LagnaRasi = positions.SunRasi = 12;
+    positions.MoonRasi = positions.VenusRasi = positions.MaandiRasi = 1;
+    positions.LagnaLon = 342.5;
+    positions.SunLon = 330;
+    positions.MoonLon = 3 + 40 / 60.0;
+    positions.VenusLon = 29.25;
+    return positions;
 }
 
-struct StyleCase {
-    void (*fill)(const HoroscopeState &, HoroscopeForms &);
+/// The same bodies in houses, of which the first lies in Pisces.
+Houses SomeHouses() {
+    Houses houses;
+    houses.BhavaRasi = {12, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
+    houses.bodies[0] = {Body::Lagna, Body::Sun};
+    houses.BhavaPlanets[0] = "Lag Rav";
+    houses.bodies[1] = {Body::Moon, Body::Venus, Body::Maandi};
+    houses.BhavaPlanets[1] = "Cha Suk Maa";
+    houses.bodies[4] = {Body::Mars};
+    houses.BhavaPlanets[4] = "Kuj";
+    return houses;
+}
+
+void Fill(Chart chart, ChartStyle style, HoroscopeForms &forms) {
+    if (chart == Chart::Rasi) {
+        FillRasiChart(SomePositions(), names, style, forms);
+    } else if (chart == Chart::Navamsa) {
+        FillNavamsaChart(SomePositions(), names, style, forms);
+    } else {
+        FillBhavaChart(SomeHouses(), names, style, forms);
+    }
+}
+
+struct ChartCase {
+    Chart chart;
     ChartForm HoroscopeForms::*window;
-    const char *word;
     ChartStyle style;
     Cells ChartForm::*cells;
-    std::size_t lagnaCell;
     const char *withLagna, *withMoon; ///< the cells of Pisces and of Aries, next to each other
+    bool breaksLines;
 };
 
-const std::array<StyleCase, 6> styleCases{{
-    {FillRasiChart, &HoroscopeForms::frm_rasi, "South", ChartStyle::South, &ChartForm::South, 11,
-     "Lag  12.30\r\nRav  0.0", "Cha  3.40\r\nSuk  29.15\r\nMaa  0.0"},
-    {FillRasiChart, &HoroscopeForms::frm_rasi, "East", ChartStyle::East, &ChartForm::East, 11, "Lag    Rav",
-     "Cha    Suk  Maa"},
-    {FillRasiChart, &HoroscopeForms::frm_rasi, "North", ChartStyle::North, &ChartForm::North, 0,
-     "Lagna  Rav  ", "Cha  Suk  Maa  "},
-    {FillNavamsaChart, &HoroscopeForms::frm_Navamsa, "South", ChartStyle::South, &ChartForm::South, 11,
-     "Lag  \r\nRav  ", "Cha  \r\nSuk  \r\nMaa  "},
-    {FillNavamsaChart, &HoroscopeForms::frm_Navamsa, "East", ChartStyle::East, &ChartForm::East, 11,
-     "Lag  \r\nRav  ", "Cha  \r\nSuk  \r\nMaa  "},
-    {FillNavamsaChart, &HoroscopeForms::frm_Navamsa, "North", ChartStyle::North, &ChartForm::North, 0,
-     "Lagna  Rav  ", "Cha  Suk  Maa  "},
+const std::array<ChartCase, 9> chartCases{{
+    {Chart::Rasi, &HoroscopeForms::frm_rasi, ChartStyle::South, &ChartForm::South, "Lag  12.30\r\nRav  0.0",
+     "Cha  3.40\r\nSuk  29.15\r\nMaa  0.0", true},
+    {Chart::Rasi, &HoroscopeForms::frm_rasi, ChartStyle::East, &ChartForm::East, "Lag    Rav",
+     "Cha    Suk  Maa", false},
+    {Chart::Rasi, &HoroscopeForms::frm_rasi, ChartStyle::North, &ChartForm::North, "Lagna  Rav  ",
+     "Cha  Suk  Maa  ", false},
+    {Chart::Navamsa, &HoroscopeForms::frm_Navamsa, ChartStyle::South, &ChartForm::South, "Lag  \r\nRav  ",
+     "Cha  \r\nSuk  \r\nMaa  ", true},
+    {Chart::Navamsa, &HoroscopeForms::frm_Navamsa, ChartStyle::East, &ChartForm::East, "Lag  \r\nRav  ",
+     "Cha  \r\nSuk  \r\nMaa  ", true},
+    {Chart::Navamsa, &HoroscopeForms::frm_Navamsa, ChartStyle::North, &ChartForm::North, "Lagna  Rav  ",
+     "Cha  Suk  Maa  ", false},
+    {Chart::Bhava, &HoroscopeForms::frm_BhavaChart, ChartStyle::South, &ChartForm::South, "Lag Rav",
+     "Cha Suk Maa", false},
+    {Chart::Bhava, &HoroscopeForms::frm_BhavaChart, ChartStyle::East, &ChartForm::East, "Lag Rav",
+     "Cha Suk Maa", false},
+    {Chart::Bhava, &HoroscopeForms::frm_BhavaChart, ChartStyle::North, &ChartForm::North, "Lag Rav",
+     "Cha Suk Maa", false},
 }};
 
 TEST(ChartCells, EachStyleFillsItsOwnCellsAnew) {
-    for (const StyleCase &expected : styleCases) {
-        SCOPED_TRACE(expected.word);
+    for (const ChartCase &expected : chartCases) {
+        SCOPED_TRACE(expected.withMoon);
         HoroscopeForms forms;
-        for (const StyleCase &entry : styleCases) {
+        for (const ChartCase &entry : chartCases) {
             (forms.*entry.window.*entry.cells).fill("old");
         }
-        expected.fill(StateWithStyle("south"), forms);
-        EXPECT_FALSE((forms.*expected.window).VisibleFrame);
+        const ChartForm &form = forms.*expected.window;
+        Fill(expected.chart, ChartStyleOf("south"), forms);
+        EXPECT_EQ(form.VisibleFrame, ChartStyle::Unknown);
 
-        expected.fill(StateWithStyle(expected.word), forms);
-        const Cells &cells = forms.*expected.window.*expected.cells;
-        EXPECT_EQ(cells.at(expected.lagnaCell), expected.withLagna);
-        EXPECT_EQ(cells.at((expected.lagnaCell + 1) % 12), expected.withMoon);
-        EXPECT_TRUE(cells.at((expected.lagnaCell + 4) % 12).starts_with("Kuj"));
+        Fill(expected.chart, expected.style, forms);
+        Fill(expected.chart, expected.style, forms);
+        const Cells &cells = form.*expected.cells;
+        const bool isNorth = expected.style == ChartStyle::North;
+        const std::size_t lagnaCell = isNorth ? 0 : 11;
+        const std::size_t moonCell = (lagnaCell + 1) % 12;
+        EXPECT_EQ(cells.at(lagnaCell), expected.withLagna);
+        EXPECT_EQ(cells.at(moonCell), expected.withMoon);
+        EXPECT_TRUE(cells.at((lagnaCell + 4) % 12).starts_with("Kuj"));
         EXPECT_EQ(std::count(cells.begin(), cells.end(), ""), 9);
-        EXPECT_EQ((forms.*expected.window).VisibleFrame, expected.style);
-        for (const StyleCase &other : styleCases) {
+        EXPECT_EQ(form.VisibleFrame, expected.style);
+        for (const ChartCase &other : chartCases) {
             if (&other != &expected) {
                 EXPECT_EQ((forms.*other.window.*other.cells).at(11), "old");
             }
         }
+
+        EXPECT_EQ(form.breaksLines, expected.breaksLines);
+        std::string values;
+        for (const CellBody &body : form.bodies.at(moonCell)) {
+            values += body.name + " " + body.degrees + ";";
+        }
+        EXPECT_EQ(values, std::string(expected.withMoon).starts_with("Cha  3") ? "Cha 3.40;Suk 29.15;Maa 0.0;"
+                                                                               : "Cha ;Suk ;Maa ;");
+        const std::vector<CellBody> &first = form.bodies.at(lagnaCell);
+        ASSERT_EQ(first.size(), 2U);
+        EXPECT_TRUE(first[0].IsLagna() && first[1].body == Body::Sun);
+
+        EXPECT_EQ(form.Lab_NHouseNo,
+                  isNorth ? (Cells{"12", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11"}) : Cells{});
+        EXPECT_EQ(form.NorthRasiOfHouse.at(1), isNorth ? 1 : 0);
     }
 }
 
-TEST(ChartCells, NorthNumbersItsHousesFromTheLagna) {
-    HoroscopeForms forms;
-    FillRasiChart(StateWithStyle("North"), forms);
-    EXPECT_EQ(forms.frm_rasi.Lab_NHouseNo,
-              (Cells{"12", "1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11"}));
+TEST(ChartCells, HousesCountFromTheLagna) {
     EXPECT_EQ(HouseFromLagna(12, 1), 2);
     EXPECT_EQ(HouseFromLagna(1, 12), 12);
     EXPECT_EQ(HouseFromLagna(5, 5), 1);
@@ -95,9 +142,9 @@ TEST(ChartCells, NorthNumbersItsHousesFromTheLagna) {
 
 TEST(ChartCells, ASignOutOfRangeRaisesForAKnownKind) {
     HoroscopeForms forms;
-    EXPECT_THROW(ChartCellFill(forms, "1", "Sun", 0, 0), OverflowError);
-    EXPECT_THROW(ChartCellFill(forms, "5", "Sun", 13, 0), OverflowError);
-    EXPECT_NO_THROW(ChartCellFill(forms, "4", "Sun", 13, 0));
+    EXPECT_THROW(ChartCellFill(forms, "1", Body::Sun, "Sun", 0, 0), OverflowError);
+    EXPECT_THROW(ChartCellFill(forms, "5", Body::Sun, "Sun", 13, 0), OverflowError);
+    EXPECT_NO_THROW(ChartCellFill(forms, "4", Body::Sun, "Sun", 13, 0));
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "report/TextCharts.h"
 
-#include "report/TextLayout.h"
 #include "runtime/RuntimeError.h"
 #include "tests/store/StoreFixture.h"
 
@@ -105,19 +104,11 @@ Cells Fill() {
     return cells;
 }
 
-std::vector<std::string> LinesOf(std::string_view text) {
-    std::vector<std::string> lines;
-    for (std::size_t end = text.find(lineEnd); end != std::string_view::npos; end = text.find(lineEnd)) {
-        lines.emplace_back(text.substr(0, end));
-        text.remove_prefix(end + lineEnd.size());
-    }
-    EXPECT_EQ(text, "");
-    return lines;
-}
+using Lines = std::vector<std::string>;
 
-std::string WithVisibleEnds(std::string_view text) {
+std::string WithVisibleEnds(const Lines &lines) {
     std::string visible("\n");
-    for (const std::string &line : LinesOf(text)) {
+    for (const std::string &line : lines) {
         visible += line + "|\n";
     }
     return visible;
@@ -137,21 +128,11 @@ protected:
         row_.Open(statement.append(rest), connection_);
     }
 
-    std::string South(std::string_view title) const {
-        std::string report;
-        SouthTextChart(row_, title, signNames, report);
-        return report;
+    Lines South(std::string_view title) const { return SouthTextChart(row_, title, signNames); }
+    Lines North(std::string_view title, int firstSign) const {
+        return NorthTextChart(row_, title, firstSign);
     }
-    std::string North(std::string_view title, int firstSign) const {
-        std::string report;
-        NorthTextChart(row_, title, firstSign, report);
-        return report;
-    }
-    std::string East(std::string_view title) const {
-        std::string report;
-        EastTextChart(row_, title, signNames, report);
-        return report;
-    }
+    Lines East(std::string_view title) const { return EastTextChart(row_, title, signNames); }
 
     store::Recordset row_;
 };
@@ -161,9 +142,6 @@ TEST_F(TextChartsTest, DrawsEveryCellInItsPlace) {
     EXPECT_EQ(WithVisibleEnds(South("Rasi")), southReference);
     EXPECT_EQ(WithVisibleEnds(North("Navamsa", 11)), northReference);
     EXPECT_EQ(WithVisibleEnds(East("Bhava")), eastReference);
-    std::string report("before\r\n");
-    EastTextChart(row_, "Bhava", signNames, report);
-    EXPECT_EQ(report, "before\r\n" + East("Bhava"));
 }
 
 TEST_F(TextChartsTest, TightensCellsAndCutsThemByCharacters) {
@@ -171,7 +149,7 @@ TEST_F(TextChartsTest, TightensCellsAndCutsThemByCharacters) {
     cells[2] = "Sun   Moo Mar    Ven";
     cells[5] = "राशिचक";
     Open(cells);
-    const std::vector<std::string> lines = LinesOf(South("राशि"));
+    const Lines lines = South("राशि");
     EXPECT_EQ(lines[1].substr(15), "*           *           *Sun Moo Mar*           *");
     EXPECT_EQ(lines[2].substr(15), "*           *           * Ven       *           *");
     EXPECT_EQ(lines[6].substr(15), "*           *                       *राशिचक     *");
@@ -191,20 +169,20 @@ TEST_F(TextChartsTest, PutsTheSouthTitleIntoTheCentre) {
              Case{"abcdefghijklmnopqrstuv", " abcdefghijklmnopqrstuv"},
              Case{"abcdefghijklmnopqrstuvwxyz", "abcdefghijklmnopqrstuvw"},
          }) {
-        EXPECT_EQ(LinesOf(South(entry.title))[10].substr(28, 23), entry.centre);
+        EXPECT_EQ(South(entry.title)[10].substr(28, 23), entry.centre);
     }
-    EXPECT_EQ(LinesOf(North(std::string(50, 'x'), 1))[0], std::string(19, ' ') + std::string(41, 'x'));
+    EXPECT_EQ(North(std::string(50, 'x'), 1)[0], std::string(19, ' ') + std::string(41, 'x'));
 }
 
 TEST_F(TextChartsTest, DrawsEmptyCellsWithoutARow) {
     Open({});
-    const std::string south = South("Rasi");
-    const std::string north = North("Rasi", 12);
+    const Lines south = South("Rasi");
+    const Lines north = North("Rasi", 12);
     Open(Fill(), "where 1 = 0");
     ASSERT_TRUE(row_.IsEndOfFile());
     EXPECT_EQ(South("Rasi"), south);
     EXPECT_EQ(North("Rasi", 12), north);
-    EXPECT_EQ(LinesOf(north)[5], std::string(19, ' ') + "*       *   1 *           *   3 *       *");
+    EXPECT_EQ(north[5], std::string(19, ' ') + "*       *   1 *           *   3 *       *");
 }
 
 TEST_F(TextChartsTest, RefusesWhatIsNoChart) {

@@ -12,9 +12,6 @@ using namespace kelvaro;
 
 namespace {
 
-using CellTexts = std::array<std::string, 12>;
-
-const QStringList lagnaNames{QStringLiteral("Asc")};
 constexpr std::array<const char *, 12> bodies{"Asc", "Sun", "Moo", "Mar", "Mer", "Jup",
                                               "Ven", "Sat", "Rah", "Ket", "Gul", "Maa"};
 
@@ -28,13 +25,12 @@ double AreaOf(const QPolygonF &polygon) {
     return std::abs(twice) / 2;
 }
 
-/// A text of so many bodies, divided as charts divide them.
-std::string TextOf(std::size_t count, const std::string &figure, const std::string &divider) {
-    std::string text;
+std::vector<CellBody> BodiesOf(std::size_t count, const std::string &degrees) {
+    std::vector<CellBody> cell;
     for (std::size_t index = 0; index < count; ++index) {
-        text += (text.empty() ? "" : divider) + bodies.at(index) + figure;
+        cell.push_back({static_cast<Body>(index), bodies.at(index), degrees});
     }
-    return text;
+    return cell;
 }
 
 /// The dots that a label draws, row by row, in pixels of its parent.
@@ -118,7 +114,7 @@ void ChartViewTest::CellsStandWhereAnAstrologerLooksForThem() {
 
 void ChartViewTest::TextIsCentredInASquare() {
     const ChartFont font{QFont()};
-    const CellFitter fitter(ReadCellText(QStringLiteral("Sun  \r\n"), CellFlow::Words, lagnaNames),
+    const CellFitter fitter({{{QStringLiteral("Sun"), {}}}},
                             EdgesOf(QPolygonF(QRectF(2, 3, 10, 10)).mid(0, 4)), font);
     const PlacedText text = fitter.Place(1);
     QCOMPARE(text.runs.size(), std::size_t{1});
@@ -130,9 +126,14 @@ void ChartViewTest::TextIsCentredInASquare() {
 
 void ChartViewTest::FlowKeepsEveryWordInOrder() {
     const ChartFont font{QFont()};
-    const QString words = QString::fromStdString(TextOf(12, "", "    "));
+    CellText text;
+    QStringList words;
+    for (const char *body : bodies) {
+        words << QString::fromLatin1(body);
+        text.entries.push_back({words.back(), {}});
+    }
     for (const QPolygonF &outline : CellOutlines(ChartStyle::North)) {
-        const CellFitter fitter(ReadCellText(words, CellFlow::Words, lagnaNames), EdgesOf(outline), font);
+        const CellFitter fitter(text, EdgesOf(outline), font);
         QStringList placed;
         QPointF last(0, -1);
         for (const PlacedRun &run : fitter.Place(fitter.LargestSize(0)).runs) {
@@ -140,51 +141,54 @@ void ChartViewTest::FlowKeepsEveryWordInOrder() {
             last = run.baseline;
             placed << run.text;
         }
-        QCOMPARE(placed, words.split(QStringLiteral("    ")));
+        QCOMPARE(placed, words);
     }
 }
 
 void ChartViewTest::TextKeepsInsideItsCell_data() {
     QTest::addColumn<int>("style");
     QTest::addColumn<QString>("figure");
-    QTest::addColumn<QString>("divider");
+    QTest::addColumn<bool>("breaksLines");
     const struct {
         const char *name;
         ChartStyle style;
-        const char *figure, *divider;
+        const char *figure;
+        bool breaksLines;
     } rows[] = {
-        {"South Rasi", ChartStyle::South, "  29.60", "\r\n"},
-        {"South Navamsa", ChartStyle::South, "  ", "\r\n"},
-        {"East Rasi", ChartStyle::East, "", "    "},
-        {"East Navamsa", ChartStyle::East, "  ", "\r\n"},
-        {"North", ChartStyle::North, "  ", ""},
-        {"North, one below the other", ChartStyle::North, "", "\r\n"},
+        {"South Rasi", ChartStyle::South, "29.60", true},
+        {"South Navamsa", ChartStyle::South, "", true},
+        {"East Rasi", ChartStyle::East, "", false},
+        {"East Navamsa", ChartStyle::East, "", true},
+        {"North", ChartStyle::North, "", false},
+        {"North, one below the other", ChartStyle::North, "", true},
     };
     for (const auto &row : rows) {
-        QTest::newRow(row.name) << static_cast<int>(row.style) << row.figure << row.divider;
+        QTest::newRow(row.name) << static_cast<int>(row.style) << row.figure << row.breaksLines;
     }
 }
 
 void ChartViewTest::TextKeepsInsideItsCell() {
     QFETCH(int, style);
     QFETCH(QString, figure);
-    QFETCH(QString, divider);
-    CellTexts numbers;
-    for (std::size_t index = 0; index < numbers.size(); ++index) {
-        numbers.at(index) = std::to_string(12 - index);
+    QFETCH(bool, breaksLines);
+    const StyleOfChart &drawing = chartStyles.at(static_cast<std::size_t>(style));
+    ChartForm form;
+    form.VisibleFrame = drawing.style;
+    form.breaksLines = breaksLines;
+    for (std::size_t index = 0; index < form.Lab_NHouseNo.size(); ++index) {
+        form.Lab_NHouseNo.at(index) = std::to_string(12 - index);
     }
     for (const std::size_t count : {1U, 4U, 8U, 12U}) {
-        CellTexts cells;
-        cells.fill(TextOf(count, figure.toStdString(), divider.toStdString()));
-        ChartFrame frame(static_cast<ChartStyle>(style), QStringLiteral("Cell"), 1, nullptr);
-        frame.SetNames({lagnaNames, {}});
-        frame.SetCells(cells, numbers);
+        form.bodies.fill(BodiesOf(count, figure.toStdString()));
+        ChartFrame frame(drawing, QStringLiteral("Cell"), nullptr);
+        frame.SetCells(form, {});
         for (const QSize size : {QSize(200, 230), QSize(331, 300), QSize(1090, 740), QSize(2000, 2000)}) {
             frame.resize(size);
             frame.grab(QRect(0, 0, 1, 1)); // a hidden widget hears of its size when it is drawn
-            for (std::size_t cell = 0; cell < cells.size(); ++cell) {
+            for (std::size_t cell = 0; cell < form.bodies.size(); ++cell) {
                 const auto edges = EdgesOf(frame.CellOutline(cell));
-                const auto ink = InkOf(*frame.findChild<QWidget *>(QStringLiteral("Cell_%1").arg(cell + 1)));
+                const auto ink = InkOf(*frame.findChild<QWidget *>(
+                    QStringLiteral("Cell_%1").arg(static_cast<int>(cell) + drawing.firstIndex)));
                 const double clearance = ClearanceOf(ink, edges);
                 const QByteArray place = QStringLiteral("%1 bodies, cell %2, width %3: %4")
                                              .arg(count)
@@ -207,11 +211,13 @@ void ChartViewTest::TextKeepsInsideItsCell() {
 
 void ChartViewTest::OnlyAFullCellShrinksAlone() {
     const auto heightOfInk = [](std::size_t bodiesBeside) {
-        CellTexts cells;
-        cells.at(0) = "Ket  12.5";
-        cells.at(1) = TextOf(bodiesBeside, "  29.60", "\r\n");
-        ChartFrame frame(ChartStyle::South, QStringLiteral("Cell"), 0, nullptr);
-        frame.SetCells(cells, {});
+        ChartForm form;
+        form.VisibleFrame = ChartStyle::South;
+        form.breaksLines = true;
+        form.bodies.at(0) = {{Body::Ketu, "Ket", "12.5"}};
+        form.bodies.at(1) = BodiesOf(bodiesBeside, "29.60");
+        ChartFrame frame(chartStyles.front(), QStringLiteral("Cell"), nullptr);
+        frame.SetCells(form, {});
         frame.resize(700, 700);
         frame.grab(QRect(0, 0, 1, 1));
         const auto ink = InkOf(*frame.findChild<QWidget *>(QStringLiteral("Cell_0")));

@@ -173,12 +173,13 @@ ordered_json StateJson(const HoroscopeState &state) {
 
 const std::array<std::string, 12> &VisibleCells(const ChartForm &form) {
     // No frame is visible before the first fill; then the cells of every style are empty.
-    switch (form.VisibleFrame.value_or(ChartStyle::South)) {
+    switch (form.VisibleFrame) {
     case ChartStyle::East:
         return form.East;
     case ChartStyle::North:
         return form.North;
     case ChartStyle::South:
+    case ChartStyle::Unknown:
         break;
     }
     return form.South;
