@@ -24,8 +24,9 @@ subjects=(
 echo "== Benchmarks"
 build/benchmarks/kelvaro_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true \
     --benchmark_format=csv >build/benchmarks/figures.csv
+# Processor time, which other programs at work do not lengthen.
 declare -A figures
-while IFS=, read -r name _ time _ unit _; do
+while IFS=, read -r name _ _ time unit _; do
     name=${name//\"/}
     if [[ $name == *_median ]]; then
         figures[${name%_median}]=$(printf '%.1f %s' "$time" "$unit")
@@ -50,7 +51,7 @@ table+="| Start of a bare Qt window, in turns with it | $bare ms |"$'\n'
 table+="| The one by the other | $(awk "BEGIN { printf \"%.2f\", $start / $bare }") |"$'\n'
 
 {
-    printf '# Benchmarks\n\nWritten by `scripts/benchmarks.sh`: medians, on %s processors.\n\n' "$(nproc)"
+    printf '# Benchmarks\n\nWritten by `scripts/benchmarks.sh`: medians of processor time, of the start on the clock; %s processors.\n\n' "$(nproc)"
     printf '| What | Time |\n|---|---|\n%s' "$table"
 } >docs/benchmarks.md
 cat docs/benchmarks.md

@@ -42,12 +42,6 @@ json SampleWith(const json &changes) {
     return birth;
 }
 
-std::string SampleWithout(const char *key) {
-    json birth = Sample();
-    birth.erase(key);
-    return birth.dump();
-}
-
 /// The answers, line by line, to a stream given byte for byte. A line without an end does not hold up the
 /// tests.
 std::vector<std::string> AnswerLines(const std::string &births, const std::string &options = "") {
@@ -109,6 +103,11 @@ TEST(HoroscopeJson, RefusesBadLinesAndGoesOn) {
         std::string line;
         const char *cause;
     };
+    const auto without = [](const char *key) {
+        json birth = Sample();
+        birth.erase(key);
+        return birth.dump();
+    };
     const auto with = [](const char *key, const json &value) { return SampleWith({{key, value}}).dump(); };
     const std::vector<BadLine> badLines{
         {"", "empty"},
@@ -119,9 +118,9 @@ TEST(HoroscopeJson, RefusesBadLinesAndGoesOn) {
         {std::string(100000, '['), "no JSON"},
         {R"({"LatDeg": 1e999})", "no JSON"},
         {R"(["BirthDay", 14])", "no JSON object"},
-        {SampleWithout("BirthDay"), "BirthDay is missing"},
-        {SampleWithout("LatNS"), "LatNS is missing"},
-        {SampleWithout("TimeDiff"), "TimeDiff is missing"},
+        {without("BirthDay"), "BirthDay is missing"},
+        {without("LatNS"), "LatNS is missing"},
+        {without("TimeDiff"), "TimeDiff is missing"},
         {with("ChartName", 5), "ChartName must be a text"},
         {with("Ayanamsa", nullptr), "Ayanamsa must be a text"},
         {with("BirthDay", 0), "BirthDay must be a whole number from 1 to 31"},
