@@ -2,6 +2,7 @@
 
 #include "horoscope/Horoscope.h"
 #include "horoscope/NoDisplay.h"
+#include "store/database/Connection.h"
 
 namespace kelvaro {
 

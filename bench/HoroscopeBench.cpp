@@ -1,5 +1,6 @@
 #include "bench/HeadlessHoroscope.h"
 #include "horoscope/CalculateHoroscope.h"
+#include "horoscope/Calculators.h"
 
 #include <benchmark/benchmark.h>
 
@@ -12,12 +13,12 @@ void BM_LunarDates(benchmark::State &state) {
     HeadlessHoroscope headless;
     Horoscope &horoscope = headless.horoscope;
     CalculateHoroscope(horoscope);
-    LunarCalendar &calendar = horoscope.calculators.lunarCalendar;
+    LunarCalendar &calendar = horoscope.calculators->lunarCalendar;
     int days = 0;
     for ([[maybe_unused]] auto _ : state) {
         const Moment birth =
             DateAdd(Interval::Day, ++days % 10000, horoscope.state.positions.BirthMomentDate);
-        TithiSearch search(horoscope.calculators.calendarPosition, horoscope.state.site,
+        TithiSearch search(horoscope.calculators->calendarPosition, horoscope.state.site,
                            horoscope.state.preferences.InForce(), birth);
         calendar.LunarDateKrishnadi(search, "");
         calendar.LunarDateSukladi(search, "");

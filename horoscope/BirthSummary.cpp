@@ -1,6 +1,7 @@
 #include "horoscope/BirthSummary.h"
 
 #include "horoscope/BirthTimes.h"
+#include "horoscope/Calculators.h"
 #include "horoscope/Horoscope.h"
 #include "presentation/AngleText.h"
 #include "runtime/MomentText.h"
@@ -66,7 +67,7 @@ void FillPlace(const HoroscopeState &state, UserDetailsForm &form) {
 /// The Vedic day begins at sunrise.
 void FillDay(Horoscope &horoscope, UserDetailsForm &form) {
     const Moment moment = horoscope.state.ghati.SummaryMoment;
-    const SunTimes::Day day = horoscope.calculators.sunTimes.SunTimesOf(moment, horoscope.state.site);
+    const SunTimes::Day day = horoscope.calculators->sunTimes.SunTimesOf(moment, horoscope.state.site);
     form.txtSunRise = ClockText(day.sunrise);
     form.txtSunSet = ClockText(day.sunset);
     form.txtGregorian = WeekdayName(WeekdayOf(moment));
@@ -79,7 +80,7 @@ std::string LunarDateText(const LunarDate &date) {
 }
 
 void FillCalendars(Horoscope &horoscope, UserDetailsForm &form) {
-    Calculators &calculators = horoscope.calculators;
+    Calculators &calculators = *horoscope.calculators;
     const HoroscopeState &state = horoscope.state;
     TithiSearch search(calculators.calendarPosition, state.site, state.preferences.InForce(),
                        state.ghati.SummaryMoment);
@@ -98,7 +99,7 @@ void FillCalendars(Horoscope &horoscope, UserDetailsForm &form) {
 
 void FillAlmanac(Horoscope &horoscope, UserDetailsForm &form) {
     const HoroscopeState &state = horoscope.state;
-    Calculators &calculators = horoscope.calculators;
+    Calculators &calculators = *horoscope.calculators;
     form.txtLagna = state.names.RasiNames.at(static_cast<std::size_t>(state.positions.LagnaRasi - 1));
 
     calculators.star.PlanetPosition = state.positions.MoonLon;
@@ -131,7 +132,7 @@ void FillBirthSummary(Horoscope &horoscope) {
     const Moment moment = state.positions.BirthMomentDate;
     FillPerson(state, form);
     form.txtist = MonthNameMomentText(moment);
-    state.ghati = ComputeLocalMeanTime(moment, state.site, horoscope.calculators.sunTimes);
+    state.ghati = ComputeLocalMeanTime(moment, state.site, horoscope.calculators->sunTimes);
     form.txtlmt = MonthNameMomentText(state.ghati.LocalMeanTimeMoment);
     form.txtgmt = MonthNameMomentText(GreenwichMoment(moment, state.site));
     form.txtIshtaGhati = ComputeIshtaGhati(state.ghati);

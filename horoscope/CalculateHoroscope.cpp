@@ -2,6 +2,7 @@
 
 #include "horoscope/BirthSummary.h"
 #include "horoscope/Horoscope.h"
+#include "horoscope/StatusDisplay.h"
 #include "horoscope/Steps.h"
 #include "panchanga/Sign.h"
 

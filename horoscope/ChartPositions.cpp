@@ -1,6 +1,6 @@
 #include "horoscope/ChartPositions.h"
 
-#include "horoscope/Horoscope.h"
+#include "horoscope/Calculators.h"
 #include "panchanga/Sign.h"
 #include "runtime/MomentText.h"
 

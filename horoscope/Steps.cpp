@@ -6,9 +6,11 @@
 #include "analysis/DasaForms.h"
 #include "analysis/PlanetTable.h"
 #include "analysis/Vargas.h"
+#include "horoscope/Calculators.h"
 #include "horoscope/ChartPositions.h"
 #include "horoscope/Horoscope.h"
 #include "horoscope/NamesForLanguage.h"
+#include "horoscope/StatusDisplay.h"
 #include "panchanga/Sign.h"
 #include "presentation/ChartCells.h"
 #include "presentation/ChartStyles.h"
@@ -37,7 +39,7 @@ void LoadHoroscopeForms(Horoscope &horoscope) {
 void ComputeChartPositions(Horoscope &horoscope, double division) {
     HoroscopeState &state = horoscope.state;
     const PositionPass pass =
-        FindPositions(state.birth, state.site, state.preferences, division, horoscope.calculators);
+        FindPositions(state.birth, state.site, state.preferences, division, *horoscope.calculators);
     state.positions = pass.positions;
     state.day = pass.day;
 }
@@ -60,7 +62,7 @@ void FillNavamsaChart(Horoscope &horoscope) {
 
 void FillAshtakavarga(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
-    state.moonStar = MoonStarOf(state.positions.MoonLon, horoscope.calculators.star);
+    state.moonStar = MoonStarOf(state.positions.MoonLon, horoscope.calculators->star);
     horoscope.forms.Frm_AVargas.mshAshtaVarga =
         AshtakavargaGrid(state.positions, state.names, PreferredLanguage(state));
 }
@@ -72,12 +74,12 @@ void FillBhava(Horoscope &horoscope) {
     ComputeChartPositions(horoscope, rasiSize);
     state.houses = HousesOf(state.positions, HouseSystemOf(state.preferences.BhavaSystem), state.names);
     FillBhavaChart(state.houses, state.names, PreferredStyle(state), horoscope.forms);
-    horoscope.forms.frm_CBhava = BhavaTables(state.houses, state.names, horoscope.calculators.star);
+    horoscope.forms.frm_CBhava = BhavaTables(state.houses, state.names, horoscope.calculators->star);
 }
 
 void FillPlanetPositions(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
-    Calculators &calculators = horoscope.calculators;
+    Calculators &calculators = *horoscope.calculators;
     LoadNamesForLanguage(horoscope);
     ComputeChartPositions(horoscope, rasiSize);
     calculators.position.FindFixValuesAt(DateAdd(Interval::Day, 1, state.positions.BirthMomentDate),
@@ -103,7 +105,7 @@ void FillVargas(Horoscope &horoscope) {
 
 void FillDasa(Horoscope &horoscope) {
     HoroscopeState &state = horoscope.state;
-    Calculators &calculators = horoscope.calculators;
+    Calculators &calculators = *horoscope.calculators;
     const Moment birth = state.positions.BirthMomentDate;
     calculators.position.FindFixValuesAt(birth, state.site, state.preferences.InForce());
     state.positions.MoonLon = calculators.position.FnFindMoonPosition();
