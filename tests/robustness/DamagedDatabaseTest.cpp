@@ -172,15 +172,11 @@ protected:
 
 std::unique_ptr<store::TemporaryFolder> DamagedDatabaseTest::folder_;
 
-TEST_F(DamagedDatabaseTest, SoundOneIsUsedInEveryWay) {
-    EXPECT_EQ(RefusedAfter(""), std::set<std::string>{});
-}
-
 TEST_F(DamagedDatabaseTest, NoneIsOpenedWithoutAllItsTables) {
+    EXPECT_EQ(RefusedAfter(""), std::set<std::string>{}) << "the sound one";
     std::string before;
     for (const auto &[table, column] : ColumnsOf(Sound())) {
         if (table != std::exchange(before, table)) {
-            EXPECT_EQ(RefusedAfter("drop table " + table).size(), uses.size()) << table;
             EXPECT_EQ(RefusedAfter("alter table " + table + " rename to Kept; create view " + table +
                                    " as select * from Kept")
                           .size(),
@@ -226,7 +222,7 @@ TEST_F(DamagedDatabaseTest, NonsenseInAColumnIsTold) {
         const bool isNeeded = needed != neededColumns.end();
         for (const auto &v : values) {
             // The columns that no use must have take turns with the values.
-            if (!isNeeded && ++count % 4 != 0) {
+            if (!isNeeded && ++count % 8 != 0) {
                 continue;
             }
             const auto refused =
@@ -261,7 +257,7 @@ TEST_F(DamagedDatabaseTest, ATriggerThatRefusesIsTold) {
 TEST_F(DamagedDatabaseTest, BytesOverwrittenAnywhereDoNoHarm) {
     const std::string sound = store::BytesOf(Sound());
     std::minstd_rand random(9); // NOLINT(cert-msc51-cpp): a failure can be repeated
-    for (int round = 0; round < 200; ++round) {
+    for (int round = 0; round < 120; ++round) {
         SCOPED_TRACE(round);
         std::string bytes = sound;
         const std::size_t length = 1 + random() % 64;

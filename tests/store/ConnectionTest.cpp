@@ -83,7 +83,6 @@ TEST_F(StoreTest, AMemoryCopyLeavesTheFileAlone) {
 
     connection_.OpenCopyInMemory(file_);
     EXPECT_EQ(First("select count(*) from City_Master"), "60398");
-    EXPECT_EQ(First("select count(*) from chartsmaster"), "4740");
     EXPECT_EQ(First("select count(*) from tempBhukthi"), "0");
     EXPECT_EQ(First("select CityID from City_Master where CityName = 'HYDERABAD (a.p)'"),
               First("select max(CityID) from City_Master where CityName = 'Hyderabad (A.P)'"));
