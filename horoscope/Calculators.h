@@ -8,6 +8,7 @@
 #include "panchanga/clsTithi.h"
 #include "panchanga/clsYoga.h"
 #include "panchanga/day/clsTimes.h"
+#include "store/tables/VargaTable.h"
 
 namespace kelvaro {
 
@@ -15,7 +16,7 @@ namespace kelvaro {
 /// next.
 struct Calculators {
     /// The connection must outlive the object.
-    explicit Calculators(store::Connection &connection) : yearTable(connection) {}
+    explicit Calculators(store::Connection &connection) : yearTable(connection), vargaTable(connection) {}
 
     ClsFindPlanetPosition position;
     SunTimes sunTimes;
@@ -31,6 +32,7 @@ struct Calculators {
     KaliyugaYears years{yearTable};
     SolarCalendar solarCalendar{sunTimes, years};
     LunarCalendar lunarCalendar{sunTimes, years};
+    store::VargaTable vargaTable;
 };
 
 } // namespace kelvaro

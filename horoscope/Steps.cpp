@@ -15,7 +15,6 @@
 #include "presentation/ChartCells.h"
 #include "presentation/ChartStyles.h"
 #include "store/tables/BhuktiTable.h"
-#include "store/tables/VargaTable.h"
 
 namespace kelvaro {
 
@@ -98,9 +97,8 @@ void RefreshPlanetTable(Horoscope &horoscope) {
 
 void FillVargas(Horoscope &horoscope) {
     const HoroscopeState &state = horoscope.state;
-    store::VargaTable table(horoscope.connection);
     horoscope.forms.Frm_Vargas.mshVargas =
-        VargaGrid(state.positions, state.names, PreferredLanguage(state), table);
+        VargaGrid(state.positions, state.names, PreferredLanguage(state), horoscope.calculators->vargaTable);
 }
 
 void FillDasa(Horoscope &horoscope) {

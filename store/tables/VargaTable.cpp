@@ -1,25 +1,43 @@
 #include "store/tables/VargaTable.h"
 
 #include "runtime/Numbers.h"
+#include "store/database/Dialect.h"
+#include "store/database/Recordset.h"
 
-#include <string>
+#include <algorithm>
 
 namespace kelvaro::store {
 
 std::optional<std::int16_t> VargaTable::HouseNumber(std::string_view chartName, double degreesInRasi,
                                                     std::int16_t rasi) {
-    const std::string degrees = NumberText(degreesInRasi);
-    const std::string statement = "Select Housenumber from chartsmaster where  chartname ='" +
-                                  std::string(chartName) + "'" + "and  startDegree <= " + degrees +
-                                  " and EndDegree >" + degrees + " and RasiHouse =" + std::to_string(rasi);
-    if (row_.IsOpen()) {
-        row_.Close();
-    }
-    row_.Open(statement, connection_);
-    if (row_.IsEndOfFile()) {
+    // Looked up to the fifteen digits that a number has as a text.
+    const double degrees = NumberFromText(NumberText(degreesInRasi));
+    const Bands &bands = BandsOf(std::string(chartName), rasi);
+    const auto band = std::ranges::find_if(
+        bands, [=](const Band &each) { return each.start <= degrees && each.end > degrees; });
+    if (band == bands.end()) {
         return std::nullopt;
     }
-    return ToInt16(row_.Number("HouseNumber"));
+    return ToInt16(NumberFromText(band->house));
+}
+
+const VargaTable::Bands &VargaTable::BandsOf(const std::string &chartName, std::int16_t rasi) {
+    const std::pair key(chartName, rasi);
+    if (const auto known = read_.find(key); known != read_.end()) {
+        return known->second;
+    }
+    Recordset rows;
+    rows.Open("Select startDegree, EndDegree, HouseNumber from chartsmaster where chartname = " +
+                  Quoted(chartName) + " and RasiHouse = " + std::to_string(rasi) +
+                  " order by startDegree, EndDegree, HouseNumber",
+              connection_);
+    Bands bands;
+    for (; !rows.IsEndOfFile(); rows.MoveNext()) {
+        if (!rows.IsNull("startDegree") && !rows.IsNull("EndDegree")) {
+            bands.push_back({rows.Number("startDegree"), rows.Number("EndDegree"), rows.Text("HouseNumber")});
+        }
+    }
+    return read_.emplace(key, std::move(bands)).first->second;
 }
 
 } // namespace kelvaro::store
