@@ -77,7 +77,7 @@ double MiddleOf(double start, double end, std::size_t k) {
 }
 
 /// The middle of house 12. It is the middle of house 1, and not its start, that decides whether 0 degrees
-/// lies between, and that is reckoned with if it does.
+/// lies between, and that is allowed for if it does.
 double LastMiddle(double start, double firstMiddle, double firstStart) {
     return start > firstMiddle ? (start + (firstMiddle + 360)) / 2 : (start + firstStart) / 2;
 }

@@ -20,7 +20,7 @@ struct NamedScheme {
 };
 
 /// The scheme from the Moon's longitude (degrees, 0 to 360) at birth. `daysInYear` is the year of dasas and
-/// antras. Each list is a reckoning of its own that starts at birth, and each of its periods starts where the
+/// antras. Each list is computed on its own and starts at birth, and each of its periods starts where the
 /// one before it ended. Raises OverflowError where a period leaves the years 100 to 9999.
 NamedScheme FindNamedScheme(double moonLongitude, Moment birth, double daysInYear, const Names &names,
                             clsStar &stars);

@@ -45,7 +45,7 @@ const Lord &LordAt(std::size_t place) {
     return lords.at(place % lords.size());
 }
 
-void ReckonDasas(VimshottariDasa &scheme, std::size_t firstPlace, Moment birth, double daysInYear) {
+void ComputeDasas(VimshottariDasa &scheme, std::size_t firstPlace, Moment birth, double daysInYear) {
     Moment end = PlusDays(birth, scheme.balance * daysInYear);
     for (std::size_t dasa = 0; dasa < scheme.DasaLord.size(); ++dasa) {
         const Lord &lord = LordAt(firstPlace + dasa);
@@ -66,7 +66,7 @@ Moment EndOfBhukti(Moment start, const Lord &dasaLord, const Lord &subLord) {
     return DateAdd(Interval::Year, length.years, end);
 }
 
-void ReckonBhuktis(VimshottariDasa &scheme, std::size_t firstPlace) {
+void ComputeBhuktis(VimshottariDasa &scheme, std::size_t firstPlace) {
     Moment end = DateAdd(Interval::Year, -LordAt(firstPlace).years, scheme.DasaEnd.front());
     for (std::size_t i = 0; i < scheme.BhuktiLord.size(); ++i) {
         const std::size_t dasaPlace = firstPlace + i / 9;
@@ -77,7 +77,7 @@ void ReckonBhuktis(VimshottariDasa &scheme, std::size_t firstPlace) {
     }
 }
 
-void ReckonAntras(VimshottariDasa &scheme, std::size_t firstPlace, Moment birth, double daysInYear) {
+void ComputeAntras(VimshottariDasa &scheme, std::size_t firstPlace, Moment birth, double daysInYear) {
     Moment end = birth;
     for (std::size_t i = 0; i < scheme.AntraLord.size(); ++i) {
         const std::size_t dasaPlace = firstPlace + i / 81;
@@ -122,9 +122,9 @@ VimshottariDasa FindVimshottariDasa(std::string_view firstLord, int minutesLeft,
     const std::size_t firstPlace = PlaceOf(firstLord);
     VimshottariDasa scheme;
     scheme.balance = static_cast<double>(LordAt(firstPlace).years * minutesLeft) / minutesInStar;
-    ReckonDasas(scheme, firstPlace, birth, daysInYear);
-    ReckonBhuktis(scheme, firstPlace);
-    ReckonAntras(scheme, firstPlace, birth, daysInYear);
+    ComputeDasas(scheme, firstPlace, birth, daysInYear);
+    ComputeBhuktis(scheme, firstPlace);
+    ComputeAntras(scheme, firstPlace, birth, daysInYear);
     return scheme;
 }
 

@@ -31,7 +31,7 @@ struct YearsMonthsDays {
 
 YearsMonthsDays DivideYears(double years);
 
-/// The 120 years of the Vimshottari scheme on three levels, each a reckoning of its own.
+/// The 120 years of the Vimshottari scheme on three levels, each computed on its own.
 ///
 /// A period starts where the one before it ended; the lists tell the ends. The nine dasas and the 729 antras
 /// start at birth. The 81 bhuktis start with the first dasa, before birth. The lists of bhuktis and antras
@@ -47,7 +47,7 @@ struct VimshottariDasa {
     std::array<Moment, 729> AntraEnd;
 };
 
-/// Reckons the scheme from the lord of the Moon's star and the minutes of arc that the Moon has left in it.
+/// Computes the scheme from the lord of the Moon's star and the minutes of arc that the Moon has left in it.
 /// `daysInYear` is the length of a year in dasas and antras; bhuktis run by calendar years, months and days.
 /// Raises ConversionError for a name that is no lord's and OverflowError where a period leaves the years 100
 /// to 9999.

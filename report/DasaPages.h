@@ -6,7 +6,7 @@
 namespace kelvaro {
 
 // Periods stand two in a line, to be read line by line, in one block for each dasa or bhukti. A block is
-// not parted by a page's end; pages are added as blocks need them.
+// not broken by a page's end; pages are added as blocks need them.
 
 /// The bhuktis of the nine dasas, which all fit on one page.
 void AddBhuktiPages(const DasaForm &form, ReportPages &pages);

@@ -10,7 +10,7 @@ namespace kelvaro {
 
 enum class AntraSection { Without, With };
 
-/// The whole horoscope as a report in plain text: pages parted by form feeds, lines of up to `pageWidth`
+/// The whole horoscope as a report in plain text: pages separated by form feeds, lines of up to `pageWidth`
 /// characters, each ended by CR LF.
 ///
 /// Page 1 is the title page with the owner's letterhead, page 2 has the Rasi and the Navamsa chart, page 3

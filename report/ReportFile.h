@@ -15,7 +15,7 @@ public:
     using RuntimeError::RuntimeError;
 };
 
-/// The pages of a report, parted at the form feeds, which belong to none; an empty text has no pages. They
+/// The pages of a report, split at the form feeds, which belong to none; an empty text has no pages. They
 /// are views into the text.
 std::vector<std::string_view> PagesOf(std::string_view text);
 

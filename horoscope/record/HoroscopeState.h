@@ -49,7 +49,7 @@ struct BirthDetails {
 /// Where the sample chart was born.
 inline const Site sampleSite{17, 20, "N", 78, 30, "E", 5.5, "E"};
 
-/// The birth in the reckoning of ghatis since sunrise.
+/// The birth in ghatis since sunrise.
 struct GhatiTimes {
     Moment SummaryMoment;
     Moment LocalMeanTimeMoment;

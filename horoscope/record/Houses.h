@@ -31,7 +31,7 @@ struct Houses {
     std::array<double, 12> BhavaStart{}, BhavaMid{}, BhavaSandhi{};
     std::array<std::int16_t, 12> BhavaRasi{};
     std::array<std::vector<Body>, 12> bodies;
-    std::array<std::string, 12> BhavaPlanets; ///< short names of the bodies, parted by a blank
+    std::array<std::string, 12> BhavaPlanets; ///< short names of the bodies, separated by a blank
 };
 
 } // namespace kelvaro

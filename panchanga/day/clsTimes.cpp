@@ -153,7 +153,7 @@ void SetPeriods(clsTimes &times, const BoundaryTables &tables, int weekday) {
     }
 }
 
-/// Three lists that grow side by side, their entries parted by "~".
+/// Three lists that grow side by side, their entries separated by "~".
 struct PeriodLists {
     std::string names, starts, ends;
 

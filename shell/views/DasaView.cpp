@@ -156,7 +156,7 @@ void DasaView::ChooseToday() {
     if (bhukti < mshBukti_->Rows().rowCount()) {
         mshBukti_->selectRow(bhukti);
     }
-    // The antras are a reckoning of their own: today's may belong to another bhukti than today's bhukti.
+    // The antras are computed on their own: today's may belong to another bhukti than today's bhukti.
     if (const auto antra = PeriodAt(form_.antras, today_)) {
         sections_->setCurrentIndex(SectionOf(form_.antras.at(*antra)));
         mshAntra_->selectRow(mshAntra_->Rows().MarkedRow());
