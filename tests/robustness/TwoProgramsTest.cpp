@@ -86,19 +86,5 @@ TEST_F(TwoProgramsTest, KeepAllThatBothSaved) {
     EXPECT_EQ(First("select count(*) from ChartSave"), std::to_string(2 * rounds));
 }
 
-TEST_F(TwoProgramsTest, AChartThatTheOtherDeletedIsToldAndNotMadeAgain) {
-    BirthFields fields = entered_;
-    Save(fields);
-    store::Connection other;
-    other.Open(file_);
-    OpenedBirth opened = OpenBirth({"Velnesh~4-Jul-1965", 1}, other, horoscope_.state);
-    DeleteBirth(opened.fields, other);
-    EXPECT_NE(store::ErrorOf([&] { Save(fields); }).find("no longer"), std::string::npos);
-    EXPECT_EQ(First("select count(*) from ChartSave"), "0");
-    fields.txt_VC_UserId = 0;
-    Save(fields);
-    EXPECT_EQ(fields.txt_VC_UserId, 2) << "the number of a deleted chart is never given again";
-}
-
 } // namespace
 } // namespace kelvaro

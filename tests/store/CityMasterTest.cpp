@@ -102,10 +102,10 @@ TEST_F(CityMasterTest, ShowsTheFirstCityOfThatNameOfAnyCountry) {
     master_.Show("Hyderabad (A.P)", fields);
     const CityFields hyderabad{3, 0, "Hyderabad (A.P)", "17", "20", "N", "78", "30", "E"};
     EXPECT_EQ(fields, hyderabad);
-    EXPECT_THROW(master_.Show("L'Aquila", fields), StoreError);
+    EXPECT_TRUE(RefusesQuote([&] { master_.Show("L'Aquila", fields); }));
     EXPECT_EQ(fields, hyderabad);
     fields.city = "L'Aquila";
-    EXPECT_THROW(master_.Add(fields), StoreError);
+    EXPECT_TRUE(RefusesQuote([&] { master_.Add(fields); }));
 }
 
 TEST_F(CityMasterTest, FindsTheFirstRowThatBeginsSo) {

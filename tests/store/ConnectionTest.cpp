@@ -129,6 +129,18 @@ TEST_F(StoreTest, AWriteProtectedDatabaseIsReadAndRefusesTheFirstWrite) {
     }
 }
 
+TEST_F(StoreTest, AFullDiskUndoesTheChangeAndIsTold) {
+    First("pragma max_page_count = 1"); // no page more than there are
+    const std::string tooLong = "update TimeZone set Place = hex(zeroblob(100000)) where SNo = ";
+    {
+        Transaction transaction(connection_);
+        connection_.Execute(addZone);
+        EXPECT_EQ(ErrorOf([&] { connection_.Execute(tooLong + "1"); }),
+                  "There is no room left to store in " + file_.string() + ".");
+    }
+    EXPECT_EQ(First(zoneCount), "375");
+}
+
 TEST_F(StoreTest, EveryUseOfAClosedConnectionRaises) {
     connection_.Close();
     connection_.Close();

@@ -1,12 +1,86 @@
+#include "astronomy/theory/AngleReduction.h"
+#include "astronomy/theory/DayNumber.h"
 #include "astronomy/theory/PlanetTerms.h"
+#include "runtime/RuntimeError.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
 #include <cmath>
+#include <limits>
 
 namespace kelvaro {
 namespace {
+
+TEST(AngleReduction, KeepsBothEndsOfTheCircle) {
+    const struct {
+        double angle, normalized, reduced;
+    } cases[] = {{0, 0, 0},       {360, 360, 0},     {-720, 0, 0},
+                 {720, 360, 0},   {360.5, 0.5, 0.5}, {-90.25, 269.75, -90.25},
+                 {-370, 350, -10}};
+    for (const auto &c : cases) {
+        EXPECT_EQ(FnNormalize360(c.angle), c.normalized) << c.angle;
+        EXPECT_EQ(FnReduceDegrees(c.angle), c.reduced) << c.angle;
+    }
+    EXPECT_EQ(NormalizeRadians(6.283185308), 6.283185308) << "the literal circle is not taken off";
+    EXPECT_EQ(FnReduceRadians(6.283185308), 0);
+    EXPECT_NEAR(FnReduceRadians(-1), 5.283185308, 1e-12);
+}
+
+TEST(AngleReduction, RaisesWhereCirclesWouldBeTakenOffWithoutEnd) {
+    for (const double angle :
+         {1e300, -1e300, std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN()}) {
+        EXPECT_THROW(FnNormalize360(angle), ArithmeticError) << angle;
+        EXPECT_THROW(NormalizeRadians(angle), ArithmeticError) << angle;
+    }
+}
+
+TEST(AngleReduction, FindsArcsInTheirQuadrants) {
+    const struct {
+        double y, x, degrees;
+    } cases[] = {{0, 1, 0},     {1, 1, 45},   {1, 0, 90},   {1, -1, 135}, {0, -1, 180},
+                 {-1, -1, 225}, {-1, 0, 270}, {-1, 1, 315}, {0, 0, 0}};
+    for (const auto &c : cases) {
+        EXPECT_NEAR(FnArcTan2(c.y, c.x) * 180 / pi, c.degrees, 1e-9) << c.y << " / " << c.x;
+    }
+    EXPECT_NEAR(FnArcSin(0.5), pi / 6, 1e-12);
+    EXPECT_NEAR(FnArcSin(-0.5), -pi / 6, 1e-12);
+}
+
+TEST(DayNumber, AgreesWithTheJulianDay) {
+    const struct {
+        double year, month, day;
+        double julianDay; ///< at 0 hours, by the Swiss Ephemeris
+    } cases[] = {
+        {1900, 1, 1, 2415020.5},
+        {1899, 12, 31, 2415019.5},
+        {1800, 1, 1, 2378496.5},
+        {1800, 3, 1, 2378555.5},
+        {2000, 2, 29, 2451603.5},
+        {3000, 12, 31, 2817151.5},
+        {1000, 2, 29, 2086366.5},
+        {1, 1, 1, 1721423.5},
+        {1582, 10, 4, 2299159.5},
+        {1582, 10, 15, 2299160.5},
+        {1582, 12, 31, 2299237.5},
+        {1583, 3, 1, 2299297.5},
+        // The ten dates that the reform left out are Gregorian ones.
+        {1582, 10, 5, 2299150.5},
+        {1582, 10, 10, 2299155.5},
+        // The first two months of 1583 belong to the year of the reform and are still Julian.
+        {1583, 1, 31, 2299278.5},
+        {1583, 2, 1, 2299279.5},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(DayNumberOf(c.year, c.month, c.day), c.julianDay - 2415020)
+            << c.year << '-' << c.month << '-' << c.day;
+    }
+}
+
+TEST(DayNumber, KnowsNoYearZeroAndNoYearBeyond16Bits) {
+    EXPECT_FALSE(DayNumberOf(0, 1, 1).has_value());
+    EXPECT_THROW(DayNumberOf(32768, 1, 1), OverflowError);
+}
 
 struct Time {
     double T, eccentricity;
