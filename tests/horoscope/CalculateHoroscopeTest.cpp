@@ -4,6 +4,9 @@
 #include "runtime/MomentText.h"
 #include "tests/horoscope/HoroscopeFixture.h"
 
+#include <cmath>
+#include <utility>
+
 namespace kelvaro {
 namespace {
 
@@ -116,17 +119,22 @@ TEST_F(CalculateHoroscopeTest, DayOfBirthHoldsAlsoBeforeTheOriginOfMoments) {
     }
 }
 
-TEST_F(CalculateHoroscopeTest, NamesFollowTheLanguageAndOutliveAnUnknownOne) {
-    horoscope.state.preferences.Language = "Sanskrit";
-    CalculateHoroscope(horoscope);
-    EXPECT_EQ(ShortNameOf(horoscope.state.names, Body::Venus), "Suk");
-    EXPECT_EQ(LongNameOf(horoscope.state.names, Body::Venus), "Sukra");
-    EXPECT_EQ(LongNameOf(horoscope.state.names, Body::Jupiter), "Guru");
-    EXPECT_EQ(horoscope.state.names.LongNames.at(5), "Sukra");
-    EXPECT_EQ(horoscope.state.names.ShortNames.at(5), "Gur");
-    horoscope.state.preferences.Language = "Latin";
-    CalculateHoroscope(horoscope);
-    EXPECT_EQ(horoscope.state.names.RasiNames.at(1), "Rishaba");
+// The settings may hold such a place.
+TEST_F(CalculateHoroscopeTest, PlacesFromOutsideTheWorldAreComputedOrRefusedInWords) {
+    for (const auto field : {&Site::LatDeg, &Site::LatMin, &Site::LonDeg, &Site::LonMin, &Site::TimeDiff}) {
+        for (const double number : {1e308, -1e308, 1e15, -1e9, 91.0, -91.0, 4e-324, 8760000.0}) {
+            horoscope.state.site.*field = number;
+            CalculateHoroscope(horoscope);
+            if (std::exchange(display.failure, "").empty()) {
+                EXPECT_TRUE(std::isfinite(horoscope.state.positions.LagnaLon)) << number;
+                EXPECT_TRUE(std::isfinite(horoscope.state.positions.MoonLon)) << number;
+                EXPECT_TRUE(std::isfinite(horoscope.state.day.MandiMoment.Serial())) << number;
+            }
+            horoscope.state.site = sampleSite;
+            CalculateHoroscope(horoscope);
+            EXPECT_EQ(display.failure, "") << "the next chart is computed, after " << number;
+        }
+    }
 }
 
 TEST(RasiOfLongitudeTest, CountsPartsThroughTheCircle) {

@@ -104,12 +104,5 @@ TEST_F(PreferencesEntryTest, TextsThatAreNoChoiceAreRefused) {
     EXPECT_EQ(Stored().clsChart_Type, "South");
 }
 
-TEST_F(PreferencesEntryTest, MissingRowIsAnError) {
-    connection.Execute("delete from Preference");
-    EXPECT_THROW(Stored(), store::StoreError);
-    store::OnLoadClass preferences;
-    EXPECT_THROW(preferences.Store(connection), store::StoreError);
-}
-
 } // namespace
 } // namespace kelvaro
