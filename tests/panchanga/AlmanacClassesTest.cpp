@@ -62,15 +62,6 @@ TEST(clsKarnam, HalvesTheTithi) {
     EXPECT_EQ(karnam.TithiNumber, 30);
 }
 
-TEST(clsKarnam, HalvesATithiBeforeTheOriginOfDates) {
-    clsKarnam karnam;
-    karnam.TithiNo = "1";
-    karnam.TithiStart = MomentOf({1850, 1, 1}, {18, 0, 0});
-    karnam.TithiEnd = MomentOf({1850, 1, 2}, {18, 0, 0});
-    karnam.FindKarnam();
-    EXPECT_EQ(Split(karnam.KarnamEnd1), (CivilMoment{{1850, 1, 2}, {6, 0, 0}}));
-}
-
 TEST(ClsVishaGhati, SpansLieInTheirStars) {
     ClsVishaGhati visha;
     visha.dispVishaghati();

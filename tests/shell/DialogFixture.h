@@ -13,7 +13,7 @@
 
 namespace kelvaro {
 
-/// A folder of one test with a copy of the seed database that can be written to.
+/// A folder of one test with a copy of the seed database that can be written to, and room for settings.
 struct SeedFolder {
     SeedFolder() {
         std::filesystem::copy_file(KELVARO_SEED_DATABASE, file);

@@ -1,12 +1,8 @@
 #pragma once
 
 #include "shell/window/MDILight.h"
-#include "store/database/DatabaseFile.h"
+#include "tests/shell/DialogFixture.h"
 
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <filesystem>
 #include <memory>
 
 namespace kelvaro {
@@ -16,9 +12,7 @@ class MainWindowCase : public QObject {
 protected:
     void MakeFolder() {
         window_.reset();
-        folder_ = std::make_unique<QTemporaryDir>();
-        std::filesystem::copy_file(KELVARO_SEED_DATABASE, DatabaseFile());
-        std::filesystem::permissions(DatabaseFile(), std::filesystem::perms(0644));
+        folder_ = std::make_unique<SeedFolder>();
     }
 
     /// Shows a window, anew where there is one.
@@ -30,15 +24,15 @@ protected:
 
     void Start() { window_->Start(Folder(), Folder() / "user"); }
 
-    std::filesystem::path Folder() const { return folder_->path().toStdString(); }
-    std::filesystem::path DatabaseFile() const { return Folder() / store::databaseFileName; }
-    QString SettingsFile() const { return folder_->filePath(QStringLiteral("settings.ini")); }
+    std::filesystem::path Folder() const { return folder_->path; }
+    std::filesystem::path DatabaseFile() const { return folder_->file; }
+    QString SettingsFile() const { return folder_->settings; }
 
     template <class Part = QWidget> Part *Find(const char *name) const {
         return window_->findChild<Part *>(QString::fromLatin1(name));
     }
 
-    std::unique_ptr<QTemporaryDir> folder_;
+    std::unique_ptr<SeedFolder> folder_;
     std::unique_ptr<MDILight> window_;
 };
 

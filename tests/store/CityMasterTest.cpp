@@ -108,13 +108,5 @@ TEST_F(CityMasterTest, ShowsTheFirstCityOfThatNameOfAnyCountry) {
     EXPECT_TRUE(RefusesQuote([&] { master_.Add(fields); }));
 }
 
-TEST_F(CityMasterTest, FindsTheFirstRowThatBeginsSo) {
-    const GridRows rows{{"Agra"}, {"Ahmedabad"}, {"Ahmednagar"}};
-    EXPECT_EQ(CityMaster::Find(rows, " AHMED ").row, 1U);
-    EXPECT_EQ(CityMaster::Find(rows, "").notice->text, "Enter City Name to Search");
-    EXPECT_EQ(CityMaster::Find(rows, "gra").notice->text, "No matches found for the City Name entered");
-    EXPECT_FALSE(CityMaster::Find(rows, "Agrab").row);
-}
-
 } // namespace
 } // namespace kelvaro::store

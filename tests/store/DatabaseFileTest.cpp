@@ -1,6 +1,11 @@
 #include "store/database/DatabaseFile.h"
 
+#include "store/masters/PlaceLists.h"
 #include "tests/store/StoreFixture.h"
+
+#include <cstdlib>
+#include <map>
+#include <utility>
 
 namespace kelvaro::store {
 namespace {
@@ -99,6 +104,110 @@ TEST_F(DatabaseFileTest, AFailedCopyLeavesNothingAndIsTriedAgain) {
     fs::permissions(user_, fs::perms(0777));
     EXPECT_EQ(Find(), userFile_);
     EXPECT_TRUE(fs::exists(userFile_));
+}
+
+/// The step of the build that puts the seed database beside the program. Blanks and signs in the path must
+/// not matter.
+class PlaceDatabaseTest : public testing::Test {
+protected:
+    PlaceDatabaseTest() { fs::create_directory(build_); }
+
+    void Place(std::string_view seed) {
+        WriteFile(seed_, seed);
+        const std::string command = std::string(KELVARO_CMAKE) + " -D 'SEED=" + seed_.string() +
+                                    "' -D 'DATABASE=" + database_.string() +
+                                    "' -D 'RECORD=" + (build_ / "record").string() +
+                                    "' -P '" KELVARO_PLACE_DATABASE "' > /dev/null";
+        ASSERT_EQ(std::system(command.c_str()), 0);
+    }
+
+    TemporaryFolder folder_;
+    fs::path build_ = folder_ / "a build (1)";
+    fs::path seed_ = build_ / "seed.mdb";
+    fs::path database_ = build_ / databaseFileName;
+};
+
+TEST_F(PlaceDatabaseTest, ReplacesOnlyTheSeedOfAnEarlierBuild) {
+    WriteFile(database_, "no build put it there");
+    Place("first seed");
+    EXPECT_EQ(BytesOf(database_), "no build put it there");
+    fs::remove(database_);
+    Place("first seed");
+    EXPECT_EQ(BytesOf(database_), "first seed");
+    Place("second seed");
+    EXPECT_EQ(BytesOf(database_), "second seed");
+    WriteFile(database_, "the user's charts");
+    Place("second seed");
+    Place("third seed");
+    EXPECT_EQ(BytesOf(database_), "the user's charts");
+    fs::remove(database_);
+    Place("third seed");
+    EXPECT_EQ(BytesOf(database_), "third seed");
+}
+
+TEST_F(PlaceDatabaseTest, KeepsADatabaseWhoseChangeWasBrokenOff) {
+    Place("first seed");
+    const fs::path journal = database_.string() + "-journal";
+    WriteFile(journal, "journal");
+    Place("second seed");
+    EXPECT_EQ(BytesOf(database_), "first seed");
+    EXPECT_TRUE(fs::exists(journal));
+    fs::remove(database_);
+    Place("second seed");
+    EXPECT_EQ(BytesOf(database_), "second seed");
+    EXPECT_FALSE(fs::exists(journal)) << "it would be played back into the new database";
+}
+
+class SeedDatabaseTest : public StoreTest {};
+
+TEST_F(SeedDatabaseTest, HoldsEveryRow) {
+    const std::pair<const char *, const char *> counts[] = {
+        {"Country_Master", "246"},
+        {"TimeZone", "375"},
+        {"City_Master", "60398"},
+        {"KaliyugaYearDetails", "60"},
+        {"Preference", "1"},
+        {"tempdasasandhi", "1"},
+        {"ChartSave", "0"},
+        {"GChartSave", "0"},
+        {"PersonalDetails", "0"},
+        {"tempBhukthi", "0"},
+        {"KaliyugaYearDetails where Yearno between 1 and 60", "60"},
+        {"chartsmaster", "4740"},
+    };
+    for (const auto &[rows, count] : counts) {
+        EXPECT_EQ(First(std::string("select count(*) from ") + rows), count) << rows;
+    }
+    EXPECT_EQ(First("pragma user_version"), "1");
+    EXPECT_EQ(First("pragma integrity_check"), "ok");
+}
+
+TEST_F(SeedDatabaseTest, StandsOnTheFirstPreferences) {
+    EXPECT_EQ(First("select PreID || Ayanamsa || Bhava || DayInYear || ChartStyle || PreferLanguage || "
+                    "CustomYear || CustomProgress from Preference"),
+              "1LahiriEqual365.25SouthEnglish0.00.0");
+}
+
+TEST_F(SeedDatabaseTest, CountriesStandInTheOrderOfTheirNumbers) {
+    int number = 0;
+    for (const ListItem &country : PlaceLists(connection_).Countries()) {
+        EXPECT_EQ(country.key, ++number);
+    }
+}
+
+TEST_F(SeedDatabaseTest, BandsOfEveryChartCoverEveryRasi) {
+    std::map<std::pair<std::string, int>, double> reached;
+    Recordset rows;
+    rows.Open("select * from chartsmaster order by chartname, RasiHouse, startDegree", connection_);
+    for (; !rows.IsEndOfFile(); rows.MoveNext()) {
+        double &degree = reached[{rows.Text("chartname"), rows.Integer("RasiHouse")}];
+        EXPECT_EQ(rows.Number("startDegree"), degree) << rows.Text("chartname");
+        degree = rows.Number("EndDegree");
+    }
+    EXPECT_EQ(reached.size(), 20U * 12U);
+    for (const auto &[chartAndRasi, degree] : reached) {
+        EXPECT_EQ(degree, 30.0) << chartAndRasi.first << chartAndRasi.second;
+    }
 }
 
 } // namespace

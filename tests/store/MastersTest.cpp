@@ -45,16 +45,6 @@ TEST_F(CountryMasterTest, RenamesTheChosenCountry) {
     EXPECT_THROW(master_.Rename({"Gone", 9999}, "Utopia"), StoreError);
 }
 
-TEST_F(CountryMasterTest, SearchSelectsTheFirstThatBeginsSo) {
-    const std::vector<ListItem> countries{{"India", 1}, {"Indonesia", 2}, {"Iran", 3}};
-    const auto rowOf = [&](const char *text) { return CountryMaster::Search(countries, text).row; };
-    EXPECT_EQ(rowOf(" iNDO "), 1U);
-    EXPECT_EQ(rowOf("in"), 0U);
-    EXPECT_EQ(rowOf(""), 0U);
-    EXPECT_EQ(CountryMaster::Search(countries, "ndia").notice->text, "No Such Country Exists");
-    EXPECT_FALSE(CountryMaster::Search({}, " ").notice);
-}
-
 TEST_F(StoreTest, LetterheadIsOneRowAndAFaultKeepsIt) {
     const PersonalDetails letterhead{"Asha Rao", "1 Hill Road", "Second Floor", "Pune",
                                      "India",    "411001",      "020 1",        "asha@example.org"};
