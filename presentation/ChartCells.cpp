@@ -154,21 +154,21 @@ void FillNavamsaChart(const Positions &positions, const Names &names, ChartStyle
     FillChart(Chart::Navamsa, positions, names, style, forms);
 }
 
-void FillBhavaChart(const Houses &houses, const Names &names, ChartStyle wanted, HoroscopeForms &forms) {
-    const StyleOfChart *style = FindStyle(wanted);
-    if (style == nullptr) {
+void FillBhavaChart(const Houses &houses, const Names &names, ChartStyle style, HoroscopeForms &forms) {
+    const StyleOfChart *row = FindStyle(style);
+    if (row == nullptr) {
         return;
     }
-    ChartCellClear(forms, style->Of(Chart::Bhava).selector);
+    ChartCellClear(forms, row->Of(Chart::Bhava).selector);
     ChartForm &form = WindowOf(Chart::Bhava, forms);
-    form.VisibleFrame = wanted;
-    const bool isByHouse = wanted == ChartStyle::North;
+    form.VisibleFrame = style;
+    const bool isByHouse = style == ChartStyle::North;
     if (isByHouse) {
         NumberHouses(Sign(houses.BhavaRasi.front()), form);
     }
     for (std::size_t house = 0; house < houses.BhavaRasi.size(); ++house) {
         const std::size_t cell = isByHouse ? house : Sign(houses.BhavaRasi.at(house)).Index();
-        (form.*style->cells).at(cell) += houses.BhavaPlanets.at(house);
+        (form.*row->cells).at(cell) += houses.BhavaPlanets.at(house);
         for (const Body body : houses.bodies.at(house)) {
             form.bodies.at(cell).push_back({body, ShortNameOf(names, body), {}});
         }

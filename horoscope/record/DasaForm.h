@@ -26,15 +26,16 @@ struct DasaPeriod {
 
 /// The periods of a list that lie in a dasa, by its place.
 inline std::span<const DasaPeriod> InDasa(std::span<const DasaPeriod> periods, std::size_t dasa) {
-    const auto found = std::ranges::equal_range(periods, dasa, {}, &DasaPeriod::dasa);
-    return {found.begin(), found.end()};
+    return {std::ranges::lower_bound(periods, dasa, {}, &DasaPeriod::dasa),
+            std::ranges::upper_bound(periods, dasa, {}, &DasaPeriod::dasa)};
 }
 
 /// Those in a bhukti, by the place of its dasa and its own.
 inline std::span<const DasaPeriod> InBhukti(std::span<const DasaPeriod> periods, std::size_t dasa,
                                             std::size_t bhukti) {
-    const auto found = std::ranges::equal_range(InDasa(periods, dasa), bhukti, {}, &DasaPeriod::bhukti);
-    return {found.begin(), found.end()};
+    const auto ofDasa = InDasa(periods, dasa);
+    return {std::ranges::lower_bound(ofDasa, bhukti, {}, &DasaPeriod::bhukti),
+            std::ranges::upper_bound(ofDasa, bhukti, {}, &DasaPeriod::bhukti)};
 }
 
 /// The window of the dasas. Each grid has a row for each period of its list.

@@ -3,6 +3,8 @@
 #include "panchanga/calendar/LunarMonths.h"
 #include "panchanga/clsTithi.h"
 
+#include <utility>
+
 namespace kelvaro {
 
 namespace {
@@ -34,9 +36,9 @@ private:
 
 } // namespace
 
-TithiSearch::TithiSearch(ClsFindPlanetPosition &position, const Site &site, const AyanamsaSettings &ayanamsa,
+TithiSearch::TithiSearch(ClsFindPlanetPosition &position, Site site, AyanamsaSettings ayanamsa,
                          Moment birthMoment)
-    : position_(position), site_(site), ayanamsa_(ayanamsa), birthMoment_(birthMoment),
+    : position_(position), site_(std::move(site)), ayanamsa_(std::move(ayanamsa)), birthMoment_(birthMoment),
       firstHour_(MomentOf(Split(birthMoment).date, searchClock)) {}
 
 void TithiSearch::Count(std::string_view tithi, TithiCount &count) {

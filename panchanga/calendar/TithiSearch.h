@@ -26,8 +26,7 @@ class TithiSearch {
 public:
     /// `position` must outlive the object and be that of the calendars alone: under an unknown ayanamsa it
     /// goes on from the ayanamsa of its last moment.
-    TithiSearch(ClsFindPlanetPosition &position, const Site &site, const AyanamsaSettings &ayanamsa,
-                Moment birthMoment);
+    TithiSearch(ClsFindPlanetPosition &position, Site site, AyanamsaSettings ayanamsa, Moment birthMoment);
     TithiSearch(const TithiSearch &) = delete;
     TithiSearch &operator=(const TithiSearch &) = delete;
     ~TithiSearch() = default;
