@@ -158,7 +158,7 @@ TEST(ClsYoga, Bounds) {
         int number;
         const char *name;
     } cases[] = {
-        {0, 0, 1, "Vishkumbha"},       {13.333, 0, 1, "Vishkumbha"}, {13.3335, 0, 2, "Preeti"},
+        {0, 0, 1, "Vishkumbha"},       {13.333, 0, 1, "Vishkumbha"}, {13.3331, 0, 2, "Preeti"},
         {133.33, 0, 10, "Ganda"},      {133.3331, 0, 11, "Vriddhi"}, {226.661, 0, 17, "Vyatipaata"},
         {266.66, 0, 20, "Shiva"},      {266.661, 0, 21, "Siddha"},   {346.658, 0, 26, "Indra"},
         {346.66, 0, 27, "Vaidhriti"},  {359.99, 0, 27, "Vaidhriti"}, {180, 180, 27, "Vaidhriti"},
