@@ -75,8 +75,7 @@ store::CityFields CityDialog::FieldsOf(const Entry &entry) {
 
 /// Looks for the city that is searched for and selects its row.
 store::Found CityDialog::Search() {
-    const store::Found found =
-        store::CityMaster::Find(Viewed(), controls_->txtCityName->text().toStdString());
+    store::Found found = store::CityMaster::Find(Viewed(), controls_->txtCityName->text().toStdString());
     if (found.row) {
         controls_->mshViewCity->SelectRow(*found.row);
     }
