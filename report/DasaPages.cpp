@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kelvaro {
@@ -37,16 +38,17 @@ struct Block {
     std::span<const DasaPeriod> periods;
 };
 
+/// The texts of start and end are as wide as a date.
 std::string PeriodText(std::string_view lord, std::string_view join, std::string_view start,
                        std::string_view end) {
     std::string text = Field(lord, lordWidth);
-    text.append(join).append(Field(start, dateWidth)).append(" ").append(Field(end, dateWidth));
+    text.append(join).append(start).append(" ").append(end);
     return text;
 }
 
 void AddHeadings(const PeriodSection &section, ReportPages &pages) {
-    const std::string heading =
-        PeriodText(section.periodHeading, std::string(arrow.size(), ' '), "Start", "End");
+    const std::string heading = PeriodText(section.periodHeading, std::string(arrow.size(), ' '),
+                                           Field("Start", dateWidth), Field("End", dateWidth));
     pages.AddLine(Centred(section.blockHeading, ruleWidth));
     pages.AddLine(std::string(heading).append(betweenColumns).append(heading));
     pages.AddRule('-', ruleWidth);
@@ -55,10 +57,14 @@ void AddHeadings(const PeriodSection &section, ReportPages &pages) {
 void AddBlock(const Block &block, ReportPages &pages) {
     pages.AddLine(Centred(block.title, ruleWidth));
     std::string line;
+    std::string start =
+        block.periods.empty() ? std::string() : MonthNameDateText(block.periods.front().start);
     for (std::size_t i = 0; i < block.periods.size(); ++i) {
         const DasaPeriod &period = block.periods[i];
-        line += PeriodText(period.lordName, arrow, MonthNameDateText(period.start),
-                           MonthNameDateText(period.end));
+        std::string end = MonthNameDateText(period.end);
+        line += PeriodText(period.lordName, arrow, start, end);
+        // Each period starts where the one before it ended.
+        start = std::move(end);
         if (i % columns == columns - 1 || i + 1 == block.periods.size()) {
             pages.AddLine(line);
             line.clear();
