@@ -8,6 +8,7 @@
 #include "shell/dialogs/ChartListDialog.h"
 #include "shell/widgets/FieldFocus.h"
 #include "shell/widgets/FormKeys.h"
+#include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/TextOf.h"
 #include "ui_BirthDialog.h"
@@ -15,7 +16,6 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
 #include <QShowEvent>
 #include <QStyleHints>
 #include <QToolBar>
@@ -23,14 +23,6 @@
 #include <array>
 
 namespace kelvaro {
-
-namespace {
-
-QIcon IconOf(const QStyle *style, const char *theme, QStyle::StandardPixmap otherwise) {
-    return QIcon::fromTheme(QString::fromLatin1(theme), style->standardIcon(otherwise));
-}
-
-} // namespace
 
 BirthDialog::BirthDialog(Horoscope &horoscope, SettingsStore &settings, QWidget *parent)
     : QDialog(parent), horoscope_(horoscope), settings_(settings), fields_(FieldsAtLoad(Now())),
@@ -54,18 +46,17 @@ struct BirthDialog::Command {
     void (BirthDialog::*run)();
     QKeyCombination keys = {};
     const char *icon = nullptr;
-    QStyle::StandardPixmap otherIcon = QStyle::SP_CustomBase;
 };
 
 void BirthDialog::BuildMenu() {
     static constexpr std::array<Command, 7> entries{{
-        {"mnu_New", "&New", &BirthDialog::New, Qt::CTRL | Qt::Key_N},
-        {"mnuOpen", "&Open", &BirthDialog::OpenList, Qt::CTRL | Qt::Key_O},
+        {"mnu_New", "&New", &BirthDialog::New, Qt::CTRL | Qt::Key_N, "new"},
+        {"mnuOpen", "&Open", &BirthDialog::OpenList, Qt::CTRL | Qt::Key_O, "open"},
         {},
-        {"mnuSave", "&Save", &BirthDialog::Save, Qt::CTRL | Qt::Key_S},
-        {"mnuDelete", "&Delete", &BirthDialog::DeleteFromMenu},
+        {"mnuSave", "&Save", &BirthDialog::Save, Qt::CTRL | Qt::Key_S, "save"},
+        {"mnuDelete", "&Delete", &BirthDialog::DeleteFromMenu, {}, "delete"},
         {},
-        {"mnuClose", "&Close", &BirthDialog::reject, Qt::Key_Escape},
+        {"mnuClose", "&Close", &BirthDialog::reject, Qt::Key_Escape, "close"},
     }};
     auto *bar = new QMenuBar(this);
     layout()->setMenuBar(bar);
@@ -78,6 +69,7 @@ void BirthDialog::BuildMenu() {
         }
         QAction *action = file->addAction(QString::fromLatin1(entry.text), this, entry.run);
         action->setObjectName(QString::fromLatin1(entry.name));
+        action->setIcon(HouseIcon(entry.icon));
         if (entry.keys.key() != Qt::Key(0)) {
             action->setShortcut(entry.keys);
         }
@@ -86,31 +78,20 @@ void BirthDialog::BuildMenu() {
 
 void BirthDialog::BuildToolbar() {
     static constexpr std::array<Command, 5> buttons{{
-        {"new", "New BrithDetails", &BirthDialog::New, {}, "document-new", QStyle::SP_FileIcon},
-        {"open",
-         "Open Birthdetails",
-         &BirthDialog::OpenListAnew,
-         {},
-         "document-open",
-         QStyle::SP_DialogOpenButton},
-        {"save", "Save Details", &BirthDialog::Save, {}, "document-save", QStyle::SP_DialogSaveButton},
-        {"delete",
-         "Delete Details",
-         &BirthDialog::DeleteFromToolbar,
-         {},
-         "edit-delete",
-         QStyle::SP_TrashIcon},
-        {"close", "Close", &BirthDialog::reject, {}, "window-close", QStyle::SP_DialogCloseButton},
+        {"new", "New BrithDetails", &BirthDialog::New, {}, "new"},
+        {"open", "Open Birthdetails", &BirthDialog::OpenListAnew, {}, "open"},
+        {"save", "Save Details", &BirthDialog::Save, {}, "save"},
+        {"delete", "Delete Details", &BirthDialog::DeleteFromToolbar, {}, "delete"},
+        {"close", "Close", &BirthDialog::reject, {}, "close"},
     }};
     for (const Command &button : buttons) {
-        QAction *action =
-            controls_->tbrMirvane->addAction(IconOf(style(), button.icon, button.otherIcon),
-                                             QString::fromLatin1(button.text), this, button.run);
+        QAction *action = controls_->tbrMirvane->addAction(
+            HouseIcon(button.icon), QString::fromLatin1(button.text), this, button.run);
         action->setObjectName(QString::fromLatin1(button.name));
         action->setToolTip(QString::fromLatin1(button.text));
     }
-    controls_->cmdadd->setIcon(IconOf(style(), "list-add", QStyle::SP_FileDialogNewFolder));
-    controls_->cmdTimeZoneHelp->setIcon(IconOf(style(), "help-contents", QStyle::SP_DialogHelpButton));
+    DressButtons(*this);
+    controls_->cmdSave->setIcon(HouseIcon("accept"));
 }
 
 /// A place is taken when its row is picked, or when its field is left with the text of a row, and not while
@@ -263,9 +244,7 @@ void BirthDialog::DeleteFromToolbar() {
 }
 
 void BirthDialog::Delete() {
-    const QString question = TextOf(deleteQuestion);
-    if (QMessageBox::question(this, windowTitle(), question, QMessageBox::Yes | QMessageBox::No,
-                              QMessageBox::No) != QMessageBox::Yes) {
+    if (!IsConfirmed(this, windowTitle(), TextOf(deleteQuestion))) {
         return;
     }
     const Notice notice = DeleteBirth(fields_, horoscope_.connection);

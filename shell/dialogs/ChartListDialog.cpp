@@ -2,6 +2,7 @@
 
 #include "horoscope/entry/BirthStorage.h"
 #include "shell/widgets/FormKeys.h"
+#include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/TextOf.h"
 #include "store/charts/ChartStore.h"
@@ -12,6 +13,7 @@ namespace kelvaro {
 ChartListDialog::ChartListDialog(store::Connection &connection, QWidget *parent)
     : QDialog(parent), connection_(connection), controls_(std::make_unique<Ui::Frm_RetriveBirthData>()) {
     controls_->setupUi(this);
+    DressButtons(*this);
     controls_->List_VC_ChartName->installEventFilter(this);
     // The first click of a double click opens the chart already.
     connect(controls_->List_VC_ChartName, &QListWidget::itemClicked, this, &ChartListDialog::Submit);

@@ -2,6 +2,7 @@
 
 #include "shell/widgets/FieldFocus.h"
 #include "shell/widgets/FormKeys.h"
+#include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/ListedChoice.h"
 #include "shell/widgets/MessageBoxes.h"
 
@@ -22,6 +23,7 @@ void MasterDialog::keyPressEvent(QKeyEvent *event) {
 void MasterDialog::showEvent(QShowEvent *event) {
     constexpr double partOfScreen = 0.9; // the rest is for the window's frame
     resize(size().boundedTo(screen()->availableSize() * partOfScreen));
+    DressButtons(*this);
     QDialog::showEvent(event);
 }
 

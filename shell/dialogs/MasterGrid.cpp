@@ -5,6 +5,8 @@
 namespace kelvaro {
 
 MasterGrid::MasterGrid(QWidget *parent) : TextGridView(QString(), QString(), parent) {
+    // Parchment is for horoscopes: what stands in a dialog has the colours of the theme.
+    setPalette({});
     setSelectionBehavior(SelectRows);
     setSelectionMode(SingleSelection);
     // Thousands of rows are not measured one by one: they have one height, and those seen set the widths.

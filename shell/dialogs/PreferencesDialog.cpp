@@ -2,6 +2,7 @@
 
 #include "horoscope/Horoscope.h"
 #include "shell/widgets/FormKeys.h"
+#include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/TextOf.h"
 #include "shell/widgets/TypeAhead.h"
@@ -34,6 +35,8 @@ PreferencesDialog::PreferencesDialog(Horoscope &horoscope, QWidget *parent)
     store::OnLoadClass stored;
     stored.FnPreferences(horoscope.connection);
     controls_->setupUi(this);
+    DressButtons(*this);
+    controls_->Command1->setIcon(HouseIcon("accept"));
     Show(FieldsOfPreferences(stored));
     connect(controls_->cmdSave, &QPushButton::clicked, this, [this] { Accept(SavePreferences); });
     connect(controls_->Command1, &QPushButton::clicked, this, [this] { Accept(ApplyPreferences); });

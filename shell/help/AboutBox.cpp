@@ -1,9 +1,10 @@
 #include "shell/help/AboutBox.h"
 
-#include "shell/widgets/ChartColours.h"
+#include "shell/widgets/HouseIcon.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace kelvaro {
@@ -19,7 +20,7 @@ AboutBox::AboutBox(QWidget *parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frm_AboutUs"));
     setWindowTitle(tr("About us"));
     auto *text = new QLabel(
-        tr("<h2 style='color:%1'>Kelvaro Basic</h2><p>Version 2.4</p>"
+        tr("<h2>Kelvaro Basic</h2><p>Version 2.4</p>"
            "<p>Vedic astrology on the desktop: the whole horoscope of a birth, computed by the program "
            "itself.</p>"
            "<p>Kelvaro Technologies Pvt Ltd<br>www.kelvaro.example<br>support@kelvaro.example</p>"
@@ -27,12 +28,12 @@ AboutBox::AboutBox(QWidget *parent) : QDialog(parent) {
            "(https://creativecommons.org/licenses/by/4.0/); names shortened and made unique, positions "
            "rounded "
            "to minutes.</p>"
-           "<p><b>Zone offsets:</b> the tz database, release 2025b, public domain.</p>")
-            .arg(lineColour.name()));
+           "<p><b>Zone offsets:</b> the tz database, release 2025b, public domain.</p>"));
     text->setWordWrap(true);
     text->setTextInteractionFlags(Qt::TextBrowserInteraction);
     text->setFixedWidth(textWidth);
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+    buttons->button(QDialogButtonBox::Ok)->setIcon(HouseIcon("accept"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);

@@ -30,11 +30,8 @@ HelpWindow::HelpWindow(QWidget *parent)
     setWindowTitle(tr("Help"));
     resize(firstSize);
     headings_->setAccessibleName(tr("Contents"));
-    QPalette colours = headings_->palette();
+    QPalette colours = ParchmentPalette();
     colours.setColor(QPalette::Base, parchmentColour);
-    colours.setColor(QPalette::Text, nameColour);
-    colours.setColor(QPalette::Highlight, lineColour);
-    colours.setColor(QPalette::HighlightedText, parchmentColour);
     headings_->setPalette(colours);
     headings_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     headings_->setSpacing(headingSpace);

@@ -5,8 +5,11 @@
 #include "shell/print/DirectPrint.h"
 #include "shell/print/ReportBox.h"
 #include "shell/print/ReportFileChoice.h"
+#include "shell/widgets/ChartColours.h"
 #include "shell/widgets/FormKeys.h"
+#include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/ShownText.h"
 #include "shell/widgets/TextOf.h"
 
 #include <QFile>
@@ -52,6 +55,7 @@ PrintView::PrintView(QWidget *parent)
       CoPrt_(new QPushButton(tr("&Print"))), outcome_(new QLabel), options_(new QWidget), Te_(new ReportBox) {
     setAccessibleName(tr("Print"));
     CoPrt_->setObjectName(QStringLiteral("CoPrt"));
+    CoPrt_->setIcon(HouseIcon("print", nameColour));
     CoPrt_->setAutoDefault(true);
     CoPrt_->setEnabled(false);
     outcome_->setObjectName(QStringLiteral("outcome"));
@@ -155,7 +159,7 @@ void PrintView::TellFile(const QString &name) {
     QString path = name;
     path.replace(u'/', QStringLiteral("/\u200b"));
     outcome_->setText(tr("The report is in the file %1.").arg(path));
-    outcome_->setToolTip(name);
+    outcome_->setToolTip(ToolTipText(name));
 }
 
 void PrintView::PrintOut() {

@@ -40,11 +40,10 @@ ReportBox::ReportBox(QWidget *parent) : QTextEdit(parent) {
     setUndoRedoEnabled(false);
     setPlaceholderText(tr("The report is shown here when it is printed."));
     setFont(ReportFont());
-    QPalette colours = palette();
+    QPalette colours = ParchmentPalette();
     colours.setColor(QPalette::Base, parchmentColour.darker(112));
-    colours.setColor(QPalette::Text, Qt::black);
-    colours.setColor(QPalette::PlaceholderText, figureColour);
     setPalette(colours);
+    letter_ = smallestLetter;
 }
 
 void ReportBox::Show(std::string_view report) {
@@ -54,7 +53,7 @@ void ReportBox::Show(std::string_view report) {
     for (const std::string_view page : PagesOf(report)) {
         cursor.movePosition(QTextCursor::End);
         cursor.insertFrame(SheetFormat());
-        cursor.insertText(TextOf(page.substr(0, page.find_last_not_of(lineEnd) + 1)));
+        cursor.insertText(TextOf(page.substr(0, page.find_last_not_of(lineEnd) + 1)), LetterFormat());
     }
     cursor.endEditBlock();
     moveCursor(QTextCursor::Start);
@@ -63,10 +62,11 @@ void ReportBox::Show(std::string_view report) {
 void ReportBox::FitInto(int width) {
     const int letter = LargestFitting(largestLetter, smallestLetter, 1,
                                       [&](int pixels) { return WidthAt(pixels) <= width; });
-    if (letter != font().pixelSize()) {
-        QFont larger = font();
-        larger.setPixelSize(letter);
-        setFont(larger);
+    if (letter != letter_) {
+        letter_ = letter;
+        QTextCursor all(document());
+        all.select(QTextCursor::Document);
+        all.mergeCharFormat(LetterFormat());
         const QList<QTextFrame *> sheets = document()->rootFrame()->childFrames();
         for (QTextFrame *sheet : sheets) {
             sheet->setFrameFormat(SheetFormat());
@@ -82,14 +82,23 @@ int ReportBox::WidthAt(int letter) const {
 }
 
 QTextFrameFormat ReportBox::SheetFormat() const {
-    const int letter = fontInfo().pixelSize();
     QTextFrameFormat format;
     format.setBackground(Qt::white);
     format.setBorder(1);
     format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
     format.setBorderBrush(figureColour);
-    format.setPadding(ColumnAt(letter) * sheetPadding);
-    format.setWidth(SheetWidthAt(letter));
+    format.setPadding(ColumnAt(letter_) * sheetPadding);
+    format.setWidth(SheetWidthAt(letter_));
+    return format;
+}
+
+/// The text's own, as that of the box is the theme's to change.
+QTextCharFormat ReportBox::LetterFormat() const {
+    QFont font = ReportFont();
+    font.setPixelSize(letter_);
+    QTextCharFormat format;
+    format.setFont(font);
+    format.setForeground(Qt::black);
     return format;
 }
 

@@ -21,6 +21,9 @@ public:
 private:
     int WidthAt(int letter) const;
     QTextFrameFormat SheetFormat() const;
+    QTextCharFormat LetterFormat() const;
+
+    int letter_ = 0; ///< its size in pixels
 };
 
 } // namespace kelvaro

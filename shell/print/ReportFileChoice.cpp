@@ -1,10 +1,10 @@
 #include "shell/print/ReportFileChoice.h"
 
 #include "report/ReportFile.h"
+#include "shell/widgets/MessageBoxes.h"
 
 #include <QDir>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QMimeDatabase>
 #include <QStandardPaths>
 
@@ -22,10 +22,9 @@ QString WithEnding(const QString &name, const ReportFileKind &kind) {
 }
 
 bool MayReplace(QWidget *parent, const QString &title, const QString &name) {
-    return QMessageBox::question(
-               parent, title,
-               QObject::tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(name).fileName()),
-               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+    return IsConfirmed(
+        parent, title,
+        QObject::tr("%1 already exists.\nDo you want to replace it?").arg(QFileInfo(name).fileName()));
 }
 
 } // namespace

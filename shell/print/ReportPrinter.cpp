@@ -143,7 +143,19 @@ QFont ReportFont() {
     QFont font(QStringLiteral("Courier New"));
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
-    return QFontInfo(font).fixedPitch() ? font : QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (QFontInfo(font).fixedPitch()) {
+        return font;
+    }
+    font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    // A theme may name any font for fixed pitch.
+    const QStringList families = QFontDatabase::families();
+    for (auto family = families.begin(); family != families.end() && !QFontInfo(font).fixedPitch();
+         ++family) {
+        if (QFontDatabase::isFixedPitch(*family)) {
+            font.setFamilies({*family});
+        }
+    }
+    return font;
 }
 
 std::vector<std::string_view> PagesToPrint(std::string_view report, AntraSection antra) {

@@ -3,6 +3,8 @@
 #include "horoscope/Horoscope.h"
 #include "runtime/MomentText.h"
 #include "runtime/Now.h"
+#include "shell/widgets/ChartColours.h"
+#include "shell/widgets/HouseIcon.h"
 
 #include <QGridLayout>
 #include <QScrollArea>
@@ -72,6 +74,7 @@ DasaView::DasaView(QWidget *parent)
     sections_->setObjectName(QStringLiteral("antraSections"));
     sections_->setAccessibleName(tr("Section of the antras"));
     todayButton_->setObjectName(QStringLiteral("cmdToday"));
+    todayButton_->setIcon(HouseIcon("today", nameColour));
 
     auto *line = new QHBoxLayout;
     line->addStretch();

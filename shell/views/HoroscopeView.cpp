@@ -13,10 +13,7 @@ constexpr double largestFont = 2; // times the system's size
 } // namespace
 
 HoroscopeView::HoroscopeView(QWidget *parent) : QWidget(parent) {
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, parchmentColour);
-    colours.setColor(QPalette::WindowText, nameColour);
-    setPalette(colours);
+    setPalette(ParchmentPalette());
     setAutoFillBackground(true);
 }
 

@@ -1,7 +1,10 @@
 #include "shell/widgets/MessageBoxes.h"
 
+#include "shell/widgets/HouseIcon.h"
+#include "shell/widgets/ShownText.h"
 #include "shell/widgets/TextOf.h"
 
+#include <QAbstractButton>
 #include <QMessageBox>
 
 namespace kelvaro {
@@ -20,6 +23,20 @@ QMessageBox::Icon IconOf(Notice::Icon icon) {
     return QMessageBox::Information;
 }
 
+/// Shows a message box. A message says what it says: nothing in it is markup.
+int Show(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text,
+         QMessageBox::StandardButtons buttons = QMessageBox::Ok,
+         QMessageBox::StandardButton usual = QMessageBox::NoButton) {
+    QMessageBox box(icon, title, QString(), buttons, parent);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(MessageText(text));
+    box.setDefaultButton(usual);
+    for (QAbstractButton *button : box.buttons()) {
+        button->setIcon(HouseIcon(box.standardButton(button) == QMessageBox::No ? "close" : "accept"));
+    }
+    return box.exec();
+}
+
 } // namespace
 
 QWidget *FieldOf(const QWidget &window, const Notice &notice) {
@@ -27,7 +44,7 @@ QWidget *FieldOf(const QWidget &window, const Notice &notice) {
 }
 
 void ShowError(QWidget *parent, const std::exception &error) {
-    QMessageBox::critical(parent, QString(), QString::fromUtf8(error.what()));
+    Show(parent, QMessageBox::Critical, QString(), QString::fromUtf8(error.what()));
 }
 
 void Guarded(QWidget *parent, const std::function<void()> &work) {
@@ -39,11 +56,15 @@ void Guarded(QWidget *parent, const std::function<void()> &work) {
 }
 
 void ShowNotice(QWidget *window, const Notice &notice) {
-    QMessageBox(IconOf(notice.icon), window->windowTitle(), TextOf(notice.text), QMessageBox::Ok, window)
-        .exec();
+    Show(window, IconOf(notice.icon), window->windowTitle(), TextOf(notice.text));
     if (QWidget *field = FieldOf(*window, notice)) {
         field->setFocus();
     }
+}
+
+bool IsConfirmed(QWidget *window, const QString &title, const QString &question) {
+    return Show(window, QMessageBox::Question, title, question, QMessageBox::Yes | QMessageBox::No,
+                QMessageBox::No) == QMessageBox::Yes;
 }
 
 } // namespace kelvaro

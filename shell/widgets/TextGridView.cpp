@@ -106,7 +106,7 @@ QVariant TextGridModel::data(const QModelIndex &index, int role) const {
     case Qt::TextAlignmentRole:
         return AlignmentOf(index.column()).toInt();
     case Qt::ForegroundRole:
-        return index.row() == markedRow_ ? lagnaColour : nameColour;
+        return index.row() == markedRow_ ? QVariant(lagnaColour) : QVariant();
     case Qt::FontRole:
         if (IsBold(index)) {
             QFont bold;
@@ -143,10 +143,7 @@ TextGridView::TextGridView(const QString &name, const QString &alignments, QWidg
     verticalHeader()->hide();
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-    QPalette colours = palette();
-    colours.setColor(QPalette::Base, parchmentColour.lighter(106));
-    colours.setColor(QPalette::AlternateBase, parchmentColour.lighter(102));
-    colours.setColor(QPalette::Text, nameColour);
+    QPalette colours = ParchmentPalette();
     colours.setColor(QPalette::Highlight, parchmentColour.darker(120));
     colours.setColor(QPalette::HighlightedText, nameColour);
     colours.setColor(QPalette::Button, parchmentColour.darker(106));

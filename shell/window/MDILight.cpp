@@ -6,6 +6,7 @@
 #include "shell/views/ServerPane.h"
 #include "shell/widgets/ChartColours.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/ShownText.h"
 #include "shell/widgets/TextOf.h"
 #include "shell/window/MainHoroscope.h"
 #include "shell/window/StatusPanel.h"
@@ -14,11 +15,12 @@
 #include "store/masters/PersonalDetails.h"
 
 #include <QCloseEvent>
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -28,6 +30,7 @@ namespace {
 
 constexpr int treeWidth = 190;
 constexpr int splitterWidth = 5;
+constexpr qsizetype widestOwner = 60; // characters
 constexpr const char *geometryKey = "Window/Geometry";
 constexpr const char *serverKey = "Server/Address";
 
@@ -39,6 +42,19 @@ constexpr std::array<const char *, 18> unloadOrder{
     "Frm_Print",         "frm_Add_Country", "frm_New_LatLon",
     "frm_AddTimeZone",   "frm_Details",     "frm_IshtaghatikaToBirthTime",
     "frm_MainHoroscope", "frm_Preferences", "Frm_RetriveBirthData"};
+
+/// The place of a window, moved and made smaller as far as it takes to lie on a screen; all of the screen
+/// where it is no place at all.
+QRect BroughtOnto(const QRect &screen, const QRect &place) {
+    if (!place.isValid()) {
+        return screen;
+    }
+    const QSize size = place.size().boundedTo(screen.size());
+    const QPoint lastCorner = screen.bottomRight() - QPoint(size.width() - 1, size.height() - 1);
+    return {{std::clamp(place.left(), screen.left(), lastCorner.x()),
+             std::clamp(place.top(), screen.top(), lastCorner.y())},
+            size};
+}
 
 } // namespace
 
@@ -57,7 +73,7 @@ MDILight::MDILight(const QString &settingsFile)
     splitter->setSizes({treeWidth, width()});
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(splitterWidth);
-    QPalette colours = splitter->palette();
+    QPalette colours = ParchmentPalette();
     colours.setColor(QPalette::Window, parchmentColour.darker(112));
     splitter->setPalette(colours);
     splitter->setAutoFillBackground(true);
@@ -65,8 +81,12 @@ MDILight::MDILight(const QString &settingsFile)
     panel_ = new StatusPanel(this);
 
     FnDisable();
+    owner_->setTextFormat(Qt::PlainText);
     owner_->setContentsMargins(splitterWidth, 0, splitterWidth, 0);
     statusBar()->addPermanentWidget(owner_);
+    // A bar too short for a message shows all of it under the mouse.
+    connect(statusBar(), &QStatusBar::messageChanged, this,
+            [this](const QString &message) { statusBar()->setToolTip(ToolTipText(message)); });
     connect(tree_, &MainHoroscope::ViewChosen, this, &MDILight::ChooseView);
     RestoreWindowPlace();
 }
@@ -104,7 +124,7 @@ void MDILight::ShowFirstHoroscope() {
     }
     FNInitialize();
     FnEnable();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QGuiApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     if (written) {
         written->Commit();
     }
@@ -120,7 +140,8 @@ void MDILight::ReadLetterhead() {
     Str_CompZipcode = TextOf(stored.Zipcode);
     Str_CompPhone = TextOf(stored.Phone);
     Str_CompEMail = TextOf(stored.EMail);
-    owner_->setText(Str_CompName);
+    owner_->setText(OneLine(Str_CompName, widestOwner));
+    owner_->setToolTip(ToolTipText(Str_CompName));
 }
 
 /// The first horoscope is that of the chart that was saved last, or of the sample.
@@ -128,7 +149,7 @@ void MDILight::FNInitialize() {
     const std::string remark = RestoreLastChart(lastChart_, horoscope_.state);
     Calculate();
     if (!remark.empty() && statusBar()->currentMessage().isEmpty()) {
-        statusBar()->showMessage(TextOf(remark));
+        statusBar()->showMessage(OneLine(TextOf(remark)));
     }
 }
 
@@ -136,10 +157,15 @@ void MDILight::Calculate() {
     CalculateHoroscope(horoscope_);
 }
 
-/// Where the window stood at its last end; the whole screen at first.
+/// Where the window stood at its last end; the whole screen at first. Screens may have gone since then.
 void MDILight::RestoreWindowPlace() {
-    if (!restoreGeometry(settings_.value(geometryKey).toByteArray())) {
-        setGeometry(screen()->availableGeometry());
+    const bool isKnown = restoreGeometry(settings_.value(geometryKey).toByteArray());
+    const bool isMaximized = !isKnown || (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) != 0;
+    const QRect place = isKnown ? normalGeometry() : QRect();
+    setWindowState(Qt::WindowNoState);
+    const QScreen *nearest = QGuiApplication::screenAt(place.center());
+    setGeometry(BroughtOnto((nearest != nullptr ? nearest : screen())->availableGeometry(), place));
+    if (isMaximized) {
         setWindowState(Qt::WindowMaximized);
     }
 }
@@ -195,7 +221,7 @@ void MDILight::ShowCurrentView(std::string_view currentView) {
 }
 
 void MDILight::RunFailed(std::string_view step, std::string_view cause) {
-    statusBar()->showMessage(QStringLiteral("%1: %2").arg(TextOf(step), TextOf(cause)));
+    statusBar()->showMessage(OneLine(QStringLiteral("%1: %2").arg(TextOf(step), TextOf(cause))));
 }
 
 void MDILight::closeEvent(QCloseEvent *event) {

@@ -25,11 +25,9 @@ MainHoroscope::MainHoroscope(QWidget *parent) : QWidget(parent), tV_(new QTreeWi
     tV_->setFrameShape(QFrame::NoFrame);
     tV_->setFocus();
     setFocusProxy(tV_);
-    QPalette colours = tV_->palette();
+    QPalette colours = ParchmentPalette();
     colours.setColor(QPalette::Base, parchmentColour);
     colours.setColor(QPalette::Text, Qt::black);
-    colours.setColor(QPalette::Highlight, lineColour);
-    colours.setColor(QPalette::HighlightedText, parchmentColour);
     colours.setColor(QPalette::Button, parchmentColour.darker(106));
     colours.setColor(QPalette::ButtonText, lineColour);
     tV_->setPalette(colours);

@@ -7,6 +7,7 @@
 #include "shell/dialogs/TimeConverterDialog.h"
 #include "shell/dialogs/TimeZoneDialog.h"
 #include "shell/help/AboutBox.h"
+#include "shell/widgets/HouseIcon.h"
 #include "shell/window/HoroscopeViews.h"
 #include "shell/window/MDILight.h"
 
@@ -25,6 +26,7 @@ namespace {
 struct MenuEntry {
     const char *name = nullptr;    ///< object name of its action
     const char *caption = nullptr; ///< with its mnemonic
+    const char *icon = nullptr;    ///< none in the bar itself, which would show it in place of the caption
     std::function<void()> chosen{};
     QKeySequence keys{};
 };
@@ -32,6 +34,9 @@ struct MenuEntry {
 QAction *ActionOf(const MenuEntry &entry, QObject *parent) {
     auto *action = new QAction(QString::fromLatin1(entry.caption), parent);
     action->setObjectName(QString::fromLatin1(entry.name));
+    if (entry.icon != nullptr) {
+        action->setIcon(HouseIcon(entry.icon));
+    }
     action->setShortcut(entry.keys);
     QObject::connect(action, &QAction::triggered, parent, entry.chosen);
     return action;
@@ -75,25 +80,26 @@ void MainMenu::BuildMenu() {
     QMenuBar *bar = window_.menuBar();
     Horoscope &horoscope = window_.HoroscopeInForce();
     store::Connection &connection = horoscope.connection;
-    bar->addAction(ActionOf(
-        {"mnuBirthDetails", "&Enter Birth Details", [this] { window_.Guard([this] { birthForm_.Show(); }); }},
-        bar));
+    bar->addAction(ActionOf({"mnuBirthDetails", "&Enter Birth Details", nullptr,
+                             [this] { window_.Guard([this] { birthForm_.Show(); }); }},
+                            bar));
     AddMenu(bar, "mnuTools", "&Tools",
-            {{"mDI_Country", "&Country Master", Opens<CountryDialog>(connection)},
-             {"MDI_LAt_Lon", "Cit&y Master", Opens<CityDialog>(connection)},
-             {"MDI_ADD_TimeZone", "Time &Zone Master", Opens<TimeZoneDialog>(connection)},
+            {{"mDI_Country", "&Country Master", "country", Opens<CountryDialog>(connection)},
+             {"MDI_LAt_Lon", "Cit&y Master", "city", Opens<CityDialog>(connection)},
+             {"MDI_ADD_TimeZone", "Time &Zone Master", "zone", Opens<TimeZoneDialog>(connection)},
              {},
-             {"mnudetails", "Edit Personal &Info", Opens<PersonalInfoDialog>(connection)},
-             {"mnuPreferences", "&Preferences", Opens<PreferencesDialog>(horoscope)}});
-    AddMenu(bar, "mnuBirthTime", "&Time Converter",
-            {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika", Opens<IshtaGhatiDialog>(horoscope)},
-             {},
-             {"mnu_BirthTime", "Ishta&Ghatika To BirthTime", Opens<BirthTimeDialog>(horoscope)}});
+             {"mnudetails", "Edit Personal &Info", "person", Opens<PersonalInfoDialog>(connection)},
+             {"mnuPreferences", "&Preferences", "preferences", Opens<PreferencesDialog>(horoscope)}});
+    AddMenu(
+        bar, "mnuBirthTime", "&Time Converter",
+        {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika", "ghati", Opens<IshtaGhatiDialog>(horoscope)},
+         {},
+         {"mnu_BirthTime", "Ishta&Ghatika To BirthTime", "clock-time", Opens<BirthTimeDialog>(horoscope)}});
     AddMenu(bar, "mdiHelpmnu", "Help",
-            {{"mnuHelp", "&Help", [this] { help_.Show(); }, QKeySequence::HelpContents},
+            {{"mnuHelp", "&Help", "help", [this] { help_.Show(); }, QKeySequence::HelpContents},
              {},
-             {"mnuAboutus", "&About Us", [this] { AboutBox(&window_).exec(); }},
-             {"mnuExit", "E&xit", [this] { window_.close(); }, QKeySequence::Quit}});
+             {"mnuAboutus", "&About Us", "about", [this] { AboutBox(&window_).exec(); }},
+             {"mnuExit", "E&xit", "exit", [this] { window_.close(); }, QKeySequence::Quit}});
 }
 
 /// The keys that users of desktop programs expect; the menus have no entries for them.

@@ -27,9 +27,7 @@ void FocusInto(QWidget *view) {
 } // namespace
 
 ViewArea::ViewArea(QUrl server) : server_(std::move(server)) {
-    QPalette colours = palette();
-    colours.setColor(QPalette::Window, parchmentColour);
-    setPalette(colours);
+    setPalette(ParchmentPalette());
     setAutoFillBackground(true);
     setMinimumSize(leastSize);
 }

@@ -1,0 +1,64 @@
+#include "shell/widgets/ShownText.h"
+
+#include <QTextBoundaryFinder>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr qsizetype mostOfMessage = 1500; // characters
+constexpr int mostLines = 20;
+constexpr QChar ellipsis = u'\u2026';
+
+bool TurnsDirection(QChar character) {
+    return (character >= u'\u202a' && character <= u'\u202e') ||
+           (character >= u'\u2066' && character <= u'\u2069');
+}
+
+/// The beginning of a text, which ends between two characters as a reader counts them.
+QString Cut(const QString &text, qsizetype most) {
+    if (text.size() <= most) {
+        return text;
+    }
+    // A letter with its marks is kept whole, unless the marks go on for ever.
+    constexpr qsizetype longestCharacter = 32;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.left(most));
+    finder.setPosition(most - 1);
+    const qsizetype last = finder.isAtBoundary() ? most - 1 : finder.toPreviousBoundary();
+    return text.left(std::max(last, most - longestCharacter)) + ellipsis;
+}
+
+QString WithoutTurns(QString text) {
+    return text.removeIf(TurnsDirection);
+}
+
+} // namespace
+
+QString OneLine(const QString &text, qsizetype most) {
+    QString line = WithoutTurns(text.left(2 * most));
+    std::ranges::replace_if(
+        line, [](QChar each) { return each.category() == QChar::Other_Control; }, u' ');
+    return Cut(line, most);
+}
+
+QString MessageText(const QString &text) {
+    QString shown = WithoutTurns(Cut(text, mostOfMessage));
+    qsizetype end = -1;
+    for (int line = 0; line < mostLines; ++line) {
+        end = shown.indexOf(u'\n', end + 1);
+        if (end < 0) {
+            return shown;
+        }
+    }
+    return shown.left(end + 1) + ellipsis;
+}
+
+QString ToolTipText(const QString &text) {
+    const QString shown = MessageText(text);
+    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
+}
+
+} // namespace kelvaro
