@@ -18,6 +18,11 @@ install(FILES packaging/DBMirvaneBasic.original DESTINATION ${program_folder})
 install(CODE "file(MAKE_DIRECTORY \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/bin\")
   file(CREATE_LINK ../${program_folder}/kelvaro \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/bin/kelvaro\" SYMBOLIC)")
 install(FILES packaging/kelvaro-basic.svg DESTINATION share/icons/hicolor/scalable/apps)
+# Drawn from kelvaro-basic-small.svg, whose few lines stay apart at these sizes.
+foreach(size 16 22 24 32)
+  install(FILES packaging/icons/kelvaro-basic-${size}.png
+    DESTINATION share/icons/hicolor/${size}x${size}/apps RENAME kelvaro-basic.png)
+endforeach()
 install(FILES packaging/kelvaro-basic.desktop DESTINATION share/applications)
 install(FILES packaging/copyright docs/guide.md DESTINATION ${documents_folder})
 

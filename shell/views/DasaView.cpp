@@ -71,6 +71,9 @@ DasaView::DasaView(QWidget *parent)
     balance_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     balance_->setAlignment(Qt::AlignCenter);
     todayLine_->setObjectName(QStringLiteral("todaysPeriods"));
+    for (QLabel *line : {balance_, todayLine_}) {
+        line->setTextFormat(Qt::PlainText);
+    }
     sections_->setObjectName(QStringLiteral("antraSections"));
     sections_->setAccessibleName(tr("Section of the antras"));
     todayButton_->setObjectName(QStringLiteral("cmdToday"));

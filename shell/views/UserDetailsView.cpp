@@ -2,6 +2,8 @@
 
 #include "horoscope/Horoscope.h"
 #include "shell/widgets/ChartColours.h"
+#include "shell/widgets/ShownText.h"
+#include "shell/widgets/TextOf.h"
 
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -200,7 +202,7 @@ void UserDetailsView::Refresh(const Horoscope &horoscope) {
     heading_->Show(horoscope.state);
     const UserDetailsForm &form = horoscope.forms.frm_UserDetails;
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        texts_.at(i)->setText(QString::fromStdString(form.*fields.at(i).text));
+        texts_.at(i)->setText(Breakable(OneLine(TextOf(form.*fields.at(i).text))));
     }
 }
 

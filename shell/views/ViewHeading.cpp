@@ -1,13 +1,15 @@
 #include "shell/views/ViewHeading.h"
 
 #include "shell/widgets/ChartColours.h"
+#include "shell/widgets/ShownText.h"
+#include "shell/widgets/TextOf.h"
 
 #include <utility>
 
 namespace kelvaro {
 
 ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
-    const auto text = [](const std::string &field) { return QString::fromStdString(field); };
+    const auto text = [](const std::string &field) { return Breakable(OneLine(TextOf(field))); };
     const auto twoDigits = [&](const std::string &field) { return text(field).rightJustified(2, u'0'); };
     QStringList place{text(state.birth.BirthCity), text(state.birth.BirthCountry)};
     place.removeAll(QString());

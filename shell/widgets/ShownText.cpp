@@ -10,6 +10,7 @@ namespace kelvaro {
 namespace {
 
 constexpr qsizetype mostOfMessage = 1500; // characters
+constexpr qsizetype longestWordOfMessage = 60;
 constexpr int mostLines = 20;
 constexpr QChar ellipsis = u'\u2026';
 
@@ -44,8 +45,26 @@ QString OneLine(const QString &text, qsizetype most) {
     return Cut(line, most);
 }
 
+QString Breakable(const QString &text, qsizetype longestWord) {
+    constexpr QChar zeroWidthSpace = u'\u200b';
+    QString broken;
+    QTextBoundaryFinder character(QTextBoundaryFinder::Grapheme, text);
+    qsizetype length = 0;
+    qsizetype from = 0;
+    for (qsizetype to = character.toNextBoundary(); to > 0; to = character.toNextBoundary()) {
+        length = text.at(from).isSpace() ? 0 : length + 1;
+        if (length > longestWord) {
+            broken += zeroWidthSpace;
+            length = 1;
+        }
+        broken += QStringView(text).sliced(from, to - from);
+        from = to;
+    }
+    return broken;
+}
+
 QString MessageText(const QString &text) {
-    QString shown = WithoutTurns(Cut(text, mostOfMessage));
+    QString shown = Breakable(WithoutTurns(Cut(text, mostOfMessage)), longestWordOfMessage);
     qsizetype end = -1;
     for (int line = 0; line < mostLines; ++line) {
         end = shown.indexOf(u'\n', end + 1);

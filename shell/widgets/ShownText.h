@@ -11,6 +11,9 @@ namespace kelvaro {
 /// A text in one line of at most so many characters. An ellipsis stands for what is cut.
 QString OneLine(const QString &text, qsizetype most = 255);
 
+/// The text with places to break a line within words that are longer than so many characters.
+QString Breakable(const QString &text, qsizetype longestWord = 20);
+
 /// A text of a message: its lines, as many of them and as long as a screen has room for.
 QString MessageText(const QString &text);
 

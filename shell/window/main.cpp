@@ -5,6 +5,21 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+namespace {
+
+/// The icon of the program, in its plainer drawing where it is small.
+QIcon ProgramIcon() {
+    const QIcon small(QStringLiteral(":/kelvaro-basic-small.svg"));
+    const QIcon large(QStringLiteral(":/kelvaro-basic.svg"));
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        icon.addPixmap((size > 32 ? large : small).pixmap(QSize(size, size), 1.0));
+    }
+    return icon;
+}
+
+} // namespace
+
 int main(int argc, char **argv) {
     const QApplication application(argc, argv);
     QApplication::setOrganizationName(QStringLiteral("Kelvaro"));
@@ -22,7 +37,7 @@ int main(int argc, char **argv) {
         window.Start(QApplication::applicationDirPath().toStdString(),
                      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
         // The drawing of the icon would keep the first view waiting.
-        QApplication::setWindowIcon(QIcon(QStringLiteral(":/kelvaro-basic.svg")));
+        QApplication::setWindowIcon(ProgramIcon());
     });
     begin.start(0);
     return QApplication::exec();

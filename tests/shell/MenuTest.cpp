@@ -2,6 +2,7 @@
 #include "tests/shell/MainWindowCase.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
+#include <QDataStream>
 #include <QDialog>
 #include <QMenu>
 #include <QMenuBar>
@@ -54,6 +55,8 @@ private slots:
     void HelpOpensAtTheSubjectInFront();
     void KeysServeTheForms();
     void WindowComesBackWhereItWas();
+    void WindowBeyondTheScreensIsBroughtBack();
+    void IconsFollowTheTheme();
     void LastChartComesBack();
     void ExitUnloadsTheWindowsInOrder();
 
@@ -185,6 +188,46 @@ void MenuTest::WindowComesBackWhereItWas() {
     QVERIFY(window_->close());
     Open();
     QTRY_COMPARE(window_->geometry(), place);
+}
+
+void MenuTest::IconsFollowTheTheme() {
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    for (const QColor &ink : {QColor(20, 20, 20), QColor(240, 240, 240)}) {
+        dark.setColor(QPalette::WindowText, ink);
+        QApplication::setPalette(dark);
+        for (const char *menu : {"mnuTools", "mnuBirthTime", "mdiHelpmnu"}) {
+            for (const QAction *entry : Find<QAction>(menu)->menu()->actions()) {
+                const QImage icon = entry->icon().pixmap(QSize(24, 24)).toImage();
+                bool isDrawn = entry->isSeparator();
+                for (int dot = 0; !isDrawn && dot < icon.width() * icon.height(); ++dot) {
+                    isDrawn = icon.pixelColor(dot % icon.width(), dot / icon.width()) == ink;
+                }
+                QVERIFY2(isDrawn, qPrintable(entry->text()));
+            }
+        }
+    }
+    QApplication::setPalette(before);
+}
+
+/// What the settings hold after screens have gone, or after somebody wrote into them.
+void MenuTest::WindowBeyondTheScreensIsBroughtBack() {
+    const QRect screen = window_->screen()->availableGeometry();
+    for (const QRect &place : {QRect(0, 0, 5000, 4000), QRect(100, 100, 2000000000, 2000000000),
+                               QRect(screen.right() - 100, screen.bottom() - 100, 800, 600)}) {
+        for (const bool isMaximized : {false, true}) {
+            QByteArray kept;
+            QDataStream stream(&kept, QIODevice::WriteOnly);
+            stream.setVersion(QDataStream::Qt_4_0);
+            stream << quint32(0x1D9D0CB) << quint16(3) << quint16(0) << place << place << 0 << isMaximized
+                   << false << 0 << place;
+            QSettings(SettingsFile(), QSettings::IniFormat).setValue(QStringLiteral("Window/Geometry"), kept);
+            Open();
+            QVERIFY(screen.contains(window_->geometry()));
+            window_->showNormal();
+            QVERIFY(screen.contains(window_->geometry()));
+        }
+    }
 }
 
 void MenuTest::LastChartComesBack() {
