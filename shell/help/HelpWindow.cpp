@@ -31,6 +31,7 @@ HelpWindow::HelpWindow(QWidget *parent)
     resize(firstSize);
     headings_->setAccessibleName(tr("Contents"));
     QPalette colours = ParchmentPalette();
+    text_->setPalette(colours);
     colours.setColor(QPalette::Base, parchmentColour);
     headings_->setPalette(colours);
     headings_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

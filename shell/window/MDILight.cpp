@@ -34,14 +34,15 @@ constexpr qsizetype widestOwner = 60; // characters
 constexpr const char *geometryKey = "Window/Geometry";
 constexpr const char *serverKey = "Server/Address";
 
-/// The windows of the program in the order in which its end unloads them.
+/// The windows of the program in the order in which its end unloads them. The birth form takes the list of
+/// saved charts with it, which is its own.
 constexpr std::array<const char *, 18> unloadOrder{
     "frm_UserDetails",   "frm_rasi",        "frm_BhavaChart",
     "frm_Navamsa",       "frm_CBhava",      "Frm_PP",
     "Frm_Vargas",        "Frm_AVargas",     "Frm_Dasa",
     "Frm_Print",         "frm_Add_Country", "frm_New_LatLon",
     "frm_AddTimeZone",   "frm_Details",     "frm_IshtaghatikaToBirthTime",
-    "frm_MainHoroscope", "frm_Preferences", "Frm_RetriveBirthData"};
+    "frm_MainHoroscope", "frm_Preferences", "frm_OpenChart"};
 
 /// The place of a window, moved and made smaller as far as it takes to lie on a screen; all of the screen
 /// where it is no place at all.

@@ -59,6 +59,7 @@ private slots:
     void IconsFollowTheTheme();
     void LastChartComesBack();
     void ExitUnloadsTheWindowsInOrder();
+    void EndWithOpenFormsIsClean();
 
 private:
     QAction *Action(const char *name) const { return Find<QAction>(name); }
@@ -264,6 +265,13 @@ void MenuTest::ExitUnloadsTheWindowsInOrder() {
     QVERIFY(!window_->isVisible());
     window_.reset();
     QCOMPARE(unloaded, order);
+}
+
+void MenuTest::EndWithOpenFormsIsClean() {
+    Start();
+    QTest::keyClick(window_.get(), Qt::Key_O, Qt::ControlModifier);
+    QTRY_VERIFY(Find("Frm_RetriveBirthData") != nullptr);
+    window_.reset(); // as a session that ends does it
 }
 
 QTEST_MAIN(MenuTest)
