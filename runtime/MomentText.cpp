@@ -20,7 +20,7 @@ constexpr std::array<std::string_view, 7> weekdayNames{"Sunday",   "Monday", "Tu
                                                        "Thursday", "Friday", "Saturday"};
 
 [[noreturn]] void FailToRead(std::string_view text, const char *wanted) {
-    throw ConversionError("Type mismatch: \"" + std::string(text) + "\" is not " + wanted);
+    throw ConversionError("Type mismatch: \"" + OneLine(text) + "\" is not " + wanted);
 }
 
 std::optional<int> WholeNumber(std::string_view digits) {

@@ -54,7 +54,7 @@ double NumberFromText(std::string_view text) {
     double value = 0;
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error != std::errc{} || end != digits.data() + digits.size() || !std::isfinite(value)) {
-        throw ConversionError("Type mismatch: \"" + std::string(text) + "\" is not a number");
+        throw ConversionError("Type mismatch: \"" + OneLine(text) + "\" is not a number");
     }
     return value;
 }

@@ -30,6 +30,13 @@ template <auto text, typename Fields> bool LacksNumber(const Fields &fields) {
     return !IsNumber(fields.*text);
 }
 
+/// Whether a text of the fields is longer than a name may be.
+template <auto text, typename Fields> bool IsTooLong(const Fields &fields) {
+    return CharactersIn(fields.*text) > longestName;
+}
+
+inline constexpr std::string_view nameTooLong = "A name has at most 255 characters.";
+
 /// What the first broken rule tells; nothing where all are kept. A rule may rely on those before it.
 template <typename Fields>
 std::optional<Notice> FirstBroken(std::type_identity_t<std::span<const Rule<Fields>>> rules,

@@ -6,8 +6,20 @@ namespace kelvaro {
 
 namespace {
 
-constexpr char Lower(char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+/// Whether a byte is the first, or the only one, of a character in UTF-8.
+bool BeginsCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
+}
+
+/// How many bytes the first so many characters take.
+std::size_t BytesOf(std::string_view text, std::size_t characters) {
+    std::size_t bytes = 0;
+    for (; bytes < text.size(); ++bytes) {
+        if (BeginsCharacter(text[bytes]) && characters-- == 0) {
+            break;
+        }
+    }
+    return bytes;
 }
 
 } // namespace
@@ -23,18 +35,23 @@ bool IsBlank(std::string_view text) {
     return Trimmed(text).empty();
 }
 
-std::string LowerCase(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(), Lower);
-    return lower;
-}
-
 bool SameIgnoringCase(std::string_view left, std::string_view right) {
-    return std::ranges::equal(left, right, {}, Lower, Lower);
+    return std::ranges::equal(left, right, {}, LowerCase, LowerCase);
 }
 
-bool BeginsWith(std::string_view text, std::string_view beginning) {
-    return SameIgnoringCase(text.substr(0, beginning.size()), beginning);
+std::size_t CharactersIn(std::string_view text) {
+    return static_cast<std::size_t>(std::ranges::count_if(text, BeginsCharacter));
+}
+
+std::string OneLine(std::string_view text) {
+    std::string line(text.substr(0, BytesOf(text, longestName)));
+    if (line.size() < text.size()) {
+        line.resize(BytesOf(line, longestName - 1));
+        line += "…";
+    }
+    std::ranges::replace_if(
+        line, [](unsigned char sign) { return sign < ' ' || sign == 0x7F; }, ' ');
+    return line;
 }
 
 } // namespace kelvaro

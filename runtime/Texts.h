@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,12 +12,23 @@ std::string_view Trimmed(std::string_view text);
 /// Whether nothing but blanks and tabs is in the text.
 bool IsBlank(std::string_view text);
 
-// Only the letters A to Z have a case: all other bytes, those of other scripts included, stand as they are.
+// For the words of the program and of the database's statements, in which only A to Z have a case: all other
+// bytes stand as they are.
 
-std::string LowerCase(std::string_view text);
+constexpr char LowerCase(char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
 bool SameIgnoringCase(std::string_view left, std::string_view right);
 
-/// Whether a text begins with another one, in any case of letters.
-bool BeginsWith(std::string_view text, std::string_view beginning);
+/// The most characters that a name, or another text that is typed into one line, may have.
+inline constexpr std::size_t longestName = 255;
+
+/// How many characters a text in UTF-8 has.
+std::size_t CharactersIn(std::string_view text);
+
+/// A text as one line for the screen or the page: signs of control are blanks, and of a text that is longer
+/// than a name may be the last character shown is an ellipsis.
+std::string OneLine(std::string_view text);
 
 } // namespace kelvaro

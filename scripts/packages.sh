@@ -1,7 +1,7 @@
 # The Debian packages that each part needs; read by the scripts that build.
 build_packages=(
     g++ cmake ninja-build
-    sqlite3 libsqlitecpp-dev libsqlite3-dev
+    sqlite3 libsqlitecpp-dev libsqlite3-dev libutf8proc-dev
 )
 desktop_packages=(
     qt6-base-dev libgl-dev

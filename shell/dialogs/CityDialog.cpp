@@ -49,8 +49,8 @@ CityDialog::~CityDialog() = default;
 
 void CityDialog::ShowCity() {
     store::CityFields fields;
-    if (ChosenKey(edit_.city) != 0) {
-        master_.Show(ChosenText(edit_.city).toStdString(), fields);
+    if (const std::int32_t chosen = ChosenKey(edit_.city); chosen != 0) {
+        master_.Show({ChosenText(edit_.city).toStdString(), chosen}, fields);
     }
     edit_.name->setText(TextOf(fields.city));
     edit_.latDeg->setText(TextOf(fields.latDeg));

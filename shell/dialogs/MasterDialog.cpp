@@ -1,11 +1,14 @@
 #include "shell/dialogs/MasterDialog.h"
 
+#include "runtime/Texts.h"
 #include "shell/widgets/FieldFocus.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/ListedChoice.h"
 #include "shell/widgets/MessageBoxes.h"
 
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 
@@ -24,6 +27,12 @@ void MasterDialog::showEvent(QShowEvent *event) {
     constexpr double partOfScreen = 0.9; // the rest is for the window's frame
     resize(size().boundedTo(screen()->availableSize() * partOfScreen));
     DressButtons(*this);
+    for (QLineEdit *line : findChildren<QLineEdit *>()) {
+        // The line of a box shows whole rows, which say more than a name.
+        if (qobject_cast<QComboBox *>(line->parentWidget()) == nullptr) {
+            line->setMaxLength(static_cast<int>(longestName));
+        }
+    }
     QDialog::showEvent(event);
 }
 

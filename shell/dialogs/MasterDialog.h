@@ -11,9 +11,9 @@ class QPushButton;
 
 namespace kelvaro {
 
-/// What the dialogs of the masters have in common: they open no larger than the screen, Enter goes from field
-/// to field and presses buttons, outcomes are told, and errors are shown with what was typed left in its
-/// place.
+/// What the dialogs of the masters have in common: they open no larger than the screen, a line takes no more
+/// than a name has, Enter goes from field to field and presses buttons, outcomes are told, and errors are
+/// shown with what was typed left in its place.
 class MasterDialog : public QDialog {
 public:
     using QDialog::QDialog;

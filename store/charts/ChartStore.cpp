@@ -4,6 +4,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
+#include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
 
 #include <algorithm>
@@ -60,6 +61,12 @@ void AssignPlace(const Place &place, Recordset &row) {
     row.Assign("LongitudeMinute", place.lonMin);
 }
 
+/// Name and date each as one line: the date stays in sight behind a name that is too long.
+std::string ShownName(const std::string &nameWithDate) {
+    const auto end = std::min(nameWithDate.find('~'), nameWithDate.size());
+    return OneLine(nameWithDate.substr(0, end)) + OneLine(nameWithDate.substr(end));
+}
+
 Value WholeNumber(std::int32_t number) {
     return std::int64_t{number};
 }
@@ -84,10 +91,10 @@ ChartList ChartStore::fnFillChart(std::string_view DataGen) const {
     }
     ChartList list{std::string(choice->heading), {}};
     Recordset rows;
-    rows.Open(choice->statement, connection_);
-    for (; !rows.IsEndOfFile(); rows.MoveNext()) {
-        list.List_VC_ChartName.push_back({rows.Text("ChartName"), rows.Integer("SNO")});
-    }
+    rows.Open(std::string(choice->statement) + std::string(inAnyCase), connection_);
+    rows.ForEach([&list](const Recordset &row) {
+        list.List_VC_ChartName.push_back({ShownName(row.Text("ChartName")), row.Integer("SNO")});
+    });
     return list;
 }
 
@@ -124,18 +131,18 @@ StoredChart ChartStore::Read(std::int32_t number) const {
     row.Open("Select * From ChartSave where Sno = " + std::to_string(number), connection_);
     StoredChart chart;
     chart.Sno = row.Integer("SNO");
-    chart.ChartName = row.Text("ChartName");
-    chart.Gender = row.Text("gender");
+    chart.ChartName = ShownName(row.Text("ChartName"));
+    chart.Gender = row.Line("gender");
     chart.Country = row.Integer("Country");
-    chart.City = row.Text("City");
+    chart.City = row.Line("City");
     chart.ChartDay = row.Integer("ChartDay");
     chart.ChartMonth = row.Integer("ChartMonth");
     chart.ChartYear = row.Integer("ChartYear");
     chart.ChartHour = row.Integer("ChartHour");
     chart.ChartMinute = row.Integer("ChartMinute");
     chart.ChartSecond = row.Integer("ChartSecond");
-    chart.place = {row.Number("LatitudeDegree"),  row.Number("LatitudeMinute"),  row.Text("Latitude_NS"),
-                   row.Number("LongitudeDegree"), row.Number("LongitudeMinute"), row.Text("Longitude_EW")};
+    chart.place = {row.Number("LatitudeDegree"),  row.Number("LatitudeMinute"),  row.Line("Latitude_NS"),
+                   row.Number("LongitudeDegree"), row.Number("LongitudeMinute"), row.Line("Longitude_EW")};
     if (!row.IsNull("Timedifference")) {
         chart.TimeDifference = row.Integer("Timedifference");
     }

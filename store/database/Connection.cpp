@@ -2,8 +2,9 @@
 
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
+#include "store/database/FaultTexts.h"
 #include "store/database/MemoryCopy.h"
-#include "store/database/SqliteErrors.h"
+#include "store/database/NameCollation.h"
 
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
@@ -14,6 +15,7 @@
 #include <array>
 #include <string>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace kelvaro::store {
@@ -27,7 +29,8 @@ constexpr std::array<std::string_view, 11> neededTables = {
 std::filesystem::path ExistingFile(const std::filesystem::path &file) {
     std::error_code unreadable;
     if (!std::filesystem::exists(file, unreadable) && !unreadable) {
-        throw StoreError("The database file " + file.string() + " is missing.");
+        throw StoreError("The database file " + file.string() +
+                         " is missing. Put a backup copy of it in its place.");
     }
     return std::filesystem::absolute(file);
 }
@@ -71,6 +74,7 @@ void Connection::Open(const std::filesystem::path &file) {
         // second file, which a user who copies the database leaves behind, and cannot be read in a
         // write-protected folder.
         database->exec("pragma synchronous = full");
+        AddNameCollation(*database);
         database_ = std::move(database);
     } catch (const SQLite::Exception &error) {
         throw StoreError(InWords(error, file_));
@@ -82,8 +86,19 @@ void Connection::OpenCopyInMemory(const std::filesystem::path &file) {
     Close();
     try {
         database_ = CopyInMemory(file_, longestWait_);
+        AddNameCollation(*database_);
     } catch (const SQLite::Exception &error) {
         throw StoreError(InWords(error, file_));
+    }
+}
+
+void Connection::OnRowsLeftOut(Teller tell) {
+    tellRowsLeftOut_ = std::move(tell);
+}
+
+void Connection::TellRowsLeftOut(const std::string &remark) const {
+    if (tellRowsLeftOut_) {
+        tellRowsLeftOut_(remark);
     }
 }
 
@@ -100,13 +115,14 @@ void Connection::Execute(std::string_view statement) {
     try {
         SQLite::Statement(database, Translated(statement)).exec();
     } catch (const SQLite::Exception &error) {
-        throw StoreError(InWords(error, file_));
+        throw StoreError(InWords(error, file_, statement));
     }
 }
 
 SQLite::Database &Connection::Database() {
     if (!database_) {
-        throw StoreError("The connection to the database is closed.");
+        throw StoreError("The connection to the database is closed: nothing can be read or stored. Start the "
+                         "program anew when the database file is in its place.");
     }
     return *database_;
 }

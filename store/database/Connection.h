@@ -4,7 +4,9 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace SQLite {
@@ -19,17 +21,32 @@ public:
     using RuntimeError::RuntimeError;
 };
 
+/// A row with a value that cannot be used, described in words for the user; the rows beside it may be sound.
+class DamagedRow : public StoreError {
+public:
+    DamagedRow(const std::string &description, std::string details)
+        : StoreError(description), details_(std::move(details)) {}
+
+    /// Which value it is.
+    const std::string &Details() const { return details_; }
+
+private:
+    std::string details_;
+};
+
 /// The one connection to the program's database.
 ///
 /// Statements are those of the program: plain SQL with values joined into the text. Only the first statement
 /// of a text runs, whatever stands behind a semicolon. All operations but `Open`, `OpenCopyInMemory`,
-/// `IsOpen` and `Close` raise StoreError on a closed connection. A database that another program has locked
-/// is waited for.
+/// `IsOpen`, those for rows left out, and `Close` raise StoreError on a closed connection.
 class Connection {
 public:
+    /// How long a lock of another program is waited for, at each use of the database and at the first copy of
+    /// its file. Then the use fails.
     static constexpr std::chrono::milliseconds patience{3000};
 
-    /// Waits at most that time for another program's lock.
+    using Teller = std::function<void(const std::string &)>;
+
     explicit Connection(std::chrono::milliseconds longestWait = patience);
     Connection(const Connection &) = delete;
     Connection &operator=(const Connection &) = delete;
@@ -43,6 +60,10 @@ public:
     /// Opens a private copy in memory; the file itself is only read. The copy starts with an empty
     /// `tempBhukthi`, which grows with every horoscope and which nothing reads. Raises like `Open`.
     void OpenCopyInMemory(const std::filesystem::path &file);
+
+    /// Whom to tell, in words for the user, of damaged rows that a list was opened without. Nobody at first.
+    void OnRowsLeftOut(Teller tell);
+    void TellRowsLeftOut(const std::string &remark) const;
 
     bool IsOpen() const;
     /// Undoes a transaction that is still running. Closing a closed connection does nothing.
@@ -63,6 +84,7 @@ private:
     int longestWait_; ///< milliseconds
     std::filesystem::path file_;
     std::unique_ptr<SQLite::Database> database_;
+    Teller tellRowsLeftOut_;
 };
 
 /// Makes the statements until `Commit` one change: what is not committed when the object goes is undone.

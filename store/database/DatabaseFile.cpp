@@ -1,17 +1,20 @@
 #include "store/database/DatabaseFile.h"
 
 #include "store/database/Connection.h"
-#include "store/database/SqliteErrors.h"
+#include "store/database/FaultTexts.h"
 
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <fstream>
 #include <random>
 #include <string>
 #include <system_error>
+#include <utility>
+#include <vector>
 
 namespace kelvaro::store {
 
@@ -21,8 +24,6 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view copiedMark = "DBMirvaneBasic.copied";
 constexpr std::string_view originalMark = "DBMirvaneBasic.original";
-constexpr int busyMilliseconds = 1000;
-
 /// A file name that no other start of the program uses.
 std::string PassingName() {
     return ".DBMirvaneBasic-" + std::to_string(std::random_device()());
@@ -34,22 +35,39 @@ bool IsInstalled(const fs::path &programFolder) {
     return fs::exists(programFolder / originalMark, unreadable);
 }
 
-/// Only trying tells: permissions, access lists and write-protected media all have a say.
+/// Writes a new file; what the system says where that fails.
+std::error_code WriteTo(const fs::path &file, std::string_view text) {
+    errno = 0;
+    std::ofstream stream(file);
+    stream << text;
+    stream.flush();
+    if (stream) {
+        return {};
+    }
+    return {errno == 0 ? EIO : errno, std::generic_category()};
+}
+
+bool IsFull(const std::error_code &error) {
+    return error == std::errc::no_space_on_device || error == std::errc::file_too_large ||
+           error.value() == EDQUOT;
+}
+
+/// Only trying tells: permissions, access lists and write-protected media all have a say. A folder on a full
+/// disk is one that can be written, or the charts in it would be missed.
 bool CanWriteInto(const fs::path &folder) {
     const fs::path probe = folder / PassingName();
-    if (!std::ofstream(probe)) {
-        return false;
-    }
+    const std::error_code failure = WriteTo(probe, "");
     std::error_code ignored;
     fs::remove(probe, ignored);
-    return true;
+    return !failure || IsFull(failure);
 }
 
 void LeaveMark(const fs::path &userFolder) {
-    std::ofstream mark(userFolder / copiedMark);
-    mark << "The database in this folder was copied from the program's folder at its first start.\n";
-    if (!mark.flush()) {
-        throw StoreError("The folder " + userFolder.string() + " cannot be written.");
+    const std::error_code failure =
+        WriteTo(userFolder / copiedMark,
+                "The database in this folder was copied from the program's folder at its first start.\n");
+    if (failure) {
+        throw fs::filesystem_error("", failure);
     }
 }
 
@@ -58,7 +76,8 @@ void LeaveMark(const fs::path &userFolder) {
 void CopyDatabase(const fs::path &from, const fs::path &to) {
     const fs::path unfinished = to.parent_path() / PassingName();
     try {
-        SQLite::Database source(from.string(), SQLite::OPEN_READONLY, busyMilliseconds);
+        constexpr int longestWait = static_cast<int>(Connection::patience.count());
+        SQLite::Database source(from.string(), SQLite::OPEN_READONLY, longestWait);
         SQLite::Database copy(unfinished.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         if (SQLite::Backup(copy, source).executeStep() != SQLITE_DONE) {
             throw StoreError("The database file " + from.string() + " is locked by another program.");
@@ -71,21 +90,89 @@ void CopyDatabase(const fs::path &from, const fs::path &to) {
     fs::rename(unfinished, to);
 }
 
-void CopyForUser(const fs::path &programFile, const fs::path &userFolder) {
-    Connection().Open(programFile);
-    try {
-        fs::create_directories(userFolder);
-        if (!CanWriteInto(userFolder)) {
-            throw StoreError("The folder " + userFolder.string() + " for the database cannot be written.");
-        }
-        CopyDatabase(programFile, userFolder / databaseFileName);
-    } catch (const SQLite::Exception &error) {
-        throw StoreError("The database cannot be copied into the folder " + userFolder.string() + ": " +
-                         InWords(error, programFile));
-    } catch (const fs::filesystem_error &error) {
-        throw StoreError("The database cannot be copied into the folder " + userFolder.string() + ": " +
-                         error.code().message() + ".");
+/// Why the copy cannot be made, and what to do.
+StoreError NotCopied(const fs::path &userFolder, const std::string &cause, const std::string &advice) {
+    return StoreError("The database cannot be copied into the folder " + userFolder.string() + ": " + cause +
+                      ". " + advice + ", then start the program again.");
+}
+
+StoreError NotCopied(const fs::path &userFolder, const std::error_code &error) {
+    return IsFull(error)
+               ? NotCopied(userFolder, "there is no room left on the disk of that folder", "Make room")
+               : NotCopied(userFolder, error.message(), "Let that folder be written");
+}
+
+StoreError NotCopied(const fs::path &userFolder, const SQLite::Exception &error,
+                     const fs::path &programFile) {
+    constexpr int primaryCode = 0xff;
+    switch (error.getErrorCode() & primaryCode) {
+    case SQLITE_FULL:
+        return NotCopied(userFolder, std::make_error_code(std::errc::no_space_on_device));
+    case SQLITE_IOERR: // a quota too
+        return NotCopied(userFolder, "the disk of that folder is full or fails", "Make room");
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return StoreError(InWords(error, programFile));
+    default:
+        return NotCopied(userFolder, "it cannot be written", "Let it be written");
     }
+}
+
+/// The folders of a path that are not there yet, the innermost first.
+std::vector<fs::path> MissingFolders(const fs::path &folder) {
+    std::vector<fs::path> missing;
+    std::error_code unreadable;
+    for (fs::path each = folder; !each.empty() && !fs::exists(each, unreadable); each = each.parent_path()) {
+        missing.push_back(each);
+    }
+    return missing;
+}
+
+/// Runs a step of the first start; where it fails, what was made by then is taken away, the last thing first.
+template <typename Step>
+void AllOrNothing(Step step, const fs::path &programFile, const fs::path &userFolder,
+                  const std::vector<fs::path> &made) {
+    const auto undo = [&made] {
+        for (const fs::path &each : made) {
+            std::error_code ignored;
+            fs::remove(each, ignored);
+        }
+    };
+    try {
+        step();
+    } catch (const SQLite::Exception &error) {
+        undo();
+        throw NotCopied(userFolder, error, programFile);
+    } catch (const fs::filesystem_error &error) {
+        undo();
+        throw NotCopied(userFolder, error.code());
+    } catch (...) {
+        undo();
+        throw;
+    }
+}
+
+/// Copies the program's file unless the user has one, and leaves the mark. The mark comes last: a start that
+/// is broken off before it finds the copy and only leaves the mark.
+void SetUp(const fs::path &userFolder, const fs::path &programFile) {
+    const fs::path userFile = userFolder / databaseFileName;
+    std::error_code unreadable;
+    const bool hasFile = fs::exists(userFile, unreadable);
+    if (!hasFile) {
+        Connection().Open(programFile);
+    }
+    std::vector<fs::path> made = MissingFolders(userFolder);
+    AllOrNothing(
+        [&] {
+            if (!hasFile) {
+                fs::create_directories(userFolder);
+                CopyDatabase(programFile, userFile);
+                made.insert(made.begin(), userFile);
+            }
+            made.insert(made.begin(), userFolder / copiedMark);
+            LeaveMark(userFolder);
+        },
+        programFile, userFolder, made);
 }
 
 } // namespace
@@ -98,11 +185,7 @@ fs::path FindDatabaseFile(const fs::path &programFolder, const fs::path &userFol
     fs::path userFile = userFolder / databaseFileName;
     std::error_code unreadable;
     if (!fs::exists(userFolder / copiedMark, unreadable)) {
-        if (!fs::exists(userFile, unreadable)) {
-            CopyForUser(programFile, userFolder);
-        }
-        // The mark comes last: a start that is broken off before it finds the copy and only leaves the mark.
-        LeaveMark(userFolder);
+        SetUp(userFolder, programFile);
     }
     return userFile;
 }

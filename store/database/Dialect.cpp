@@ -4,6 +4,7 @@
 #include "store/database/Connection.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 
 namespace kelvaro::store {
@@ -47,9 +48,23 @@ std::string Translated(std::string_view statement) {
     return translated;
 }
 
+std::string TableOf(std::string_view statement) {
+    constexpr std::array<std::string_view, 3> wordsBeforeTable{"from", "into", "update"};
+    std::string_view rest = statement;
+    for (std::string_view word = TakeWord(rest); !word.empty(); word = TakeWord(rest)) {
+        if (std::ranges::any_of(wordsBeforeTable,
+                                [word](std::string_view each) { return SameIgnoringCase(each, word); })) {
+            std::string table(TakeWord(rest));
+            std::erase_if(table, [](char sign) { return sign == '[' || sign == ']'; });
+            return table;
+        }
+    }
+    return {};
+}
+
 std::string Quoted(std::string_view text) {
     if (text.find('\'') != std::string_view::npos) {
-        throw StoreError("Syntax error: the quote in " + std::string(text) +
+        throw StoreError("Syntax error: the quote in " + OneLine(text) +
                          " ends the text of the statement. Leave it out.");
     }
     std::string quoted = "'";

@@ -10,6 +10,9 @@ namespace kelvaro::store {
 /// case and names without blanks around them are taken as they stand.
 std::string Translated(std::string_view statement);
 
+/// The first table that a statement names, without brackets; empty where it names none.
+std::string TableOf(std::string_view statement);
+
 /// A text between quotes, as it is joined into a statement. Nothing is escaped: a quote inside would end the
 /// text early and make the rest of it part of the statement, so it raises StoreError, in words for the user.
 std::string Quoted(std::string_view text);

@@ -3,7 +3,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
-#include "store/database/SqliteErrors.h"
+#include "store/database/FaultTexts.h"
 
 #include <SQLiteCpp/Column.h>
 #include <SQLiteCpp/Database.h>
@@ -58,7 +58,7 @@ std::string TextOf(const Value &value) {
     return text != nullptr ? *text : std::string();
 }
 
-double NumberOf(const Value &value, const std::string &name) {
+double NumberOf(const Value &value) {
     if (const auto *whole = std::get_if<std::int64_t>(&value)) {
         return static_cast<double>(*whole);
     }
@@ -67,7 +67,7 @@ double NumberOf(const Value &value, const std::string &name) {
     }
     const auto *text = std::get_if<std::string>(&value);
     if (text == nullptr) {
-        throw ConversionError("Invalid use of null: the field " + name + " is empty");
+        throw ConversionError("nothing");
     }
     return NumberFromText(*text);
 }
@@ -89,7 +89,7 @@ void Recordset::Open(std::string_view statement, Connection &connection) {
     try {
         opened.TakeRows(wholeRows ? wholeRows->statementWithKey : Translated(statement), database);
     } catch (const SQLite::Exception &error) {
-        throw StoreError(InWords(error, connection.file_));
+        throw StoreError(InWords(error, connection.file_, statement));
     }
     opened.isOpen_ = true;
     *this = std::move(opened);
@@ -128,6 +128,21 @@ void Recordset::MoveNext() {
     ++position_;
 }
 
+void Recordset::ForEach(const std::function<void(const Recordset &)> &take) {
+    std::size_t leftOut = 0;
+    std::string details;
+    for (; !IsEndOfFile(); MoveNext()) {
+        try {
+            take(*this);
+        } catch (const DamagedRow &damage) {
+            details = ++leftOut == 1 ? damage.Details() : details;
+        }
+    }
+    if (leftOut > 0) {
+        connection_->TellRowsLeftOut(RowsLeftOut(statement_, leftOut, details));
+    }
+}
+
 bool Recordset::IsNull(std::size_t field) const {
     return std::holds_alternative<std::monostate>(ValueAt(field));
 }
@@ -137,11 +152,21 @@ std::string Recordset::Text(std::size_t field) const {
 }
 
 double Recordset::Number(std::size_t field) const {
-    return NumberOf(ValueAt(field), names_[field]);
+    const Value &value = ValueAt(field);
+    try {
+        return NumberOf(value);
+    } catch (const ConversionError &) {
+        FailForValue(field);
+    }
 }
 
 std::int32_t Recordset::Integer(std::size_t field) const {
-    return ToInt32(Number(field));
+    const double number = Number(field);
+    try {
+        return ToInt32(number);
+    } catch (const OverflowError &) {
+        FailForValue(field);
+    }
 }
 
 bool Recordset::IsNull(std::string_view field) const {
@@ -152,12 +177,25 @@ std::string Recordset::Text(std::string_view field) const {
     return Text(FieldIndex(field));
 }
 
+std::string Recordset::Line(std::string_view field) const {
+    return OneLine(Text(field));
+}
+
 double Recordset::Number(std::string_view field) const {
     return Number(FieldIndex(field));
 }
 
 std::int32_t Recordset::Integer(std::string_view field) const {
     return Integer(FieldIndex(field));
+}
+
+std::int16_t Recordset::ShortInteger(std::string_view field) const {
+    const double number = Number(field);
+    try {
+        return ToInt16(number);
+    } catch (const OverflowError &) {
+        FailForValue(FieldIndex(field));
+    }
 }
 
 void Recordset::Assign(std::string_view field, Value value) {
@@ -179,7 +217,7 @@ void Recordset::Update() {
     try {
         StoreRow(rows_[position_], database);
     } catch (const SQLite::Exception &error) {
-        throw StoreError(InWords(error, connection_->file_));
+        throw StoreError(InWords(error, connection_->file_, statement_));
     }
     assigned_.clear();
 }
@@ -197,7 +235,7 @@ void Recordset::StoreRow(Row &row, SQLite::Database &database) {
     }
     update.bind(++position, row.key);
     if (!update.executeStep()) {
-        throw StoreError("The row to be changed is no longer in the table " + table_ + ".");
+        throw StoreError(RowHasGone(statement_, connection_->file_));
     }
     std::vector<Value> stored = ValuesFrom(update, 0);
     // The change is committed by the step that finds no further row, which may fail as well.
@@ -216,7 +254,7 @@ std::size_t Recordset::FieldIndex(std::string_view field) const {
     const auto found = std::ranges::find_if(
         names_, [field](const std::string &name) { return SameIgnoringCase(name, field); });
     if (found == names_.end()) {
-        throw StoreError("There is no field " + std::string(field) + " in: " + statement_);
+        FailForTable("there is no column " + std::string(field));
     }
     return static_cast<std::size_t>(found - names_.begin());
 }
@@ -224,7 +262,7 @@ std::size_t Recordset::FieldIndex(std::string_view field) const {
 const Value &Recordset::ValueAt(std::size_t field) const {
     const Row &row = PresentRow();
     if (field >= row.values.size()) {
-        throw StoreError("There is no field " + std::to_string(field) + " in: " + statement_);
+        FailForTable("there is no column number " + std::to_string(field));
     }
     return row.values[field];
 }
@@ -232,12 +270,26 @@ const Value &Recordset::ValueAt(std::size_t field) const {
 const Recordset::Row &Recordset::PresentRow() const {
     RequireOpen();
     if (rows_.empty()) {
-        throw StoreError("No row was found by: " + statement_);
+        throw StoreError(RowHasGone(statement_, connection_->file_));
     }
     if (position_ >= rows_.size()) {
         throw StoreError("All rows have been read of: " + statement_);
     }
     return rows_[position_];
+}
+
+void Recordset::FailForTable(const std::string &details) const {
+    throw StoreError(TableIsDamaged(statement_, connection_->file_, details));
+}
+
+void Recordset::FailForValue(std::size_t field) const {
+    const Row &row = PresentRow();
+    std::string details =
+        names_[field] + (IsNull(field) ? " is empty" : " is \"" + OneLine(Text(field)) + "\"");
+    if (!table_.empty()) {
+        details += " in row " + std::to_string(row.key);
+    }
+    throw DamagedRow(RowIsDamaged(statement_, connection_->file_, details), details);
 }
 
 } // namespace kelvaro::store

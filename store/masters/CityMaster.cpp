@@ -1,8 +1,10 @@
 #include "store/masters/CityMaster.h"
 
+#include "runtime/CaseFolding.h"
 #include "runtime/Numbers.h"
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
+#include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
 
 #include <algorithm>
@@ -71,7 +73,8 @@ constexpr std::array<CityRule, 12> cityAddRules{{
 }};
 
 /// A place that does not exist would make wrong horoscopes.
-constexpr std::array<CityRule, 4> cityAddRanges{{
+constexpr std::array<CityRule, 5> cityAddRanges{{
+    {IsTooLong<&CityFields::city>, nameTooLong, nameOfNewCity},
     {HasWrongMinutes<&CityFields::latMin>, minutesRange, "txtAddLAtMin"},
     {isBeyondPole, latitudeRange, "txtAddLatDeg"},
     {HasWrongMinutes<&CityFields::lonMin>, minutesRange, "txtAddLonMin"},
@@ -79,7 +82,7 @@ constexpr std::array<CityRule, 4> cityAddRanges{{
 }};
 
 /// An empty latitude degree has no rule of its own here; the one for a number catches it.
-constexpr std::array<CityRule, 16> cityUpdateRules{{
+constexpr std::array<CityRule, 17> cityUpdateRules{{
     {LacksCountry, "Select Country ", "cbEditCountry"},
     {[](const CityFields &f) { return f.cityId == 0; }, "Select CIty", "cbEditCity"},
     {LacksText<&CityFields::city>, "Enter City ", "txtEditCity"},
@@ -92,6 +95,7 @@ constexpr std::array<CityRule, 16> cityUpdateRules{{
     {LacksNumber<&CityFields::latMin>, "Enter Number ", "txtEditLatMIn"},
     {LacksNumber<&CityFields::lonDeg>, "Enter Number ", "txtEditLonDeg"},
     {LacksNumber<&CityFields::lonMin>, "Enter Number ", "txtEditLonMin"},
+    {IsTooLong<&CityFields::city>, nameTooLong, "txtEditCity"},
     {HasWrongMinutes<&CityFields::latMin>, minutesRange, "txtEditLatMIn"},
     {isBeyondPole, latitudeRange, "txtEditLatDeg"},
     {HasWrongMinutes<&CityFields::lonMin>, minutesRange, "txtEditLonMin"},
@@ -101,15 +105,15 @@ constexpr std::array<CityRule, 16> cityUpdateRules{{
 MasterRows CityMaster::Cities(std::int32_t countryId) const {
     Recordset rows;
     rows.Open("Select * from City_Master where CountryId = " + std::to_string(countryId) +
-                  " order by CityName",
+                  " order by CityName" + std::string(inAnyCase),
               connection_);
     MasterRows list;
-    for (; !rows.IsEndOfFile(); rows.MoveNext()) {
-        list.items.push_back({rows.Text("cityName"), rows.Integer("CityID")});
-        list.rows.push_back({rows.Text("cityName"), rows.Text("LatitudeDegree"), rows.Text("Latitude_NS"),
-                             rows.Text("LatitudeMinute"), rows.Text("LongitudeDegree"),
-                             rows.Text("Longitude_EW"), rows.Text("LongitudeMinute")});
-    }
+    rows.ForEach([&list](const Recordset &row) {
+        list.items.push_back({row.Line("cityName"), row.Integer("CityID")});
+        list.rows.push_back({row.Line("cityName"), row.Line("LatitudeDegree"), row.Line("Latitude_NS"),
+                             row.Line("LatitudeMinute"), row.Line("LongitudeDegree"),
+                             row.Line("Longitude_EW"), row.Line("LongitudeMinute")});
+    });
     return list;
 }
 
@@ -130,21 +134,26 @@ Outcome CityMaster::Add(const CityFields &fields) {
 bool CityMaster::IsNameUsed(const CityFields &fields) const {
     Recordset rows;
     rows.Open("Select * from City_Master where CountryID = " + std::to_string(fields.countryId) +
-                  " and CityName= " + Quoted(Trimmed(fields.city)),
+                  " and CityName= " + Quoted(Trimmed(fields.city)) + std::string(inAnyCase),
               connection_);
     return !rows.IsEndOfFile();
 }
 
-void CityMaster::Show(std::string_view cityName, CityFields &fields) const {
+void CityMaster::Show(const ListItem &city, CityFields &fields) const {
     Recordset row;
-    row.Open("Select * from City_Master where CityName =" + Quoted(cityName), connection_);
-    fields.city = row.Text("CityName");
-    fields.latDeg = row.Text("LatitudeDegree");
-    fields.latMin = row.Text("LatitudeMinute");
-    fields.latNS = row.Text("Latitude_NS");
-    fields.lonDeg = row.Text("LongitudeDegree");
-    fields.lonMin = row.Text("LongitudeMinute");
-    fields.lonEW = row.Text("Longitude_EW");
+    row.Open("Select * from City_Master where CityName =" + Quoted(city.text) + std::string(inAnyCase),
+             connection_);
+    if (row.IsEndOfFile()) {
+        row.Close();
+        row.Open("Select * from City_Master where CityID =" + std::to_string(city.key), connection_);
+    }
+    fields.city = row.Line("CityName");
+    fields.latDeg = row.Line("LatitudeDegree");
+    fields.latMin = row.Line("LatitudeMinute");
+    fields.latNS = row.Line("Latitude_NS");
+    fields.lonDeg = row.Line("LongitudeDegree");
+    fields.lonMin = row.Line("LongitudeMinute");
+    fields.lonEW = row.Line("Longitude_EW");
 }
 
 Outcome CityMaster::Update(const CityFields &fields) {
@@ -170,7 +179,7 @@ Found CityMaster::Find(const GridRows &rows, std::string_view text) {
         return {std::nullopt, Notice{"Enter City Name to Search", Notice::Icon::Information, "txtCityName"}};
     }
     const auto found = std::ranges::find_if(
-        rows, [beginning](const auto &row) { return BeginsWith(row.front(), beginning); });
+        rows, [beginning](const auto &row) { return BeginsInAnyCase(row.front(), beginning); });
     if (found == rows.end()) {
         return {std::nullopt, Notice{"No matches found for the City Name entered", Notice::Icon::Information,
                                      "txtCityName"}};

@@ -32,8 +32,8 @@ struct CityFields {
 /// The rules of the two tabs, in their order. That the name of a city to be added is new in its country comes
 /// before the ranges.
 extern const std::array<Rule<CityFields>, 12> cityAddRules;
-extern const std::array<Rule<CityFields>, 4> cityAddRanges;
-extern const std::array<Rule<CityFields>, 16> cityUpdateRules;
+extern const std::array<Rule<CityFields>, 5> cityAddRanges;
+extern const std::array<Rule<CityFields>, 17> cityUpdateRules;
 
 /// Adds, edits and finds cities. Notices name the controls of the dialog of cities. All operations raise
 /// StoreError, with nothing changed, where the database fails.
@@ -51,7 +51,10 @@ public:
 
     /// Puts the details of the city of that name into the fields. The country plays no part: of two cities
     /// with one name the database decides. Raises StoreError for a name with a quote or without a city.
-    void Show(std::string_view cityName, CityFields &fields) const;
+    ///
+    /// A name that is too long for a line is shown shortened, and no row has the shortened one: its city is
+    /// found by its key.
+    void Show(const ListItem &city, CityFields &fields) const;
 
     /// Writes name and place into the row of the chosen city where no rule is broken. Unlike `Add` it has no
     /// rule of its own for an empty latitude degree, and none for a name in use.

@@ -1,7 +1,9 @@
 #include "store/masters/CountryMaster.h"
 
+#include "runtime/CaseFolding.h"
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
+#include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
 
 #include <algorithm>
@@ -19,39 +21,43 @@ bool IsNameEmpty(const CountryName &entry) {
 
 bool IsNameUsed(const CountryName &entry) {
     Recordset rows;
-    rows.Open("Select * from Country_Master where CountryName =" + Quoted(entry.name), entry.connection);
+    rows.Open("Select * from Country_Master where CountryName =" + Quoted(entry.name) +
+                  std::string(inAnyCase),
+              entry.connection);
     return !rows.IsEndOfFile();
 }
 
 } // namespace
 
-constexpr std::array<Rule<CountryName>, 2> countryAddRules{{
+constexpr std::array<Rule<CountryName>, 3> countryAddRules{{
     {IsNameEmpty, "Enter a Country Name", newName},
     {IsNameUsed, "Country Name already Exists", newName},
+    {IsTooLong<&CountryName::name, CountryName>, nameTooLong, newName},
 }};
 
-constexpr std::array<Rule<CountryName>, 4> countryRenameRules{{
+constexpr std::array<Rule<CountryName>, 5> countryRenameRules{{
     {IsNameEmpty, "Enter the New Name", "txtEdit"},
     {[](const CountryName &entry) { return entry.name == entry.chosen.text; }, "No Modifications Done",
      "txtEdit"},
     {IsNameUsed, "Country Name already Exists", "txtEdit"},
     {[](const CountryName &entry) { return entry.chosen.key == 0; }, "Select Country", "lstEditBox"},
+    {IsTooLong<&CountryName::name, CountryName>, nameTooLong, "txtEdit"},
 }};
 
 std::vector<ListItem> CountryMaster::Countries() const {
     Recordset rows;
-    rows.Open("select * from Country_Master order by CountryName", connection_);
+    rows.Open("select * from Country_Master order by CountryName" + std::string(inAnyCase), connection_);
     std::vector<ListItem> countries;
-    for (; !rows.IsEndOfFile(); rows.MoveNext()) {
-        countries.push_back({rows.Text("countryName"), rows.Integer("CountryID")});
-    }
+    rows.ForEach([&countries](const Recordset &row) {
+        countries.push_back({row.Line("countryName"), row.Integer("CountryID")});
+    });
     return countries;
 }
 
 Found CountryMaster::Search(const std::vector<ListItem> &countries, std::string_view text) {
     const std::string_view beginning = Trimmed(text);
     const auto found = std::ranges::find_if(
-        countries, [beginning](const ListItem &country) { return BeginsWith(country.text, beginning); });
+        countries, [beginning](const ListItem &country) { return BeginsInAnyCase(country.text, beginning); });
     if (found != countries.end()) {
         return {static_cast<std::size_t>(found - countries.begin()), std::nullopt};
     }

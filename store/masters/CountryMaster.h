@@ -18,8 +18,8 @@ struct CountryName {
 };
 
 /// The rules of the two tabs, in their order. Raise StoreError for a name with a quote.
-extern const std::array<Rule<CountryName>, 2> countryAddRules;
-extern const std::array<Rule<CountryName>, 4> countryRenameRules;
+extern const std::array<Rule<CountryName>, 3> countryAddRules;
+extern const std::array<Rule<CountryName>, 5> countryRenameRules;
 
 /// Adds, renames and finds countries. Notices name the controls of the dialog of countries. All operations
 /// raise StoreError, with nothing changed, where the database fails and for a name with a quote.

@@ -9,9 +9,6 @@ namespace {
 Recordset OpenedRow(std::string_view statement, Connection &connection) {
     Recordset preferences;
     preferences.Open(statement, connection);
-    if (preferences.IsEndOfFile()) {
-        throw StoreError("The table Preference of the database holds no row");
-    }
     return preferences;
 }
 
@@ -24,10 +21,10 @@ std::string OnLoadClass::ConstringVal() const {
 void OnLoadClass::FnPreferences(Connection &connection) {
     const Recordset preferences = OpenedRow("Select * From Preference", connection);
     clsDays_in_a_Year = preferences.Number("DayinYear");
-    clsChart_Type = preferences.Text("ChartStyle");
-    clsLanguage = preferences.Text("PreferLanguage");
-    clsAyanamsa = preferences.Text("Ayanamsa");
-    clsBhava = preferences.Text("Bhava");
+    clsChart_Type = preferences.Line("ChartStyle");
+    clsLanguage = preferences.Line("PreferLanguage");
+    clsAyanamsa = preferences.Line("Ayanamsa");
+    clsBhava = preferences.Line("Bhava");
     clsYear = preferences.Number("customYear");
     clsProgress = preferences.Number("customProgress");
 }

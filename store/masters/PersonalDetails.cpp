@@ -1,5 +1,6 @@
 #include "store/masters/PersonalDetails.h"
 
+#include "runtime/Texts.h"
 #include "store/database/Dialect.h"
 #include "store/database/Recordset.h"
 
@@ -13,17 +14,18 @@ namespace {
 struct Column {
     std::string_view name;
     std::string PersonalDetails::*text;
+    std::string_view control; ///< of the dialog of the letterhead
 };
 
 constexpr std::array<Column, 8> columns{{
-    {"Name", &PersonalDetails::Name},
-    {"Address", &PersonalDetails::Address},
-    {"Address2", &PersonalDetails::Address2},
-    {"City", &PersonalDetails::City},
-    {"Country", &PersonalDetails::Country},
-    {"Zipcode", &PersonalDetails::Zipcode},
-    {"Phone", &PersonalDetails::Phone},
-    {"EMail", &PersonalDetails::EMail},
+    {"Name", &PersonalDetails::Name, "txtName"},
+    {"Address", &PersonalDetails::Address, "txtAdd"},
+    {"Address2", &PersonalDetails::Address2, "txtAdd2"},
+    {"City", &PersonalDetails::City, "txtCity"},
+    {"Country", &PersonalDetails::Country, "txtCountry"},
+    {"Zipcode", &PersonalDetails::Zipcode, "txtZip"},
+    {"Phone", &PersonalDetails::Phone, "txtPhone"},
+    {"EMail", &PersonalDetails::EMail, "txtEmail"},
 }};
 
 } // namespace
@@ -37,7 +39,7 @@ PersonalDetails ReadPersonalDetails(Connection &connection) {
         return details;
     }
     for (const Column &column : columns) {
-        details.*column.text = row.Text(column.name);
+        details.*column.text = row.Line(column.name);
     }
     return details;
 }
@@ -45,6 +47,10 @@ PersonalDetails ReadPersonalDetails(Connection &connection) {
 Notice SavePersonalDetails(const PersonalDetails &details, Connection &connection) {
     std::string values;
     for (const Column &column : columns) {
+        if (CharactersIn(details.*column.text) > longestName) {
+            return {"A line of the letterhead has at most 255 characters.", Notice::Icon::Information,
+                    std::string(column.control)};
+        }
         values.append(values.empty() ? "" : ",").append(Quoted(details.*column.text));
     }
     Transaction together(connection);

@@ -18,8 +18,8 @@ struct PersonalDetails {
 /// database fails.
 PersonalDetails ReadPersonalDetails(Connection &connection);
 
-/// Puts this letterhead in the place of the stored one. Raises StoreError, with the stored one left as it
-/// was, where the database fails and for a text with a quote.
+/// Puts this letterhead in the place of the stored one, unless a line is too long; tells which. Raises
+/// StoreError, with the stored one left as it was, where the database fails and for a text with a quote.
 Notice SavePersonalDetails(const PersonalDetails &details, Connection &connection);
 
 /// Raises StoreError where the database fails.

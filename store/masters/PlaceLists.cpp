@@ -1,6 +1,9 @@
 #include "store/masters/PlaceLists.h"
 
+#include "runtime/Texts.h"
 #include "store/database/Dialect.h"
+#include "store/database/FaultTexts.h"
+#include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
 
 namespace kelvaro::store {
@@ -15,17 +18,22 @@ Recordset Opened(const std::string &statement, Connection &connection) {
 
 std::vector<ListItem> ItemsOf(Recordset rows, std::string_view textField, std::string_view keyField) {
     std::vector<ListItem> items;
-    for (; !rows.IsEndOfFile(); rows.MoveNext()) {
-        items.push_back({rows.Text(textField), rows.Integer(keyField)});
-    }
+    rows.ForEach([&](const Recordset &row) {
+        items.push_back({row.Line(textField), row.Integer(keyField)});
+    });
     return items;
 }
 
 Zone ZoneIn(const Recordset &row) {
-    const std::string place = row.Text("Place");
-    const std::string direction = row.Text("TimeZone");
-    return {place, place + "  (" + row.Text("TimeDifference") + " hrs " + direction + ")", row.Integer("SNo"),
+    const std::string place = row.Line("Place");
+    const std::string direction = row.Line("TimeZone");
+    return {place, place + "  (" + row.Line("TimeDifference") + " hrs " + direction + ")", row.Integer("SNo"),
             row.Number("TimeDifference"), direction};
+}
+
+bool IsWholeNumber(std::string_view text) {
+    const std::string_view digits = Trimmed(text);
+    return !digits.empty() && digits.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
 /// The parts between the commas; none for the empty text.
@@ -49,31 +57,40 @@ std::vector<Zone> PlaceLists::ZonesOf(std::int32_t countryId) const {
     const Recordset country =
         Opened("select * from Country_Master Where CountryID = " + std::to_string(countryId), connection_);
     std::vector<Zone> zones;
+    std::size_t leftOut = 0;
     for (const std::string &number : SplitAtCommas(country.Text("TimeZoneID"))) {
-        Recordset rows =
-            Opened("select * from TimeZone where SNo = " + number + " order by Place", connection_);
-        for (; !rows.IsEndOfFile(); rows.MoveNext()) {
-            zones.push_back(ZoneIn(rows));
+        // What is no number names no zone, and must not become part of the statement.
+        if (IsWholeNumber(number)) {
+            Opened("select * from TimeZone where SNo = " + number + " order by Place", connection_)
+                .ForEach([&zones](const Recordset &row) { zones.push_back(ZoneIn(row)); });
+        } else {
+            ++leftOut;
         }
+    }
+    if (leftOut > 0) {
+        connection_.TellRowsLeftOut(
+            RowsLeftOut("from TimeZone", leftOut,
+                        country.Line("CountryName") + " lists \"" + country.Line("TimeZoneID") + "\""));
     }
     return zones;
 }
 
 std::vector<ListItem> PlaceLists::CitiesOf(std::int32_t countryId) const {
     return ItemsOf(Opened("Select * From city_master where countryid = " + std::to_string(countryId) +
-                              " Order by CityName",
+                              " Order by CityName" + std::string(inAnyCase),
                           connection_),
                    "cityName", "CityID");
 }
 
 std::optional<Place> PlaceLists::PlaceOfCity(std::string_view cityName) const {
     const Recordset row =
-        Opened("Select * from City_Master where CityName = " + Quoted(cityName), connection_);
+        Opened("Select * from City_Master where CityName = " + Quoted(cityName) + std::string(inAnyCase),
+               connection_);
     if (row.IsEndOfFile()) {
         return std::nullopt;
     }
-    return Place{row.Number("LatitudeDegree"),  row.Number("LatitudeMinute"),  row.Text("Latitude_NS"),
-                 row.Number("LongitudeDegree"), row.Number("LongitudeMinute"), row.Text("Longitude_EW")};
+    return Place{row.Number("LatitudeDegree"),  row.Number("LatitudeMinute"),  row.Line("Latitude_NS"),
+                 row.Number("LongitudeDegree"), row.Number("LongitudeMinute"), row.Line("Longitude_EW")};
 }
 
 Zone PlaceLists::ZoneNumbered(std::int32_t number) const {

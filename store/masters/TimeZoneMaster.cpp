@@ -21,8 +21,10 @@ bool LacksCountry(const ZoneFields &fields) {
 }
 
 /// No clock is further from Greenwich.
+constexpr double furthest = 14;
+
 bool HasWrongHours(const ZoneFields &fields) {
-    return !IsWithin(fields.hours, 0, 14);
+    return !IsWithin(fields.hours, 0, furthest);
 }
 
 /// Decimal hours with two places: 5 hours 20 minutes are 5.33.
@@ -31,6 +33,11 @@ double OffsetOf(const ZoneFields &fields) {
     constexpr double places = 100;
     const double hours = NumberFromText(fields.hours) + NumberFromText(fields.minutes) / minutesOfHour;
     return std::round(hours * places) / places;
+}
+
+/// Hours that are right by themselves and go too far with their minutes.
+bool HasWrongOffset(const ZoneFields &fields) {
+    return NumberFromText(fields.minutes) < 0 || OffsetOf(fields) > furthest;
 }
 
 /// What stands around the minutes differs between adding and editing, blanks included.
@@ -71,7 +78,7 @@ void Insert(const ZoneFields &fields, Connection &connection) {
 } // namespace
 
 /// The zone's name is asked for as a city, whatever its label says.
-constexpr std::array<ZoneRule, 9> zoneAddRules{{
+constexpr std::array<ZoneRule, 11> zoneAddRules{{
     {LacksCountry, "Select Country ", "cbAddCountry"},
     {LacksText<&ZoneFields::place>, "Enter City ", nameOfNewZone},
     {LacksText<&ZoneFields::hours>, "Enter Time Hours", "txtAddLatDeg"},
@@ -82,10 +89,13 @@ constexpr std::array<ZoneRule, 9> zoneAddRules{{
     {HasWrongHours, hoursRange, "txtAddLatDeg"},
     {[](const ZoneFields &f) { return !IsWithin(f.minutes, 0, 59); }, "Minutes run from 0 to 59.",
      "txtAddLAtMin"},
+    {HasWrongOffset, hoursRange, "txtAddLAtMin"},
+    {IsTooLong<&ZoneFields::place>, nameTooLong, nameOfNewZone},
 }};
 
-/// The minutes have no range: a zone of 5.75 shows 75 there, and the announcement tells what that means.
-constexpr std::array<ZoneRule, 9> zoneUpdateRules{{
+/// The minutes have no range of their own: a zone of 5.75 shows 75 there, and the announcement tells what
+/// that means.
+constexpr std::array<ZoneRule, 11> zoneUpdateRules{{
     {LacksCountry, "Select Country ", "cbEditCountry"},
     {[](const ZoneFields &f) { return f.zoneId == 0; }, "Select Time Zone", "cbEditCity"},
     {LacksText<&ZoneFields::place>, "Enter Time Zone ", "txtEditCity"},
@@ -95,6 +105,8 @@ constexpr std::array<ZoneRule, 9> zoneUpdateRules{{
     {LacksNumber<&ZoneFields::hours>, "Enter Number ", "txtEditLatDeg"},
     {LacksNumber<&ZoneFields::minutes>, "Enter Number ", "txtEditLatMIn"},
     {HasWrongHours, hoursRange, "txtEditLatDeg"},
+    {HasWrongOffset, hoursRange, "txtEditLatMIn"},
+    {IsTooLong<&ZoneFields::place>, nameTooLong, "txtEditCity"},
 }};
 
 MasterRows TimeZoneMaster::Zones(std::int32_t countryId) const {
@@ -119,12 +131,12 @@ Outcome TimeZoneMaster::Add(const ZoneFields &fields, const Teller &announce) {
 void TimeZoneMaster::Show(std::int32_t zoneId, ZoneFields &fields) const {
     Recordset row;
     row.Open("Select * from TimeZone where SNO =" + std::to_string(zoneId), connection_);
-    const std::string offset = row.Text("TimeDifference");
+    const std::string offset = row.Line("TimeDifference");
     const auto point = offset.find('.');
-    fields.place = row.Text("Place");
+    fields.place = row.Line("Place");
     fields.hours = offset.substr(0, point);
     fields.minutes = point == std::string::npos ? "00" : offset.substr(point + 1);
-    fields.direction = row.Text("TimeZone");
+    fields.direction = row.Line("TimeZone");
 }
 
 Outcome TimeZoneMaster::Update(const ZoneFields &fields, const Teller &announce) {

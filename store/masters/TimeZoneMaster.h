@@ -28,8 +28,8 @@ struct ZoneFields {
 };
 
 /// The rules of the two tabs, in their order.
-extern const std::array<Rule<ZoneFields>, 9> zoneAddRules;
-extern const std::array<Rule<ZoneFields>, 9> zoneUpdateRules;
+extern const std::array<Rule<ZoneFields>, 11> zoneAddRules;
+extern const std::array<Rule<ZoneFields>, 11> zoneUpdateRules;
 
 /// Adds and edits time zones and keeps the countries' lists of them. Notices name the controls of the dialog
 /// of time zones. All operations raise StoreError, with nothing changed, where the database fails.

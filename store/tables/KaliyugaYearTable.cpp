@@ -1,6 +1,5 @@
 #include "store/tables/KaliyugaYearTable.h"
 
-#include "runtime/Numbers.h"
 #include "store/database/Recordset.h"
 
 namespace kelvaro::store {
@@ -16,9 +15,9 @@ std::optional<KaliyugaYear> KaliyugaYearTable::RowOf(int Yearno) {
     }
     KaliyugaYear year;
     year.YearVal = rows.Number("YearVal");
-    year.DayVal = ToInt16(rows.Number("DayVal"));
+    year.DayVal = rows.ShortInteger("DayVal");
     year.YearRemain = rows.Number("YearRemain");
-    year.yearname = rows.Text("yearname");
+    year.yearname = rows.Line("yearname");
     read_.emplace(Yearno, year);
     return year;
 }

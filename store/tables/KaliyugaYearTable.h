@@ -26,8 +26,8 @@ public:
     KaliyugaYearTable &operator=(const KaliyugaYearTable &) = delete;
     ~KaliyugaYearTable() = default;
 
-    /// The row of a number in the cycle; nothing where the table has none. Raises StoreError, and
-    /// ConversionError for a row without values.
+    /// The row of a number in the cycle; nothing where the table has none. Raises StoreError,
+    /// DamagedRow for a row without values.
     std::optional<KaliyugaYear> RowOf(int Yearno);
 
 private:

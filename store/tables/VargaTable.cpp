@@ -18,7 +18,10 @@ std::optional<std::int16_t> VargaTable::HouseNumber(std::string_view chartName, 
     if (band == bands.end()) {
         return std::nullopt;
     }
-    return ToInt16(NumberFromText(band->house));
+    if (!band->damage.empty()) {
+        throw StoreError(band->damage);
+    }
+    return band->house;
 }
 
 const VargaTable::Bands &VargaTable::BandsOf(const std::string &chartName, std::int16_t rasi) {
@@ -32,11 +35,15 @@ const VargaTable::Bands &VargaTable::BandsOf(const std::string &chartName, std::
                   " order by startDegree, EndDegree, HouseNumber",
               connection_);
     Bands bands;
-    for (; !rows.IsEndOfFile(); rows.MoveNext()) {
-        if (!rows.IsNull("startDegree") && !rows.IsNull("EndDegree")) {
-            bands.push_back({rows.Number("startDegree"), rows.Number("EndDegree"), rows.Text("HouseNumber")});
+    rows.ForEach([&bands](const Recordset &row) {
+        Band band{row.Number("startDegree"), row.Number("EndDegree"), 0, {}};
+        try {
+            band.house = row.ShortInteger("HouseNumber");
+        } catch (const DamagedRow &damage) {
+            band.damage = damage.what();
         }
-    }
+        bands.push_back(std::move(band));
+    });
     return read_.emplace(key, std::move(bands)).first->second;
 }
 

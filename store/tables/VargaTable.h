@@ -24,7 +24,7 @@ public:
 
     /// The sign, 1 to 12, in the named chart of a body that stands so many degrees, 0 to below 30, in a rasi,
     /// 1 to 12. Nothing where the table has no row for it. Raises StoreError when the table cannot be read
-    /// and ConversionError or OverflowError for a number that is none.
+    /// and for a sign that is no number.
     std::optional<std::int16_t> HouseNumber(std::string_view chartName, double degreesInRasi,
                                             std::int16_t rasi);
 
@@ -32,7 +32,8 @@ private:
     /// A stretch of a rasi, its start included and its end not.
     struct Band {
         double start, end; ///< degrees
-        std::string house; ///< as it is stored, so that a bad one is told only where a body falls into it
+        std::int16_t house;
+        std::string damage; ///< of a house that is none, told only where a body falls into it
     };
     using Bands = std::vector<Band>;
 

@@ -193,7 +193,7 @@ const std::map<std::string, std::string> neededColumns{
     {"ChartSave.ChartMonth", "stored chart"},     {"ChartSave.ChartHour", "stored chart"},
     {"ChartSave.LatitudeDegree", "stored chart"}, {"ChartSave.LongitudeMinute", "stored chart"},
     {"Country_Master.CountryID", "new chart"},    {"City_Master.LatitudeDegree", "new chart"},
-    {"chartsmaster.HouseNumber", "horoscope"},    {"TimeZone.TimeDifference", "new chart"},
+    {"chartsmaster.HouseNumber", "horoscope"},    {"TimeZone.TimeDifference", "stored chart"},
     {"KaliyugaYearDetails.DayVal", "horoscope"},
 };
 

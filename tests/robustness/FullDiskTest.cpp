@@ -114,16 +114,22 @@ TEST_F(FullDiskTest, AFileThatMayNotGrowKeepsItsCharts) {
 TEST_F(FullDiskTest, AFirstStartWithoutRoomLeavesNothing) {
     store::WriteFile(folder_ / "DBMirvaneBasic.original", "");
     const fs::path user = folder_ / "user";
-    EXPECT_EXIT(
-        {
-            LimitFileSize(fs::file_size(file_) / 2);
-            const std::string refusal =
-                store::ErrorOf([&] { store::FindDatabaseFile(folder_.Path(), user); });
-            Require(refusal.find("cannot be copied into the folder") != std::string::npos, refusal);
-            Require(fs::is_empty(user), "nothing is left");
-            _exit(0);
-        },
-        testing::ExitedWithCode(0), "");
+    const std::size_t size = fs::file_size(file_);
+    for (const std::size_t limit : {std::size_t{512}, size / 2}) {
+        EXPECT_EXIT(
+            {
+                LimitFileSize(limit);
+                const std::string refusal =
+                    store::ErrorOf([&] { store::FindDatabaseFile(folder_.Path(), user / "kelvaro"); });
+                Require(refusal.find("the disk of that folder is full") != std::string::npos,
+                        refusal);
+                Require(refusal.find(user.string()) != std::string::npos, refusal);
+                Require(!fs::exists(user), "nothing is left");
+                _exit(0);
+            },
+            testing::ExitedWithCode(0), "")
+            << limit;
+    }
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "runtime/CaseFolding.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Texts.h"
@@ -79,13 +80,45 @@ TEST(Texts, TrimsBlanksAndTabsOnly) {
 }
 
 TEST(Texts, KnowsTheCaseOfAToZOnly) {
-    EXPECT_EQ(LowerCase("AZaz@[`{0 \xC3\x84"), "azaz@[`{0 \xC3\x84");
     EXPECT_TRUE(SameIgnoringCase("PM", "pM"));
     EXPECT_FALSE(SameIgnoringCase("PM", "PM "));
     EXPECT_FALSE(SameIgnoringCase("@[", "`{"));
     EXPECT_FALSE(SameIgnoringCase("\xC3\x84", "\xC3\xA4"));
-    EXPECT_TRUE(BeginsWith("Hyderabad", "hYD") && BeginsWith("Hyd", "") && BeginsWith("hyd", "Hyd"));
-    EXPECT_FALSE(BeginsWith("Hyd", "Hyde") || BeginsWith("A Hyd", "hyd"));
+}
+
+TEST(Texts, NamesHaveNoCaseInAnyScript) {
+    const struct {
+        const char *left, *right;
+        int order; ///< by the folded letters
+    } cases[] = {
+        {"PM", "pM", 0},          {"Österreich", "öSTERREICH", 0},
+        {"Straße", "STRASSE", 0}, {"Москва", "МОСКВА", 0},
+        {"ΟΔΟΣ", "οδος", 0},      {"\u212Aelvin", "kelvin", 0},
+        {"Hyd", "Hyde", -1},      {"Oz", "öa", -1},
+        {"ÖA", "öb", -1},         {"ö", "O", 1},
+        {"@[", "`{", -1},         {"a\xFF", "A\xFF", 0},
+        {"\xC3", "\xC3\x84", -1}, {"हैदराबाद", "हैदराबाद", 0},
+    };
+    const auto sign = [](int order) { return (order > 0) - (order < 0); };
+    for (const auto &[left, right, order] : cases) {
+        EXPECT_EQ(sign(CompareInAnyCase(left, right)), order) << left << right;
+        EXPECT_EQ(sign(CompareInAnyCase(right, left)), -order) << left << right;
+        EXPECT_EQ(CaseFolded(left) == CaseFolded(right), order == 0) << left << right;
+    }
+    EXPECT_TRUE(BeginsInAnyCase("Hyderabad", "hYD") && BeginsInAnyCase("Örebro", "öR") &&
+                BeginsInAnyCase("Hyd", ""));
+    EXPECT_FALSE(BeginsInAnyCase("Hyd", "Hyde") || BeginsInAnyCase("A Hyd", "hyd"));
+}
+
+TEST(Texts, ALineIsNoLongerThanAName) {
+    std::string name;
+    for (std::size_t i = 0; i < longestName; ++i) {
+        name += "ö";
+    }
+    EXPECT_EQ(CharactersIn(name), longestName);
+    EXPECT_EQ(OneLine(name), name);
+    EXPECT_EQ(OneLine(name + "x"), name.substr(0, name.size() - 2) + "…");
+    EXPECT_EQ(OneLine("a\nb\tc\x7F"), "a b c ");
 }
 
 } // namespace

@@ -43,6 +43,37 @@ TEST_F(ChartStoreTest, SavesAWholeRow) {
     EXPECT_EQ(charts_.NewestNumber(), 1);
 }
 
+TEST_F(ChartStoreTest, ABadRowSpoilsItselfOnly) {
+    std::string told;
+    connection_.OnRowsLeftOut([&told](const std::string &remark) { told = remark; });
+    for (const char *person : {"Anil", "Uma", "Velnesh"}) {
+        charts_.SC_SaveChart(SampleChart(person));
+    }
+    connection_.Execute(
+        "update ChartSave set ChartName = hex(zeroblob(500000)) || '~4-Jul-1965' where Sno = 1");
+    connection_.Execute("update ChartSave set Sno = 4611686018427387904 where Sno = 2");
+    const std::vector<ListItem> list = charts_.fnFillChart("All").List_VC_ChartName;
+    ASSERT_EQ(list.size(), 2U);
+    EXPECT_TRUE(told.starts_with("Left out: 1 of the saved charts in the database cannot be read.")) << told;
+    // The name is shortened, and the date behind it and the chart's number are there.
+    EXPECT_EQ(list.front(), (ListItem{std::string(254, '0') + "…~4-Jul-1965", 1}));
+    StoredChart chart = charts_.Read(1);
+    EXPECT_EQ(chart.ChartName, list.front().text);
+    EXPECT_EQ(First("select length(ChartName) from ChartSave where Sno = 1"), "1000011") << "only shown so";
+    chart.ChartName = "Anil~4-Jul-1965";
+    charts_.Update(chart);
+    EXPECT_EQ(charts_.Read(1).ChartName, "Anil~4-Jul-1965");
+    connection_.Execute("update ChartSave set ChartDay = null where Sno = 1");
+    EXPECT_EQ(
+        ErrorOf([&] { charts_.Read(1); }),
+        "One of the saved charts in the database is damaged. The others can still be used. Put a backup "
+        "copy of the database file " +
+            file_.string() + " in its place. Details: ChartDay is empty in row 1.");
+    charts_.Delete(1);
+    EXPECT_EQ(ErrorOf([&] { charts_.Read(1); }),
+              "What is asked for is no longer among the saved charts in the database. Choose it anew.");
+}
+
 TEST_F(ChartStoreTest, OnlyANameWithoutADateCanBeUsedAlready) {
     EXPECT_TRUE(charts_.SC_SaveChart(SampleChart("Velnesh")).isSaved);
     EXPECT_TRUE(charts_.SC_SaveChart(SampleChart("Velnesh")).isSaved);

@@ -1,7 +1,12 @@
 #include "store/masters/CityMaster.h"
 
+#include "runtime/Texts.h"
+#include "store/masters/PlaceLists.h"
 #include "tests/RuleOrder.h"
 #include "tests/store/StoreFixture.h"
+
+#include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Statement.h>
 
 namespace kelvaro::store {
 namespace {
@@ -38,6 +43,7 @@ TEST_F(CityMasterTest, AddRulesComeInTheirOrder) {
             {"Enter Number @txtAddLonDeg", &CityFields::lonDeg, {"x"}},
             {"Enter Number @txtAddLonMin", &CityFields::lonMin, {"x"}},
             {"City Details Already Exists@txtAddCity", &CityFields::city, {" hyderabad (a.p) "}},
+            {"A name has at most 255 characters.@txtAddCity", &CityFields::city, {std::string(256, 'x')}},
             {"Minutes run from 0 to 59.@txtAddLAtMin", &CityFields::latMin, {"60", "-1"}},
             {"Latitude runs from 0 to 90 degrees.@txtAddLatDeg", &CityFields::latDeg, {"90", "-1"}},
             {"Minutes run from 0 to 59.@txtAddLonMin", &CityFields::lonMin, {"60", "-1"}},
@@ -76,6 +82,7 @@ TEST_F(CityMasterTest, UpdateRulesComeInTheirOrder) {
             {"Enter Number @txtEditLatMIn", &CityFields::latMin, {"x"}},
             {"Enter Number @txtEditLonDeg", &CityFields::lonDeg, {"x"}},
             {"Enter Number @txtEditLonMin", &CityFields::lonMin, {"x"}},
+            {"A name has at most 255 characters.@txtEditCity", &CityFields::city, {std::string(256, 'x')}},
             {"Minutes run from 0 to 59.@txtEditLatMIn", &CityFields::latMin, {"60"}},
             {"Latitude runs from 0 to 90 degrees.@txtEditLatDeg", &CityFields::latDeg, {"90"}},
             {"Minutes run from 0 to 59.@txtEditLonMin", &CityFields::lonMin, {"60"}},
@@ -99,13 +106,54 @@ TEST_F(CityMasterTest, ShowsTheFirstCityOfThatNameOfAnyCountry) {
     master_.Add({3, 0, "Hyderabad (A.P)", "1", "2", "S", "3", "4", "W"});
     CityFields fields;
     fields.countryId = 3;
-    master_.Show("Hyderabad (A.P)", fields);
+    master_.Show({"Hyderabad (A.P)", 1}, fields);
     const CityFields hyderabad{3, 0, "Hyderabad (A.P)", "17", "20", "N", "78", "30", "E"};
     EXPECT_EQ(fields, hyderabad);
-    EXPECT_TRUE(RefusesQuote([&] { master_.Show("L'Aquila", fields); }));
+    EXPECT_TRUE(RefusesQuote([&] { master_.Show({"L'Aquila", 1}, fields); }));
     EXPECT_EQ(fields, hyderabad);
     fields.city = "L'Aquila";
     EXPECT_TRUE(RefusesQuote([&] { master_.Add(fields); }));
+}
+
+TEST_F(CityMasterTest, NamesHaveNoCaseInAnyScript) {
+    const auto add = [this](const char *name) {
+        CityFields fields = Fields(3);
+        fields.city = name;
+        return master_.Add(fields).notice.text;
+    };
+    EXPECT_EQ(add("Öz Town"), "City Details Saved");
+    EXPECT_EQ(add("ÖZ TOWN"), "City Details Already Exists");
+    EXPECT_EQ(add("öa Town"), "City Details Saved");
+    const std::vector<ListItem> cities = PlaceLists(connection_).CitiesOf(3);
+    EXPECT_EQ((cities.end() - 2)->text + cities.back().text, "öa TownÖz Town");
+    EXPECT_TRUE(PlaceLists(connection_).PlaceOfCity("öZ tOwN"));
+    CityFields fields;
+    master_.Show({"öz town", 1}, fields);
+    EXPECT_EQ(fields.city, "Öz Town");
+    EXPECT_TRUE(CityMaster::Find(master_.Cities(3).rows, "öZ").row);
+
+    // Other programs do not know our way to compare, and find the file and its indices sound.
+    const SQLite::Database other(file_.string());
+    SQLite::Statement sound(other, "pragma integrity_check");
+    sound.executeStep();
+    EXPECT_EQ(sound.getColumn(0).getString(), "ok");
+}
+
+TEST_F(CityMasterTest, ANameThatIsTooLongCanBeSeenAndMended) {
+    connection_.Execute("update City_Master set CityName = '000' || hex(zeroblob(500000)) where CityID = 5");
+    const std::int32_t country = std::stoi(First("select CountryID from City_Master where CityID = 5"));
+    const MasterRows list = master_.Cities(country);
+    const auto row = CityMaster::Find(list.rows, "00000").row;
+    ASSERT_TRUE(row);
+    EXPECT_EQ(CharactersIn(list.rows[*row].front()), longestName);
+    CityFields fields;
+    master_.Show(list.items[*row], fields);
+    EXPECT_EQ(fields.city, list.items[*row].text);
+    fields.countryId = country;
+    fields.cityId = 5;
+    fields.city = "Mended";
+    EXPECT_TRUE(master_.Update(fields).isStored);
+    EXPECT_EQ(First("select CityName from City_Master where CityID = 5"), "Mended");
 }
 
 } // namespace

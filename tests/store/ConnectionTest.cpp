@@ -14,8 +14,14 @@ constexpr const char *addZone =
     "insert into TimeZone([Place],[TimeDifference],[TimeZone]) values ('Test',1,'E')";
 
 TEST_F(StoreTest, RunsTheFirstStatementOnlyAndNamesWhatItLacks) {
-    EXPECT_EQ(ErrorOf([&] { connection_.Execute("delete from Nowhere"); }), "no such table: Nowhere");
-    EXPECT_EQ(ErrorOf([&] { First("select Nowhere from TimeZone"); }), "no such column: Nowhere");
+    const std::string advice = "Put a backup copy of the database file " + file_.string() + " in its place. ";
+    EXPECT_EQ(ErrorOf([&] { connection_.Execute("delete from Nowhere"); }),
+              "The database is damaged where it keeps the tables. " + advice +
+                  "Details: no such table: Nowhere.");
+    EXPECT_EQ(ErrorOf([&] { First("select Nowhere from [timezone]"); }),
+              "The database is damaged where it keeps the time zones. The chart on the screen can still be "
+              "read and printed. " +
+                  advice + "Details: no such column: Nowhere.");
     connection_.Execute("insert into Country_Master([CountryName],[TimeZoneID]) values ('x','1'); drop table "
                         "ChartSave; --','')");
     EXPECT_EQ(First("select count(*) from Country_Master; delete from Country_Master"), "247");
@@ -95,7 +101,8 @@ TEST_F(StoreTest, AMemoryCopyLeavesTheFileAlone) {
 TEST_F(StoreTest, ALockedDatabaseIsWaitedForAndThenReported) {
     SQLite::Database other(file_.string(), SQLite::OPEN_READWRITE);
     other.exec("begin exclusive");
-    const std::string locked = "The database file " + file_.string() + " is locked by another program.";
+    const std::string locked = "The database file " + file_.string() +
+                               " is locked by another program. Try again when that program is done with it.";
     Connection late{patience_};
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(ErrorOf([&] { late.Open(file_); }), locked);
@@ -136,7 +143,8 @@ TEST_F(StoreTest, AFullDiskUndoesTheChangeAndIsTold) {
         Transaction transaction(connection_);
         connection_.Execute(addZone);
         EXPECT_EQ(ErrorOf([&] { connection_.Execute(tooLong + "1"); }),
-                  "There is no room left to store in " + file_.string() + ".");
+                  "There is no room left on the disk of " + file_.string() +
+                      ": nothing was stored. Make room and try again.");
     }
     EXPECT_EQ(First(zoneCount), "375");
 }
@@ -144,7 +152,8 @@ TEST_F(StoreTest, AFullDiskUndoesTheChangeAndIsTold) {
 TEST_F(StoreTest, EveryUseOfAClosedConnectionRaises) {
     connection_.Close();
     connection_.Close();
-    const std::string closed = "The connection to the database is closed.";
+    const std::string closed = "The connection to the database is closed: nothing can be read or stored. "
+                               "Start the program anew when the database file is in its place.";
     EXPECT_EQ(ErrorOf([&] { connection_.Execute(addZone); }), closed);
     EXPECT_EQ(ErrorOf([&] { First(zoneCount); }), closed);
     EXPECT_EQ(ErrorOf([&] { Transaction transaction(connection_); }), closed);

@@ -23,10 +23,16 @@ TEST_F(CountryMasterTest, AddsATrimmedNewNameWithoutZones) {
     EXPECT_EQ(Told(master_.Add("  Aaland East ").notice), "Details Saved@txtAddName");
     EXPECT_EQ(First("select TimeZoneID || '.' from Country_Master where CountryName = 'Aaland East'"), ".");
     EXPECT_EQ(master_.Countries().front().text, "Aaland East");
+    EXPECT_EQ(Told(master_.Add(std::string(256, 'x')).notice),
+              "A name has at most 255 characters.@txtAddName");
+    EXPECT_TRUE(master_.Add("Österreich").isStored);
+    EXPECT_EQ(master_.Add("österREICH").notice.text, "Country Name already Exists");
+    EXPECT_EQ(CountryMaster::Search(master_.Countries(), "öSTER").row, master_.Countries().size() - 1);
 }
 
 TEST_F(CountryMasterTest, RenamesTheChosenCountry) {
     const ListItem chosen{"Albania", 3};
+    const std::string longName(256, 'x');
     struct Case {
         ListItem chosen;
         const char *name, *told;
@@ -37,6 +43,7 @@ TEST_F(CountryMasterTest, RenamesTheChosenCountry) {
                              Case{chosen, "ALBANIA", "Country Name already Exists@txtEdit"},
                              Case{{}, "India", "Country Name already Exists@txtEdit"},
                              Case{{}, "Illyria", "Select Country@lstEditBox"},
+                             Case{chosen, longName.c_str(), "A name has at most 255 characters.@txtEdit"},
                              Case{chosen, " Illyria ", "Successfully Updated@"}}) {
         EXPECT_EQ(Told(master_.Rename(each.chosen, each.name).notice), each.told);
     }
@@ -51,13 +58,19 @@ TEST_F(StoreTest, LetterheadIsOneRowAndAFaultKeepsIt) {
     SavePersonalDetails({}, connection_);
     EXPECT_EQ(SavePersonalDetails(letterhead, connection_).text, "Details Saved");
     EXPECT_EQ(First("select count(*) || Address2 || Zipcode from PersonalDetails"), "1Second Floor411001");
+    PersonalDetails tooLong = letterhead;
+    tooLong.Zipcode.assign(256, '9');
+    EXPECT_EQ(Told(SavePersonalDetails(tooLong, connection_)),
+              "A line of the letterhead has at most 255 characters.@txtZip");
     PersonalDetails quoted = letterhead;
     quoted.EMail = "');delete from PersonalDetails;--";
     EXPECT_TRUE(RefusesQuote([&] { SavePersonalDetails(quoted, connection_); }));
     connection_.Execute("create trigger refusal before insert on PersonalDetails begin select "
                         "raise(abort, 'refused'); end");
-    EXPECT_EQ(ErrorOf([&] { SavePersonalDetails({}, connection_); }), "refused");
+    EXPECT_NE(ErrorOf([&] { SavePersonalDetails({}, connection_); }).find("refused"), std::string::npos);
     EXPECT_EQ(ReadPersonalDetails(connection_), letterhead);
+    connection_.Execute("update PersonalDetails set City = replace(hex(zeroblob(500)), '00', char(10))");
+    EXPECT_EQ(ReadPersonalDetails(connection_).City, std::string(254, ' ') + "…");
 }
 
 class PlaceListsTest : public StoreTest {
@@ -83,6 +96,30 @@ TEST_F(PlaceListsTest, CountriesAndZonesStandInTheirOwnOrder) {
     EXPECT_EQ(zone.direction, "W");
     EXPECT_THROW(lists_.ZonesOf(9999), StoreError);
     EXPECT_THROW(lists_.ZoneNumbered(9999), StoreError);
+}
+
+TEST_F(PlaceListsTest, ABadRowIsLeftOutAndTold) {
+    std::string told;
+    connection_.OnRowsLeftOut([&told](const std::string &remark) { told = remark; });
+    const std::size_t countries = lists_.Countries().size();
+    const std::size_t cities = lists_.CitiesOf(3).size();
+    EXPECT_EQ(told, "");
+    connection_.Execute("update Country_Master set CountryID = 4611686018427387904 where CountryID = 5");
+    EXPECT_EQ(lists_.Countries().size(), countries - 1);
+    EXPECT_EQ(told, "Left out: 1 of the countries in the database cannot be read. Details: CountryID is "
+                    "\"4611686018427387904\" in row 4611686018427387904.");
+    EXPECT_EQ(CountryMaster(connection_).Countries().size(), countries - 1);
+    connection_.Execute(
+        "update City_Master set CityID = -CityID - 2147483649 where CountryID = 3 and CityName "
+        "= 'Tirana'");
+    EXPECT_EQ(lists_.CitiesOf(3).size(), cities - 1);
+    EXPECT_TRUE(told.starts_with("Left out: 1 of the cities")) << told;
+    connection_.Execute("update Country_Master set TimeZoneID = '73,, 69,1 or 1 = 1' where CountryID = 3");
+    EXPECT_EQ(lists_.ZonesOf(3).size(), 2U);
+    EXPECT_EQ(told, "Left out: 2 of the time zones in the database cannot be read. Details: Albania lists "
+                    "\"73,, 69,1 or 1 = 1\".");
+    connection_.Execute("update TimeZone set TimeDifference = null where SNo = 69");
+    EXPECT_EQ(lists_.ZonesOf(3).size(), 1U);
 }
 
 TEST_F(PlaceListsTest, CitiesStandByNameAndArePlacedByNameAlone) {

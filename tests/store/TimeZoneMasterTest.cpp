@@ -44,6 +44,7 @@ TEST_F(TimeZoneMasterTest, RulesComeInTheirOrder) {
             {"Enter Number @txtAddLAtMin", &ZoneFields::minutes, {"x"}},
             {"Time zones run from 0 to 14 hours.@txtAddLatDeg", &ZoneFields::hours, {"15", "-1"}},
             {"Minutes run from 0 to 59.@txtAddLAtMin", &ZoneFields::minutes, {"60", "-1"}},
+            {"A name has at most 255 characters.@txtAddCity", &ZoneFields::place, {std::string(256, 'x')}},
         },
         [this](const ZoneFields &broken) { return Told(master_.Add(broken, Keep()).notice); });
     fields.countryId = 0;
@@ -59,12 +60,17 @@ TEST_F(TimeZoneMasterTest, RulesComeInTheirOrder) {
             {"Enter Number @txtEditLatDeg", &ZoneFields::hours, {"x"}},
             {"Enter Number @txtEditLatMIn", &ZoneFields::minutes, {"x"}},
             {"Time zones run from 0 to 14 hours.@txtEditLatDeg", &ZoneFields::hours, {"15"}},
+            // Nine hours more than the hours say.
+            {"Time zones run from 0 to 14 hours.@txtEditLatMIn", &ZoneFields::minutes, {"546", "-1"}},
+            {"A name has at most 255 characters.@txtEditCity", &ZoneFields::place, {std::string(256, 'x')}},
         },
         [this](const ZoneFields &broken) { return Told(master_.Update(broken, Keep()).notice); });
     fields.zoneId = 0;
     EXPECT_EQ(Told(master_.Update(fields, Keep()).notice), "Select Time Zone@cbEditCity");
     fields.countryId = 0;
     EXPECT_EQ(Told(master_.Update(fields, Keep()).notice), "Select Country @cbEditCountry");
+    EXPECT_EQ(Told(master_.Add({101, 0, "Hill Time", "14", "1", "E"}, Keep()).notice),
+              "Time zones run from 0 to 14 hours.@txtAddLAtMin");
     EXPECT_EQ(announced_, "");
     EXPECT_TRUE(master_.Update({101, 1, "Hill Time", "5", "75", "E"}, Keep()).isStored);
     EXPECT_EQ(First("select TimeDifference from TimeZone where SNo = 1"), "6.25") << "5 hours 75 minutes";
@@ -115,7 +121,7 @@ TEST_F(TimeZoneMasterTest, AFaultLeavesZonesAndListsAsTheyWere) {
     EXPECT_THROW(master_.Add(Fields(9999), ignore), StoreError);
     connection_.Execute("create trigger refusal before update on Country_Master begin select "
                         "raise(abort, 'refused'); end");
-    EXPECT_EQ(ErrorOf([&] { master_.Add(Fields(3), ignore); }), "refused");
+    EXPECT_NE(ErrorOf([&] { master_.Add(Fields(3), ignore); }).find("refused"), std::string::npos);
     EXPECT_EQ(Count(), before);
     EXPECT_EQ(ListOf(3), "73,69");
 }
