@@ -25,7 +25,8 @@ std::string ValueOf(Choices choices, std::string_view text) {
 }
 
 template <auto text, const auto &choices> bool IsNoChoice(const PreferenceFields &fields) {
-    return std::ranges::find(choices, fields.*text, &PreferenceChoice::text) == choices.end();
+    const auto found = std::ranges::find(choices, fields.*text, &PreferenceChoice::text);
+    return found == choices.end() || (!found->isListed && found->text != fields.storedBhava);
 }
 
 bool IsCustom(const PreferenceFields &fields) {
@@ -88,7 +89,8 @@ PreferenceFields FieldsOfPreferences(const store::OnLoadClass &preferences) {
             TextOf(chartChoices, preferences.clsChart_Type),
             TextOf(languageChoices, preferences.clsLanguage),
             NumberText(preferences.clsYear),
-            NumberText(preferences.clsProgress)};
+            NumberText(preferences.clsProgress),
+            TextOf(bhavaChoices, preferences.clsBhava)};
 }
 
 void PutPreferencesInForce(const store::OnLoadClass &preferences, HoroscopeState &state) {

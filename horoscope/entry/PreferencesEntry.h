@@ -17,7 +17,7 @@ struct HoroscopeState;
 struct PreferenceChoice {
     std::string_view text;
     std::string_view value;
-    bool isListed = true; ///< an unlisted choice can only come from the database, and is kept
+    bool isListed = true; ///< an unlisted choice comes from the database only: it is kept and cannot be typed
 };
 
 inline constexpr std::array<PreferenceChoice, 5> ayanamsaChoices{{
@@ -46,6 +46,7 @@ inline constexpr std::array<PreferenceChoice, 2> languageChoices{{
 struct PreferenceFields {
     std::string cbAyanamsa, Cbdays, cbBhava, cbChart, cbLanguage;
     std::string txtZero, txtPogression;
+    std::string storedBhava{}; ///< the text of the stored value, which is kept even where the list lacks it
 };
 
 /// The rules of the custom ayanamsa, which hold only while it is chosen, and those after them for all

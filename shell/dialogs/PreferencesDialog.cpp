@@ -35,9 +35,9 @@ PreferencesDialog::PreferencesDialog(Horoscope &horoscope, QWidget *parent)
     store::OnLoadClass stored;
     stored.FnPreferences(horoscope.connection);
     controls_->setupUi(this);
+    stored_ = FieldsOfPreferences(stored);
+    Show(stored_);
     DressButtons(*this);
-    controls_->Command1->setIcon(HouseIcon("accept"));
-    Show(FieldsOfPreferences(stored));
     connect(controls_->cmdSave, &QPushButton::clicked, this, [this] { Accept(SavePreferences); });
     connect(controls_->Command1, &QPushButton::clicked, this, [this] { Accept(ApplyPreferences); });
     connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &QDialog::reject);
@@ -67,7 +67,7 @@ PreferenceFields PreferencesDialog::Fields() const {
         controls_->cbAyanamsa->currentText().toStdString(), controls_->Cbdays->currentText().toStdString(),
         controls_->cbBhava->currentText().toStdString(),    controls_->cbChart->currentText().toStdString(),
         controls_->cbLanguage->currentText().toStdString(), controls_->txtZero->text().toStdString(),
-        controls_->txtPogression->text().toStdString()};
+        controls_->txtPogression->text().toStdString(),     stored_.storedBhava};
 }
 
 void PreferencesDialog::Accept(Acceptance acceptance) {

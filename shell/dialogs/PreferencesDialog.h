@@ -34,6 +34,7 @@ private:
     void Accept(Acceptance acceptance);
 
     Horoscope &horoscope_;
+    PreferenceFields stored_;
     std::unique_ptr<Ui::frm_Preferences> controls_;
 };
 

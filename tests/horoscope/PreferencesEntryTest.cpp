@@ -97,7 +97,7 @@ TEST_F(PreferencesEntryTest, TextsThatAreNoChoiceAreRefused) {
         FieldsOfPreferences(Stored()),
         {{"Choose one of the list for Ayanamsa@cbAyanamsa", &PreferenceFields::cbAyanamsa, {"lahiri"}},
          {"Choose one of the list for Days in a Year@Cbdays", &PreferenceFields::Cbdays, {""}},
-         {"Choose one of the list for Bhava@cbBhava", &PreferenceFields::cbBhava, {"Equal"}},
+         {"Choose one of the list for Bhava@cbBhava", &PreferenceFields::cbBhava, {"Equal", "Placidius"}},
          {"Choose one of the list for Chart Style@cbChart", &PreferenceFields::cbChart, {"Sout"}},
          {"Choose one of the list for Language@cbLanguage", &PreferenceFields::cbLanguage, {"Latin"}}},
         [this](const PreferenceFields &wrong) { return Told(*SavePreferences(wrong, horoscope)); });
