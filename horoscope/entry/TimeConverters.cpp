@@ -4,6 +4,7 @@
 #include "panchanga/day/IshtaGhati.h"
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
 
 namespace kelvaro {
 
@@ -12,8 +13,30 @@ namespace {
 using ConverterRules = std::array<Rule<BirthFields>, 12>;
 using IsBroken = bool (*)(const BirthFields &);
 
-/// The converters differ in the rules for the date and for what the list of hours takes.
-constexpr ConverterRules RulesWith(IsBroken isNoDate, IsBroken isHourOutside) {
+bool IsNoNumberUpTo(const std::string &text, double highest) {
+    return !IsNumber(text) || IsOutside(text, highest);
+}
+
+bool IsNoTime(const std::string &text) {
+    try {
+        ReadMoment("1/Jan/2000 " + text + ": 00");
+        return false;
+    } catch (const ConversionError &) {
+        return true;
+    }
+}
+
+/// Unlike the form of birth details, which tells 13 PM as an error of the conversion.
+bool IsNoHourOfClock(const BirthFields &fields) {
+    return IsNoNumberUpTo(fields.cbHour, 24) || IsNoTime(HourText(fields) + ":00");
+}
+
+bool IsNoMinuteOfClock(const BirthFields &fields) {
+    return IsNoNumberUpTo(fields.cbMins, 59) || IsNoTime("0:" + fields.cbMins);
+}
+
+/// The converters differ in the rules for the date and for what the lists of hours and minutes take.
+constexpr ConverterRules RulesWith(IsBroken isNoDate, IsBroken isNoHour, IsBroken isNoMinute) {
     // A place or a zone that was typed and names no row of its list has not been chosen.
     return {{
         {LacksText<&BirthFields::txt_Date>, "Enter Date", "txt_Date"},
@@ -24,8 +47,8 @@ constexpr ConverterRules RulesWith(IsBroken isNoDate, IsBroken isHourOutside) {
         {isNoDate, "Enter Correct Date", ""},
         {LacksText<&BirthFields::cbHour>, "Enter Correct Time", "cbHour"},
         {LacksText<&BirthFields::cbMins>, "Enter Correct Time", "cbMins"},
-        {isHourOutside, "Enter Correct Time", "cbHour"},
-        {[](const BirthFields &f) { return IsOutside(f.cbMins, 59); }, "Enter Correct Time", "cbMins"},
+        {isNoHour, "Enter Correct Time", "cbHour"},
+        {isNoMinute, "Enter Correct Time", "cbMins"},
         {[](const BirthFields &f) {
              return IsBlank(f.txt_VC_Country) || f.txt_VC_Country != f.chosen.country;
          },
@@ -39,12 +62,13 @@ constexpr ConverterRules RulesWith(IsBroken isNoDate, IsBroken isHourOutside) {
 
 } // namespace
 
-constexpr ConverterRules clockTimeRules =
-    RulesWith(IsNoDate, [](const BirthFields &f) { return IsOutside(f.cbHour, 24); });
+constexpr ConverterRules clockTimeRules = RulesWith(IsNoDate, IsNoHourOfClock, IsNoMinuteOfClock);
 
 // With ghatis the date has no rule: one that does not exist is told when it is read.
-constexpr ConverterRules ghatiRules = RulesWith([](const BirthFields &) { return false; },
-                                                [](const BirthFields &f) { return IsOutside(f.cbHour, 60); });
+constexpr ConverterRules ghatiRules =
+    RulesWith([](const BirthFields &) { return false; },
+              [](const BirthFields &f) { return IsNoNumberUpTo(f.cbHour, 60); },
+              [](const BirthFields &f) { return IsNoNumberUpTo(f.cbMins, 59); });
 
 TimeConverters::Result TimeConverters::IshtaGhatiOfBirthTime(const BirthFields &fields) {
     if (auto notice = FirstBroken(clockTimeRules, fields)) {

@@ -7,8 +7,8 @@
 
 namespace kelvaro {
 
-/// The rules of the two converters, in their order. They raise ConversionError for an hour or a minute that
-/// is no number.
+/// The rules of the two converters, in their order. An hour or a minute that makes no clock time, 13 PM or a
+/// text, is no correct time.
 extern const std::array<Rule<BirthFields>, 12> clockTimeRules;
 extern const std::array<Rule<BirthFields>, 12> ghatiRules;
 

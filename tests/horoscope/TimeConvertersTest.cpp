@@ -69,15 +69,15 @@ TEST(TimeConverters, RulesComeInTheirOrder) {
         {"Enter Correct Date@", &BirthFields::txt_Date, {"32"}},
         {"Enter Correct Time@cbHour", &BirthFields::cbHour, {""}},
         {"Enter Correct Time@cbMins", &BirthFields::cbMins, {""}},
-        {"Enter Correct Time@cbHour", &BirthFields::cbHour, {"61", "-1", "25"}},
-        {"Enter Correct Time@cbMins", &BirthFields::cbMins, {"60", "-1"}},
+        {"Enter Correct Time@cbHour", &BirthFields::cbHour, {"61", "-1", "x", "25", "13", "1.5"}},
+        {"Enter Correct Time@cbMins", &BirthFields::cbMins, {"60", "-1", "x"}},
         {"Select Country@Cmb_VP_Country", &BirthFields::txt_VC_Country, {"", "Some"}},
         {"Select City@Cmb_VP_City", &BirthFields::txt_VC_City, {"", "Hyder"}},
         {"Select Timezone@cbTimeZone", &BirthFields::cbTimeZone, {"", "IST"}},
     };
     ExpectOrder(At(towns.front()), rules,
                 [&](const BirthFields &fields) { return TextOf(converters.IshtaGhatiOfBirthTime(fields)); });
-    rules[7].texts.pop_back(); // an hour of 25 is one of 60 ghatis
+    rules[7].texts.resize(3); // an hour of 25 is one of 60 ghatis, and those of a clock are afternoon here
     rules.erase(rules.begin() + 4);
     ExpectOrder(At(towns.front()), rules,
                 [&](const BirthFields &fields) { return TextOf(converters.BirthTimeOfIshtaGhati(fields)); });
