@@ -5,6 +5,7 @@
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Texts.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -39,6 +40,12 @@ constexpr std::array<Key, 18> keys{{
     {"TimeDiffEW", "E"},
 }};
 
+// What a place and its offset from Greenwich go up to.
+constexpr double pole = 90;
+constexpr double antimeridian = 180;
+constexpr double mostMinutes = 60;
+constexpr double furthestZone = 14;
+
 LastChart SampleChart() {
     LastChart chart;
     std::ranges::transform(keys, chart.begin(), [](const Key &key) { return std::string(key.sample); });
@@ -50,6 +57,24 @@ std::string LetterOf(const std::string &text, std::string_view choices) {
         throw ConversionError("Type mismatch: \"" + text + "\" is no direction");
     }
     return text;
+}
+
+/// A number that the masters of cities and of time zones take.
+double NumberWithin(const std::string &text, double highest) {
+    const double number = NumberFromText(text);
+    if (number < 0 || number > highest) {
+        throw ConversionError("Overflow: " + OneLine(text) + " is not within 0 and " + NumberText(highest));
+    }
+    return number;
+}
+
+/// Degrees with their minutes, which stay below a whole degree.
+void RequireAngle(double degrees, double minutes, double highest) {
+    constexpr double minutesOfDegree = 60;
+    if (minutes >= minutesOfDegree || degrees + minutes / minutesOfDegree > highest) {
+        throw ConversionError("Overflow: there is no place at " + NumberText(degrees) + " degrees " +
+                              NumberText(minutes) + " minutes");
+    }
 }
 
 /// Raises ConversionError, with the record as it was, for a text that cannot be read.
@@ -70,12 +95,14 @@ void PutInForce(const LastChart &chart, HoroscopeState &state) {
     birth.BirthCountry = country;
     Site site;
     site.LatNS = LetterOf(latNS, "NS");
-    site.LatMin = NumberFromText(latMin);
-    site.LatDeg = NumberFromText(latDeg);
+    site.LatMin = NumberWithin(latMin, mostMinutes);
+    site.LatDeg = NumberWithin(latDeg, pole);
+    RequireAngle(site.LatDeg, site.LatMin, pole);
     site.LonEW = LetterOf(lonEW, "EW");
-    site.LonMin = NumberFromText(lonMin);
-    site.LonDeg = NumberFromText(lonDeg);
-    site.TimeDiff = NumberFromText(timeDiff);
+    site.LonMin = NumberWithin(lonMin, mostMinutes);
+    site.LonDeg = NumberWithin(lonDeg, antimeridian);
+    RequireAngle(site.LonDeg, site.LonMin, antimeridian);
+    site.TimeDiff = NumberWithin(timeDiff, furthestZone);
     site.TimeDiffEW = LetterOf(timeDiffEW, "EW");
     state.birth = birth;
     state.site = site;
@@ -86,9 +113,12 @@ void PutInForce(const LastChart &chart, HoroscopeState &state) {
 
 std::string RestoreLastChart(SettingsStore &settings, HoroscopeState &state) {
     try {
-        PutInForce(LastChartIn(settings), state);
+        settings.RequireReadable();
+        LastChart chart = LastChartIn(settings);
+        std::ranges::transform(chart, chart.begin(), OneLine);
+        PutInForce(chart, state);
         return {};
-    } catch (const ConversionError &error) {
+    } catch (const RuntimeError &error) {
         PutInForce(SampleChart(), state);
         return "The last chart cannot be read from the settings, this is the sample chart. " +
                std::string(error.what());

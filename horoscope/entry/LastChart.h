@@ -19,6 +19,9 @@ public:
     SettingsStore &operator=(const SettingsStore &) = delete;
     virtual ~SettingsStore() = default;
 
+    /// Raises RuntimeError where there are settings that cannot be read, which `Read` tells as keys that have
+    /// never been written.
+    virtual void RequireReadable() {}
     /// Nothing where the key has never been written.
     virtual std::optional<std::string> Read(std::string_view key) = 0;
     virtual void Write(std::string_view key, const std::string &value) = 0;
@@ -28,8 +31,10 @@ public:
 };
 
 /// Puts the last saved chart in force, without computing; a key that is missing counts as that of the sample
-/// chart. Where a key cannot be read as a date, a time, a number or a letter, the sample chart as a whole
-/// comes in force, and the words for the status bar are returned; they are empty otherwise.
+/// chart. Where the settings cannot be read, or a key is no date, time, number or letter, or
+/// the place or its offset from Greenwich is one that no form takes, the sample chart as a whole comes in
+/// force, and the words for the status bar are returned; they are empty otherwise. Texts are shortened to a
+/// line.
 std::string RestoreLastChart(SettingsStore &settings, HoroscopeState &state);
 
 /// The texts of the eighteen keys, in their order.

@@ -38,6 +38,7 @@ PreferencesDialog::PreferencesDialog(Horoscope &horoscope, QWidget *parent)
     stored_ = FieldsOfPreferences(stored);
     Show(stored_);
     DressButtons(*this);
+    controls_->Command1->setIcon(HouseIcon("accept"));
     connect(controls_->cmdSave, &QPushButton::clicked, this, [this] { Accept(SavePreferences); });
     connect(controls_->Command1, &QPushButton::clicked, this, [this] { Accept(ApplyPreferences); });
     connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &QDialog::reject);

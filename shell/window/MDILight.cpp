@@ -60,8 +60,9 @@ QRect BroughtOnto(const QRect &screen, const QRect &place) {
 } // namespace
 
 MDILight::MDILight(const QString &settingsFile)
-    : settings_(settingsFile.isEmpty() ? QSettings() : QSettings(settingsFile, QSettings::IniFormat)),
-      lastChart_(settingsFile), horoscope_(connection_, *this),
+    : lastChart_(settingsFile),
+      settings_(settingsFile.isEmpty() ? QSettings() : QSettings(settingsFile, QSettings::IniFormat)),
+      horoscope_(connection_, *this),
       views_(new ViewArea(ServerAddress(settings_.value(serverKey).toString()))), tree_(new MainHoroscope),
       owner_(new QLabel), menu_(*this, lastChart_) {
     setObjectName(QStringLiteral("MDILight"));
@@ -88,6 +89,8 @@ MDILight::MDILight(const QString &settingsFile)
     // A bar too short for a message shows all of it under the mouse.
     connect(statusBar(), &QStatusBar::messageChanged, this,
             [this](const QString &message) { statusBar()->setToolTip(ToolTipText(message)); });
+    connection_.OnRowsLeftOut(
+        [this](const std::string &remark) { statusBar()->showMessage(OneLine(TextOf(remark))); });
     connect(tree_, &MainHoroscope::ViewChosen, this, &MDILight::ChooseView);
     RestoreWindowPlace();
 }

@@ -74,8 +74,8 @@ private:
     void FnDisable() { menu_.Enable(false); }
     void RestoreWindowPlace();
 
+    UserSettings lastChart_; ///< before the others look at the file: only the first look tells a damaged one
     QSettings settings_;
-    UserSettings lastChart_;
     store::Connection connection_;
     Horoscope horoscope_;
     ViewArea *views_;

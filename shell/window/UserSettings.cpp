@@ -15,7 +15,15 @@ QString PathOf(std::string_view key) {
 
 } // namespace
 
-UserSettings::UserSettings(QString file) : file_(std::move(file)) {}
+UserSettings::UserSettings(QString file)
+    : file_(std::move(file)), isReadable_(Open()->status() == QSettings::NoError) {}
+
+void UserSettings::RequireReadable() {
+    if (!isReadable_) {
+        throw RuntimeError("The settings file " + Open()->fileName().toStdString() +
+                           " is damaged or must not be read.");
+    }
+}
 
 /// The settings are opened for each use: once it has failed to write, the object reports that for ever.
 std::unique_ptr<QSettings> UserSettings::Open() const {

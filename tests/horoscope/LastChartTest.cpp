@@ -3,6 +3,7 @@
 #include "horoscope/entry/BirthEntry.h"
 #include "horoscope/record/HoroscopeState.h"
 #include "runtime/MomentText.h"
+#include "runtime/Texts.h"
 #include "tests/horoscope/MemorySettings.h"
 
 #include <gtest/gtest.h>
@@ -65,11 +66,26 @@ TEST(LastChartTest, ComesBackAsItWasKept) {
     EXPECT_EQ(state.site, (Site{22, 54.5, "S", 43, 12, "W", 3, "W"}));
 }
 
+TEST(LastChartTest, TextsAreNoLongerThanALine) {
+    MemorySettings settings;
+    for (const char *key : {"Name", "City", "Country", "Sex"}) {
+        settings.values[key] = std::string(1'000'000, 'x') + "\n";
+    }
+    HoroscopeState state;
+    EXPECT_EQ(RestoreLastChart(settings, state), "");
+    const std::string line = std::string(254, 'x') + "…";
+    EXPECT_EQ(state.birth.ChartName, line);
+    EXPECT_EQ(state.birth.BirthCity + state.birth.BirthCountry + state.birth.BirthGender, line + line + line);
+}
+
 TEST(LastChartTest, UnreadableKeyGivesTheSampleChartAsAWhole) {
-    const char *const cases[][2] = {{"Day", "30"},        {"Hour", "24"},  {"LatDeg", "north"},
-                                    {"LatMin", ""},       {"LatNS", "NS"}, {"LonDeg", "nan"},
-                                    {"LonMin", "1e9999"}, {"LonEW", "e"},  {"TimeDiff", "3,5"},
-                                    {"TimeDiffEW", ""}};
+    const std::string tooLong = std::string(longestName, '0') + "1";
+    const char *const cases[][2] = {{"Day", "30"},        {"Hour", "24"},          {"LatDeg", "north"},
+                                    {"LatMin", ""},       {"LatNS", "NS"},         {"LonDeg", "nan"},
+                                    {"LonMin", "1e9999"}, {"LonEW", "e"},          {"TimeDiff", "3,5"},
+                                    {"TimeDiffEW", ""},   {"LatDeg", "90"},        {"LatDeg", "-1"},
+                                    {"LatMin", "60"},     {"LonDeg", "180"},       {"TimeDiff", "14.5"},
+                                    {"TimeDiff", "-1"},   {"Day", tooLong.c_str()}};
     for (const auto &[key, value] : cases) {
         MemorySettings settings;
         KeepLastChart(LastChartOf(BirthInRio()), settings);

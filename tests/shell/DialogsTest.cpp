@@ -189,7 +189,7 @@ void DialogsTest::EditedPlacesShowAsTold() {
     QCOMPARE(answer.Text(), u"Successfully Updated"_s);
     QCOMPARE(TextIn(*cities, "cbEditCity"), u"000 Hyderabad"_s);
     store::CityFields stored;
-    store::CityMaster(connection_).Show("000 Hyderabad", stored);
+    store::CityMaster(connection_).Show({"000 Hyderabad", 1}, stored);
     QCOMPARE(stored, (store::CityFields{0, 0, "000 Hyderabad", "18", "21", "S", "79", "31", "W"}));
     Type(*cities, "cbEditCountry", "Nepal");
     QCOMPARE(TextIn(*cities, "txtEditCity") + TextIn(*cities, "cbEditEW"), QString());
@@ -255,11 +255,15 @@ void DialogsTest::OnlyDigitsAreTyped() {
     }
     Type(*cities, "txtAddCity", "Area 51-b");
     QCOMPARE(TextIn(*cities, "txtAddCity"), u"Area 51-b"_s);
+    QApplication::clipboard()->setText(QString(1000, u'x'));
+    QTest::keyClick(Line(*cities, "txtAddCity"), Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(TextIn(*cities, "txtAddCity").size(), 255);
 }
 
 void DialogsTest::Letterhead() {
     MessageBoxAnswer answer;
     auto dialog = Open<PersonalInfoDialog>();
+    QCOMPARE(dialog->windowTitle(), u"Edit Personal Info"_s);
     QCOMPARE(TextIn(*dialog, "txtName"), u"Kelvaro Technologies Pvt Ltd"_s);
     Press(*dialog, "cmdEdit");
     QCOMPARE(FocusIn(*dialog), u"txtName"_s);
@@ -301,6 +305,12 @@ void DialogsTest::BirthTimeBecomesIshtaGhatiAndComesBack() {
     QCOMPARE(answer.Text(), QString());
     // The sun rose at 05:50, 505 minutes before.
     QCOMPARE(TextIn(there, "txtIshtaGhati"), u"Ishta Ghati : 21:2:30"_s);
+    QTest::mouseClick(there.findChild<QRadioButton *>(u"Opt_AM"_s), Qt::LeftButton);
+    QCOMPARE(TextIn(there, "txtIshtaGhati"), QString());
+    Press(there, "cmdSubmit");
+    // 02:15 in the morning counts from the sunrise of the day before, 1,225 minutes.
+    QVERIFY2(TextIn(there, "txtIshtaGhati").startsWith(u"Ishta Ghati : 51:"_s),
+             qPrintable(TextIn(there, "txtIshtaGhati")));
 
     BirthTimeDialog back(horoscope);
     back.show();
@@ -326,6 +336,14 @@ void DialogsTest::AConverterTellsFaultsAndItsFieldWaits() {
     Press(dialog, "cmdSubmit");
     QCOMPARE(answer.Icon(), QMessageBox::Critical);
     QVERIFY2(answer.Text().contains(u"31/2/"_s), qPrintable(answer.Text()));
+
+    IshtaGhatiDialog clock(horoscope);
+    clock.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&clock));
+    Type(clock, "cbHour", "13");
+    QTest::mouseClick(clock.findChild<QRadioButton *>(u"Opt_PM"_s), Qt::LeftButton);
+    Press(clock, "cmdSubmit");
+    QCOMPARE(answer.Text() + FocusIn(clock), u"Enter Correct TimecbHour"_s);
 }
 
 void DialogsTest::PreferencesAreSavedAppliedOrDropped() {
@@ -377,6 +395,10 @@ void DialogsTest::FaultyCustomAyanamsaIsToldAndKept() {
     QVERIFY(dialog.isVisible());
     QCOMPARE(TextIn(dialog, "txtZero") + FocusIn(dialog), u"2004txtZero"_s);
     Type(dialog, "txtZero", "397");
+    Type(dialog, "cbBhava", "Placidius");
+    Press(dialog, "cmdSave");
+    QCOMPARE(answer.Text() + FocusIn(dialog), u"Choose one of the list for BhavacbBhava"_s);
+    Type(dialog, "cbBhava", "eq");
     Press(dialog, "cmdSave");
     QVERIFY(!dialog.isVisible());
     QCOMPARE(horoscope.state.preferences.YearInForce + StoredPreferences().clsProgress, 447.0);

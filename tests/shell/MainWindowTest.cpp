@@ -4,6 +4,8 @@
 #include "tests/store/OrdinaryUser.h"
 
 #include <QComboBox>
+#include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QStatusBar>
@@ -33,6 +35,7 @@ private slots:
     void EveryViewShowsItsContents();
     void DasaViewFindsTodayAndFollowsTheChoice();
     void FaultyDatabaseIsReportedAndTheWindowStays();
+    void UnreadableSettingsGiveTheSampleChartAndAWord();
     void TreeOpensViewsByMouseAndKeys();
     void OneFrameIsVisibleInEachStyle();
     void ViewsFillTheirAreaAndHandTheKeysOn();
@@ -158,9 +161,31 @@ void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays() {
     other.Open(DatabaseFile());
     other.Execute("delete from Preference");
     other.Close();
-    startTelling(u"Preference");
+    startTelling(u"preferences");
     std::filesystem::remove(DatabaseFile());
     startTelling(u"missing");
+}
+
+void MainWindowTest::UnreadableSettingsGiveTheSampleChartAndAWord() {
+    const auto startsWithTheSample = [this] {
+        Open();
+        Start();
+        QCOMPARE(window_->HoroscopeInForce().state.birth.ChartName, std::string("Velnesh"));
+        const QString message = window_->statusBar()->currentMessage();
+        QVERIFY2(message.startsWith(QStringLiteral("The last chart cannot be read from the settings")),
+                 qPrintable(message));
+    };
+    for (const char *text : {"[Horo]\nName=Ravi\nno line of settings\n", "[Horo]\nName=Ravi\nLatDeg=95\n"}) {
+        QFile file(SettingsFile());
+        QVERIFY(file.open(QFile::WriteOnly | QFile::Truncate));
+        file.write(text);
+        file.close();
+        startsWithTheSample();
+    }
+    window_.reset();
+    QVERIFY(QFile::remove(SettingsFile()));
+    QVERIFY(QDir().mkdir(SettingsFile()));
+    startsWithTheSample();
 }
 
 void MainWindowTest::TreeOpensViewsByMouseAndKeys() {
