@@ -15,8 +15,13 @@ QString PathOf(std::string_view key) {
 
 } // namespace
 
-UserSettings::UserSettings(QString file)
-    : file_(std::move(file)), isReadable_(Open()->status() == QSettings::NoError) {}
+UserSettings::UserSettings(QString file) : file_(std::move(file)), isReadable_(LooksReadable()) {}
+
+bool UserSettings::LooksReadable() const {
+    const auto settings = Open();
+    settings->value(PathOf("Name")); // a section is parsed when the first of its keys is read
+    return settings->status() == QSettings::NoError;
+}
 
 void UserSettings::RequireReadable() {
     if (!isReadable_) {

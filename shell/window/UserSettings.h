@@ -23,6 +23,7 @@ public:
 
 private:
     std::unique_ptr<QSettings> Open() const;
+    bool LooksReadable() const;
 
     QString file_; ///< empty for the platform's own place
     bool isReadable_;
