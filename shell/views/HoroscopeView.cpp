@@ -2,6 +2,8 @@
 
 #include "shell/widgets/ChartColours.h"
 
+#include <QEvent>
+
 #include <algorithm>
 
 namespace kelvaro {
@@ -15,6 +17,19 @@ constexpr double largestFont = 2; // times the system's size
 HoroscopeView::HoroscopeView(QWidget *parent) : QWidget(parent) {
     setPalette(ParchmentPalette());
     setAutoFillBackground(true);
+}
+
+/// Under a theme with a style sheet, parts do not inherit the colours of what they stand on.
+bool HoroscopeView::event(QEvent *event) {
+    if (event->type() == QEvent::Polish) {
+        const QList<QWidget *> parts = findChildren<QWidget *>();
+        for (QWidget *part : parts) {
+            if (!part->testAttribute(Qt::WA_SetPalette)) {
+                part->setPalette(part->parentWidget()->palette());
+            }
+        }
+    }
+    return QWidget::event(event);
 }
 
 QFont HoroscopeView::RoomyFont(double lines, double letters) const {

@@ -23,6 +23,8 @@ public:
     virtual void Refresh(const Horoscope &horoscope) = 0;
 
 protected:
+    bool event(QEvent *event) override;
+
     /// The font of the window, up to twice as large where so many lines of so many letters leave room.
     QFont RoomyFont(double lines, double letters) const;
 };

@@ -49,6 +49,8 @@ ServerPane::ServerPane(const QString &name, const QString &maximize, QWidget *pa
     auto *button = new QPushButton(tr("^ Maximize"));
     button->setObjectName(maximize);
     button->setIcon(HouseIcon("maximize", nameColour));
+    text_->setPalette(ParchmentPalette());
+    button->setPalette(ParchmentPalette());
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(button, 0, Qt::AlignRight);

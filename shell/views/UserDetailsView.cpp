@@ -86,7 +86,7 @@ public:
     explicit FieldGroup(const char *title) : rows_(new QGridLayout(this)) {
         setFrameShape(QFrame::StyledPanel);
         setAutoFillBackground(true);
-        QPalette colours = palette();
+        QPalette colours = ParchmentPalette();
         colours.setColor(QPalette::Window, parchmentColour.lighter(105));
         setPalette(colours);
         rows_->setVerticalSpacing(fieldDistance);
@@ -128,7 +128,7 @@ public:
 private:
     static QLabel *NewLabel(const QString &text, const QColor &colour) {
         auto *label = new QLabel(text);
-        QPalette colours = label->palette();
+        QPalette colours = ParchmentPalette();
         colours.setColor(QPalette::WindowText, colour);
         label->setPalette(colours);
         return label;

@@ -31,6 +31,7 @@ MainHoroscope::MainHoroscope(QWidget *parent) : QWidget(parent), tV_(new QTreeWi
     colours.setColor(QPalette::Button, parchmentColour.darker(106));
     colours.setColor(QPalette::ButtonText, lineColour);
     tV_->setPalette(colours);
+    tV_->header()->setPalette(colours);
     const int rowHeight = 2 * tV_->fontMetrics().height();
     tV_->header()->setMinimumHeight(rowHeight);
     tV_->header()->setDefaultAlignment(Qt::AlignCenter);

@@ -46,7 +46,9 @@ StatusPanel::StatusPanel(QWidget *parent)
     PicOut_->setFixedSize(trackWidth, trackHeight);
     auto *layout = new QHBoxLayout(Frame1_);
     layout->setSpacing(12);
-    layout->addWidget(new QLabel(tr("Please Wait ....")));
+    auto *words = new QLabel(tr("Please Wait ...."));
+    words->setPalette(palette());
+    layout->addWidget(words);
     layout->addWidget(PicOut_);
     Frame1_->adjustSize();
     hide();

@@ -42,6 +42,7 @@ private slots:
     void NothingStartsASecondRunInsideARun();
     void WindowClosedInARunClosesAtItsEnd();
     void FailedRunNamesItsCauseAndShowsNoFigures();
+    void ParchmentIsReadUnderADarkTheme();
 
 private:
     QWidget *Form(const char *name) const { return Find(name); }
@@ -287,6 +288,31 @@ void MainWindowTest::FailedRunNamesItsCauseAndShowsNoFigures() {
     window_->HoroscopeInForce().state.birth.BirthDay = "28";
     window_->Calculate();
     QVERIFY(window_->statusBar()->currentMessage().isEmpty());
+}
+
+/// With a style sheet, which keeps parts from inheriting the colours of what they stand on.
+void MainWindowTest::ParchmentIsReadUnderADarkTheme() {
+    const QPalette before = QApplication::palette();
+    QPalette dark(QColor(50, 50, 50));
+    QApplication::setPalette(dark);
+    qApp->setStyleSheet(QStringLiteral("* { font-family: 'DejaVu Serif'; }"));
+    Open();
+    Start();
+    for (std::size_t view = 0; view < horoscopeViews.size(); ++view) {
+        window_->ChooseView(view);
+        const QList<QWidget *> parts = Form(horoscopeViews.at(view).form)->findChildren<QWidget *>();
+        for (const QWidget *part : parts) {
+            for (const auto &[ink, paper] : {std::pair{QPalette::WindowText, QPalette::Window},
+                                             std::pair{QPalette::Text, QPalette::Base},
+                                             std::pair{QPalette::ButtonText, QPalette::Button}}) {
+                const QPalette &colours = part->palette();
+                QVERIFY2(colours.color(ink).lightness() + 60 < colours.color(paper).lightness(),
+                         part->metaObject()->className());
+            }
+        }
+    }
+    qApp->setStyleSheet({});
+    QApplication::setPalette(before);
 }
 
 QTEST_MAIN(MainWindowTest)
