@@ -1,4 +1,6 @@
+#include "shell/widgets/MessageBoxes.h"
 #include "shell/window/HoroscopeViews.h"
+#include "tests/shell/Heartbeat.h"
 #include "tests/shell/MainWindowCase.h"
 #include "tests/shell/MessageBoxAnswer.h"
 #include "tests/store/OrdinaryUser.h"
@@ -43,6 +45,8 @@ private slots:
     void WindowClosedInARunClosesAtItsEnd();
     void FailedRunNamesItsCauseAndShowsNoFigures();
     void ParchmentIsReadUnderADarkTheme();
+    void TextsFromOutsideHoldNothing_data();
+    void TextsFromOutsideHoldNothing();
 
 private:
     QWidget *Form(const char *name) const { return Find(name); }
@@ -313,6 +317,45 @@ void MainWindowTest::ParchmentIsReadUnderADarkTheme() {
     }
     qApp->setStyleSheet({});
     QApplication::setPalette(before);
+}
+
+void MainWindowTest::TextsFromOutsideHoldNothing_data() {
+    QTest::addColumn<QString>("text");
+    QTest::newRow("markup") << QStringLiteral("<table><tr><td>").repeated(20);
+    QTest::newRow("a long word") << QString(1000000, u'W');
+    QTest::newRow("many lines") << QStringLiteral("a\n").repeated(500000);
+    QTest::newRow("marks on one letter") << QString(500000, u'\u0301');
+}
+
+void MainWindowTest::TextsFromOutsideHoldNothing() {
+    QFETCH(const QString, text);
+    const QSize size = window_->size();
+    window_->HoroscopeInForce().connection.Execute("insert into PersonalDetails (Name) values ('" +
+                                                   text.toStdString() + "')");
+    QSettings settings(SettingsFile(), QSettings::IniFormat);
+    for (const char *key : {"Horo/Name", "Horo/City", "Horo/Country"}) {
+        settings.setValue(QString::fromLatin1(key), text);
+    }
+    settings.sync();
+    Heartbeat heart;
+    Open();
+    window_->resize(size);
+    Start();
+    for (std::size_t view = 0; view < horoscopeViews.size(); ++view) {
+        window_->ChooseView(view);
+        QTest::qWait(20);
+    }
+    const MessageBoxAnswer answer;
+    ShowError(window_.get(), std::runtime_error(text.toStdString()));
+    QVERIFY(answer.Text().size() < 2000);
+    QVERIFY2(heart.LongestHold() < 1000, QByteArray::number(heart.LongestHold()));
+    QCOMPARE(window_->size(), size);
+    const QList<QLabel *> labels = window_->findChildren<QLabel *>();
+    for (const QLabel *label : labels) {
+        const bool isPlain = label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()) ||
+                             (label->textFormat() == Qt::RichText && !label->text().contains(u"<table>"));
+        QVERIFY2(isPlain, qPrintable(label->objectName()));
+    }
 }
 
 QTEST_MAIN(MainWindowTest)
