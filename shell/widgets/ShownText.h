@@ -6,7 +6,7 @@ namespace kelvaro {
 
 // Texts that come from outside, as a window can show them at once: Qt sets a text of a million letters, or
 // guesses at its markup, for as long as a minute. Characters that turn the direction of what follows are left
-// out.
+// out, and marks upon marks on one letter.
 
 /// A text in one line of at most so many characters. An ellipsis stands for what is cut.
 QString OneLine(const QString &text, qsizetype most = 255);
