@@ -5,13 +5,15 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QFontMetrics>
+#include <QFontMetricsF>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
+#include <set>
 
 namespace kelvaro {
 
@@ -42,19 +44,29 @@ QFont Sized(QFont font, double points, bool isBold) {
     return font;
 }
 
-int RowHeight(const QFontMetrics &metrics, double lines) {
-    return qRound(metrics.height() * lines);
+int RowHeight(const QFont &font, double lines) {
+    return qRound(QFontMetrics(font).height() * lines);
+}
+
+/// The room that a text of a cell takes up.
+double WidthOf(const QString &text, const QFontMetricsF &metrics) {
+    return metrics.horizontalAdvance(PaddingDelegate::Padded(text));
+}
+
+/// The headings of the columns of a grid.
+QStringList TitlesOf(const TextGrid &grid) {
+    QStringList titles = TextOf(grid.header).split(u'|');
+    for (QString &title : titles) {
+        title = title.simplified();
+    }
+    return titles;
 }
 
 } // namespace
 
 void TextGridModel::Show(const TextGrid &grid, std::size_t firstRow, std::size_t rowCount) {
     beginResetModel();
-    titles_.clear();
-    const QStringList titles = TextOf(grid.header).split(u'|');
-    for (const QString &title : titles) {
-        titles_ << title.simplified();
-    }
+    titles_ = TitlesOf(grid);
     const auto first = grid.rows.begin() + static_cast<std::ptrdiff_t>(firstRow);
     rows_.assign(first, first + static_cast<std::ptrdiff_t>(rowCount));
     boldCells_.clear();
@@ -96,13 +108,25 @@ Qt::Alignment TextGridModel::AlignmentOf(int column) const {
                                                 : Qt::AlignLeft);
 }
 
+QString TextGridModel::TextAt(const QModelIndex &index) const {
+    const auto &row = rows_.at(static_cast<std::size_t>(index.row()));
+    const auto column = static_cast<std::size_t>(index.column());
+    return column < row.size() ? TextOf(row.at(column)) : QString();
+}
+
+/// "Sun, Longitude: 88.19.3". What a reader of screens makes of the headings of a table differs from one to
+/// the next.
+QString TextGridModel::SpokenText(const QModelIndex &index) const {
+    const QString text = QStringLiteral("%1: %2").arg(titles_.at(index.column()), TextAt(index));
+    return index.column() > 0 ? QStringLiteral("%1, %2").arg(TextAt(index.siblingAtColumn(0)), text) : text;
+}
+
 QVariant TextGridModel::data(const QModelIndex &index, int role) const {
     switch (role) {
-    case Qt::DisplayRole: {
-        const auto &row = rows_.at(static_cast<std::size_t>(index.row()));
-        const auto column = static_cast<std::size_t>(index.column());
-        return column < row.size() ? TextOf(row.at(column)) : QString();
-    }
+    case Qt::DisplayRole:
+        return TextAt(index);
+    case Qt::AccessibleTextRole:
+        return SpokenText(index);
     case Qt::TextAlignmentRole:
         return AlignmentOf(index.column()).toInt();
     case Qt::ForegroundRole:
@@ -159,33 +183,54 @@ void TextGridView::Show(const TextGrid &grid, std::size_t firstRow, std::size_t 
     model_->Show(grid, firstRow, rowCount);
 }
 
-std::vector<int> TextGridView::ColumnWidths(const QFontMetrics &boldMetrics) const {
-    // What the style keeps free in a cell, and the line of the grid.
-    const int padding = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
+void TextGridView::MakeRoomFor(const TextGrid &grid) {
+    const QFontMetricsF metrics(Sized(font(), font().pointSizeF(), true));
+    const qsizetype columns = TitlesOf(grid).size();
+    std::vector<double> widths(static_cast<std::size_t>(columns));
+    widest_ = QStringList(columns);
+    for (const std::vector<std::string> &row : grid.rows) {
+        for (std::size_t column = 0; column < std::min(row.size(), widths.size()); ++column) {
+            const QString text = TextOf(row.at(column));
+            const double width = WidthOf(text, metrics);
+            if (width > widths.at(column)) {
+                widths.at(column) = width;
+                widest_[static_cast<qsizetype>(column)] = text;
+            }
+        }
+    }
+}
+
+std::vector<int> TextGridView::ColumnWidths(const QFont &boldFont) const {
+    const QFontMetricsF metrics(boldFont);
+    // What the style keeps free in a cell and in a heading, and the line of the grid.
+    const int cellPadding = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin) + 1) + 1;
+    const int titlePadding = 2 * style()->pixelMetric(QStyle::PM_HeaderMargin) + 1;
     std::vector<int> widths;
     for (int column = 0; column < model_->columnCount(); ++column) {
-        int width = boldMetrics.horizontalAdvance(
-            model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString());
+        const QString title = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        double width = column < widest_.size() ? WidthOf(widest_.at(column), metrics) : 0;
         for (int row = 0; row < model_->rowCount(); ++row) {
-            const QString text = model_->data(model_->index(row, column), Qt::DisplayRole).toString();
-            width = std::max(width, boldMetrics.horizontalAdvance(PaddingDelegate::Padded(text)));
+            width = std::max(width, WidthOf(model_->index(row, column).data().toString(), metrics));
         }
-        widths.push_back(width + padding);
+        // Both are cut to whole pixels where they are drawn.
+        widths.push_back(
+            static_cast<int>(std::max(std::ceil(width) + cellPadding,
+                                      std::ceil(metrics.horizontalAdvance(title)) + titlePadding)) +
+            1);
     }
     return widths;
 }
 
 QSize TextGridView::SizeAt(double points) const {
-    const QFontMetrics metrics(Sized(font(), points, false));
-    const std::vector<int> widths = ColumnWidths(QFontMetrics(Sized(font(), points, true)));
+    const std::vector<int> widths = ColumnWidths(Sized(font(), points, true));
     return {std::accumulate(widths.begin(), widths.end(), frame),
-            (model_->rowCount() + 1) * RowHeight(metrics, closeRow) + frame};
+            (model_->rowCount() + 1) * RowHeight(Sized(font(), points, false), closeRow) + frame};
 }
 
 int TextGridView::RowHeightAt(double points, int rows, int room) const {
-    const QFontMetrics metrics(Sized(font(), points, false));
-    return std::clamp((room - frame) / std::max(rows, 1), RowHeight(metrics, closeRow),
-                      RowHeight(metrics, airyRow));
+    const QFont sized = Sized(font(), points, false);
+    return std::clamp((room - frame) / std::max(rows, 1), RowHeight(sized, closeRow),
+                      RowHeight(sized, airyRow));
 }
 
 void TextGridView::LayOut(double points, int width, int rowHeight) {
@@ -195,7 +240,7 @@ void TextGridView::LayOut(double points, int width, int rowHeight) {
     verticalHeader()->setDefaultSectionSize(rowHeight);
     horizontalHeader()->setFixedHeight(rowHeight);
 
-    const std::vector<int> widths = ColumnWidths(QFontMetrics(horizontalHeader()->font()));
+    const std::vector<int> widths = ColumnWidths(horizontalHeader()->font());
     const int natural = std::accumulate(widths.begin(), widths.end(), 0);
     const double stretch =
         std::clamp(static_cast<double>(width - frame) / std::max(natural, 1), 1.0, widestStretch);
@@ -212,20 +257,34 @@ void TextGridView::LayOut(double points, int width, int rowHeight) {
 void TextGridView::keyPressEvent(QKeyEvent *event) {
     if (!event->matches(QKeySequence::Copy)) {
         QTableView::keyPressEvent(event);
-        return;
+    } else if (selectionModel()->hasSelection()) {
+        QApplication::clipboard()->setText(SelectedText());
     }
-    QModelIndexList cells = selectionModel()->selectedIndexes();
-    std::ranges::sort(cells, [](const QModelIndex &a, const QModelIndex &b) {
-        return a.row() != b.row() ? a.row() < b.row() : a.column() < b.column();
-    });
-    QString text;
-    for (qsizetype i = 0; i < cells.size(); ++i) {
-        if (i > 0) {
-            text += cells.at(i).row() == cells.at(i - 1).row() ? u'\t' : u'\n';
+}
+
+/// Lines of cells with tabs between them, below a line of the columns' headings and each behind the heading
+/// of its row. What is not selected between selected cells is empty.
+QString TextGridView::SelectedText() const {
+    std::set<int> rows;
+    std::set<int> columns{0};
+    for (const QModelIndex &cell : selectionModel()->selectedIndexes()) {
+        rows.insert(cell.row());
+        columns.insert(cell.column());
+    }
+    QStringList headings;
+    for (const int column : columns) {
+        headings << model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString().trimmed();
+    }
+    QStringList lines{headings.join(u'\t')};
+    for (const int row : rows) {
+        QStringList texts;
+        for (const int column : columns) {
+            const QModelIndex cell = model_->index(row, column);
+            texts << (column == 0 || selectionModel()->isSelected(cell) ? cell.data().toString() : QString());
         }
-        text += cells.at(i).data().toString();
+        lines << texts.join(u'\t');
     }
-    QApplication::clipboard()->setText(text);
+    return lines.join(u'\n');
 }
 
 } // namespace kelvaro

@@ -9,7 +9,8 @@
 
 namespace kelvaro {
 
-/// Rows of a text grid, as a table's model.
+/// Rows of a text grid, as a table's model. The first column names the rows; a cell is read aloud with the
+/// headings of its row and its column.
 class TextGridModel : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
@@ -30,6 +31,8 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    QString TextAt(const QModelIndex &index) const;
+    QString SpokenText(const QModelIndex &index) const;
     bool IsBold(const QModelIndex &index) const;
     Qt::Alignment AlignmentOf(int column) const;
 
@@ -40,8 +43,8 @@ private:
     int markedRow_ = -1;
 };
 
-/// A table of texts in the colours of the house, with columns that fit their contents. Selected cells can be
-/// copied.
+/// A table of texts in the colours of the house, with columns that fit their contents. Selected cells are
+/// copied with the headings of their columns and rows.
 class TextGridView : public QTableView {
 public:
     static constexpr double widestStretch = 1.75; ///< of columns, times what their contents need
@@ -50,6 +53,9 @@ public:
 
     void Show(const TextGrid &grid);
     void Show(const TextGrid &grid, std::size_t firstRow, std::size_t rowCount);
+
+    /// Keeps the columns wide enough for all rows of a grid, whichever of them are shown.
+    void MakeRoomFor(const TextGrid &grid);
 
     TextGridModel &Rows() { return *model_; }
 
@@ -67,9 +73,11 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    std::vector<int> ColumnWidths(const QFontMetrics &boldMetrics) const;
+    std::vector<int> ColumnWidths(const QFont &boldFont) const;
+    QString SelectedText() const;
 
     TextGridModel *model_;
+    QStringList widest_; ///< texts of the columns of a grid, of which only some rows may be shown
 };
 
 } // namespace kelvaro

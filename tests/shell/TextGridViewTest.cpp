@@ -1,5 +1,6 @@
 #include "shell/widgets/TextGridView.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QScrollBar>
@@ -29,7 +30,9 @@ private slots:
     void SomeRowsOfTheGridKeepTheirBoldCells();
     void NothingIsCut();
     void RowsShareTheRoomWithinBounds();
-    void SelectionIsCopied();
+    void ColumnsHaveRoomForRowsThatAreNotShown();
+    void SelectionIsCopiedWithItsHeadings();
+    void CellsAreReadWithTheirHeadings();
 
 private:
     static QString TextAt(const TextGridView &view, int row, int column) {
@@ -106,14 +109,45 @@ void TextGridViewTest::RowsShareTheRoomWithinBounds() {
     QCOMPARE(view.RowHeightAt(18, 0, 0), view.RowHeightAt(18, 4, 0));
 }
 
-void TextGridViewTest::SelectionIsCopied() {
+void TextGridViewTest::ColumnsHaveRoomForRowsThatAreNotShown() {
     TextGridView view(QStringLiteral("grid"), QStringLiteral("l"));
     view.Show(Periods());
+    const QSize whole = view.SizeAt(9);
+    view.MakeRoomFor(Periods());
+    view.Show(Periods(), 0, 1);
+    QCOMPARE(view.SizeAt(9).width(), whole.width());
+}
+
+void TextGridViewTest::SelectionIsCopiedWithItsHeadings() {
+    TextGridView view(QStringLiteral("grid"), QStringLiteral("l"));
+    view.Show(Periods());
+    QApplication::clipboard()->setText(QStringLiteral("kept"));
+    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(), QStringLiteral("kept")); // nothing was selected
     view.selectAll();
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QApplication::clipboard()->text(),
-             QStringLiteral(
-                 "Sun\t14/Jul/1965\tMoon\t0 - 2\nA lord of a long name\t1\t\t12\nMars\t31/Jul/1977\tKetu\t"));
+             QStringLiteral("Lord\tFrom\tSub Lord\tAge\nSun\t14/Jul/1965\tMoon\t0 - 2\n"
+                            "A lord of a long name\t1\t\t12\nMars\t31/Jul/1977\tKetu\t"));
+    view.clearSelection();
+    for (const auto &[row, column] : {std::pair{2, 1}, {0, 3}}) {
+        view.selectionModel()->select(view.model()->index(row, column), QItemSelectionModel::Select);
+    }
+    QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
+    QCOMPARE(QApplication::clipboard()->text(),
+             QStringLiteral("Lord\tFrom\tAge\nSun\t\t0 - 2\nMars\t31/Jul/1977\t"));
+}
+
+void TextGridViewTest::CellsAreReadWithTheirHeadings() {
+    TextGridView view(QStringLiteral("grid"), QStringLiteral("l"));
+    view.Show(Periods());
+    QAccessibleTableInterface *table = QAccessible::queryAccessibleInterface(&view)->tableInterface();
+    const auto spoken = [&](int row, int column) {
+        return table->cellAt(row, column)->text(QAccessible::Name);
+    };
+    QCOMPARE(spoken(0, 0), QStringLiteral("Lord: Sun"));
+    QCOMPARE(spoken(2, 1), QStringLiteral("Mars, From: 31/Jul/1977"));
+    QCOMPARE(spoken(2, 3), QStringLiteral("Mars, Age: "));
 }
 
 QTEST_MAIN(TextGridViewTest)
