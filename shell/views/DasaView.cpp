@@ -5,14 +5,14 @@
 #include "runtime/Now.h"
 #include "shell/widgets/ChartColours.h"
 #include "shell/widgets/HouseIcon.h"
+#include "shell/widgets/SpokenNames.h"
 
-#include <QGridLayout>
-#include <QScrollArea>
+#include <QScopedValueRollback>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <optional>
-#include <span>
 #include <utility>
 
 namespace kelvaro {
@@ -26,8 +26,8 @@ constexpr GridGroup::FontSizes fontSizes{1.8, 0.85};
 constexpr double linesOfContent = 45; // of the window that leave all but the lists as it is
 constexpr double lettersOfContent = 140;
 constexpr double buttonWidth = 1.7; // times that of its word
-constexpr int linesAbove = 4;       // the lists
 constexpr int rowsOfList = 10;      // nine periods and the titles
+constexpr int firstRowOfLists = 3;  // of the layout
 
 using Periods = std::span<const DasaPeriod>;
 
@@ -51,68 +51,124 @@ void ShowPeriods(Periods shown, Periods all, const TextGrid &grid, Moment date, 
     list.Rows().Mark(isShown ? static_cast<int>(*marked - first) : -1);
 }
 
-TextGridView *NewList(const char *name) {
+/// The section of a grid that holds a row; -1 where none does.
+int SectionOfRow(const TextGrid &grid, std::size_t row) {
+    const auto next = std::ranges::upper_bound(grid.sections, row, {}, &TextGrid::Section::firstRow);
+    return static_cast<int>(next - grid.sections.begin()) - 1;
+}
+
+/// The section of a grid that holds the first of some periods; -1 where there are none.
+int SectionOf(Periods periods, Periods all, const TextGrid &grid) {
+    return periods.empty() ? -1 : SectionOfRow(grid, static_cast<std::size_t>(periods.data() - all.data()));
+}
+
+/// The period of a section's first row.
+const DasaPeriod &FirstOf(Periods all, const TextGrid &grid, int section) {
+    return all[grid.sections.at(static_cast<std::size_t>(section)).firstRow];
+}
+
+/// Selects the row that is marked, or none.
+void SelectMarked(TextGridView &list) {
+    list.clearSelection();
+    list.setCurrentIndex(list.model()->index(list.Rows().MarkedRow(), 0));
+}
+
+TextGridView *NewList(const char *name, const QString &spokenName) {
     auto *list = new TextGridView(QString::fromLatin1(name), QStringLiteral("lccc"));
+    list->setAccessibleName(spokenName);
     list->setSelectionBehavior(QAbstractItemView::SelectRows);
     list->setSelectionMode(QAbstractItemView::SingleSelection);
     return list;
 }
 
+QComboBox *NewSections(const char *name, const QString &spokenName) {
+    auto *sections = new QComboBox;
+    sections->setObjectName(QString::fromLatin1(name));
+    sections->setAccessibleName(spokenName);
+    return sections;
+}
+
+QLabel *NewLine(const char *name) {
+    auto *line = new QLabel;
+    line->setObjectName(QString::fromLatin1(name));
+    line->setTextFormat(Qt::PlainText);
+    line->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    line->setAlignment(Qt::AlignCenter);
+    line->setWordWrap(true);
+    return line;
+}
+
 } // namespace
 
 DasaView::DasaView(QWidget *parent)
-    : HoroscopeView(parent), heading_(new ViewHeading(tr("Vimshottari Dasa"))), balance_(new QLabel),
-      todayLine_(new QLabel), todayButton_(new QPushButton(tr("&Today"))), mshDasa_(NewList("mshDasa")),
-      mshBukti_(NewList("mshBukti")), mshAntra_(NewList("mshAntra")),
+    : HoroscopeView(parent), heading_(new ViewHeading(tr("Vimshottari Dasa"))),
+      balance_(NewLine("Lab_DasaBalanceV")), todayLine_(NewLine("todaysPeriods")),
+      todayButton_(new QPushButton(tr("&Today"))),
+      bhuktiSections_(NewSections("bhuktiSections", tr("Section of the bhuktis"))),
+      antraSections_(NewSections("antraSections", tr("Section of the antras"))),
+      mshDasa_(NewList("mshDasa", tr("Dasas"))), mshBukti_(NewList("mshBukti", tr("Bhuktis"))),
+      mshAntra_(NewList("mshAntra", tr("Antras"))), note_(NewLine("reckonings")),
       lists_({mshDasa_, mshBukti_, mshAntra_}, GridGroup::Order::Beside, fontSizes, rowsOfList),
-      sections_(new QComboBox) {
+      scroll_(new QScrollArea) {
     setAccessibleName(tr("Dasa"));
-    balance_->setObjectName(QStringLiteral("Lab_DasaBalanceV"));
-    balance_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    balance_->setAlignment(Qt::AlignCenter);
-    todayLine_->setObjectName(QStringLiteral("todaysPeriods"));
-    for (QLabel *line : {balance_, todayLine_}) {
-        line->setTextFormat(Qt::PlainText);
-    }
-    sections_->setObjectName(QStringLiteral("antraSections"));
-    sections_->setAccessibleName(tr("Section of the antras"));
     todayButton_->setObjectName(QStringLiteral("cmdToday"));
     todayButton_->setIcon(HouseIcon("today", nameColour));
+    note_->setText(
+        tr("Dasas, bhuktis and antras are three reckonings, whose dates drift apart: dasas count the "
+           "days of the chosen year, bhuktis calendar years, months and days, and antras the days "
+           "of that year from birth on, at their full length."));
 
-    auto *line = new QHBoxLayout;
-    line->addStretch();
-    line->addWidget(todayLine_);
-    line->addSpacing(margin);
-    line->addWidget(todayButton_);
-    line->addStretch();
+    QPalette quiet = note_->palette();
+    quiet.setColor(QPalette::WindowText, figureColour);
+    note_->setPalette(quiet);
 
     auto *content = new QWidget;
-    auto *layout = new QGridLayout(content);
-    layout->setContentsMargins(margin, margin, margin, margin);
-    layout->setHorizontalSpacing(listDistance);
-    layout->setVerticalSpacing(lineDistance);
-    layout->addWidget(heading_, 0, 0, 1, 3);
-    layout->addWidget(balance_, 1, 0, 1, 3);
-    layout->addLayout(line, 2, 0, 1, 3);
-    layout->addWidget(sections_, 3, 2, Qt::AlignHCenter);
-    layout->addWidget(mshDasa_, 4, 0, Qt::AlignHCenter | Qt::AlignTop);
-    layout->addWidget(mshBukti_, 4, 1, Qt::AlignHCenter | Qt::AlignTop);
-    layout->addWidget(mshAntra_, 4, 2, Qt::AlignHCenter | Qt::AlignTop);
-    layout->setRowStretch(5, 1);
-    auto *scroll = new QScrollArea;
-    scroll->setWidget(content);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
+    rows_ = new QGridLayout(content);
+    rows_->setContentsMargins(margin, margin, margin, margin);
+    rows_->setHorizontalSpacing(listDistance);
+    rows_->setVerticalSpacing(lineDistance);
+    PlaceLists();
+    scroll_->setWidget(content);
+    scroll_->setWidgetResizable(true);
+    scroll_->setFrameShape(QFrame::NoFrame);
     auto *whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(scroll);
+    whole->addWidget(scroll_);
+    NameFields(*this);
 
-    connect(mshDasa_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex &row) { ShowBhuktisOf(row.row()); });
-    connect(mshBukti_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this](const QModelIndex &row) { ShowAntrasOf(row.row()); });
-    connect(sections_, &QComboBox::currentIndexChanged, this, &DasaView::ShowAntraSection);
+    // A click also brings back what belongs to the row that is chosen already.
+    const auto dasa = [this](const QModelIndex &row) { ChooseDasa(row.row()); };
+    const auto bhukti = [this](const QModelIndex &row) { ChooseBhukti(row.row()); };
+    connect(mshDasa_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, dasa);
+    connect(mshDasa_, &QAbstractItemView::clicked, this, dasa);
+    connect(mshBukti_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, bhukti);
+    connect(mshBukti_, &QAbstractItemView::clicked, this, bhukti);
+    connect(bhuktiSections_, &QComboBox::currentIndexChanged, this, &DasaView::ShowBhuktiSection);
+    connect(antraSections_, &QComboBox::currentIndexChanged, this, &DasaView::ShowAntraSection);
     connect(todayButton_, &QPushButton::clicked, this, &DasaView::ChooseToday);
+}
+
+/// The antras stand beside the two other lists, or below them.
+void DasaView::PlaceLists() {
+    const int columns = isAntraBelow_ ? 2 : 3;
+    const int antraRow = firstRowOfLists + (isAntraBelow_ ? 2 : 0);
+    const int antraColumn = isAntraBelow_ ? 0 : 2;
+    const int antraColumns = isAntraBelow_ ? columns : 1;
+    const auto place = [this](QWidget *widget, int row, int column, int width, Qt::Alignment where) {
+        rows_->removeWidget(widget);
+        rows_->addWidget(widget, row, column, 1, width, where);
+    };
+    place(heading_, 0, 0, columns, {});
+    place(balance_, 1, 0, columns, {});
+    place(todayLine_, 2, 0, columns, {});
+    place(todayButton_, firstRowOfLists, 0, 1, Qt::AlignHCenter);
+    place(bhuktiSections_, firstRowOfLists, 1, 1, Qt::AlignHCenter);
+    place(mshDasa_, firstRowOfLists + 1, 0, 1, Qt::AlignHCenter | Qt::AlignTop);
+    place(mshBukti_, firstRowOfLists + 1, 1, 1, Qt::AlignHCenter | Qt::AlignTop);
+    place(antraSections_, antraRow, antraColumn, antraColumns, Qt::AlignHCenter);
+    place(mshAntra_, antraRow + 1, antraColumn, antraColumns, Qt::AlignHCenter | Qt::AlignTop);
+    place(note_, antraRow + 2, 0, columns, {});
+    rows_->setRowStretch(firstRowOfLists + 5, 1); // below all of them
 }
 
 void DasaView::Refresh(const Horoscope &horoscope) {
@@ -121,60 +177,125 @@ void DasaView::Refresh(const Horoscope &horoscope) {
     today_ = DateOf(Now());
     heading_->Show(horoscope.state);
     balance_->setText(QString::fromStdString(form_.Lab_DasaBalanceV));
-    todayLine_->setText(TodayText());
-    {
-        const QSignalBlocker silence(sections_);
-        sections_->clear();
-        for (const TextGrid::Section &section : form_.mshAntra.sections) {
-            sections_->addItem(QString::fromStdString(section.title));
-        }
-    }
+    FillSections();
+    mshBukti_->MakeRoomFor(form_.mshBukti);
+    mshAntra_->MakeRoomFor(form_.mshAntra);
     ShowPeriods(form_.dasas, form_.dasas, form_.mshDasa, today_, *mshDasa_);
     mshBukti_->Show(form_.mshBukti, 0, 0);
     mshAntra_->Show(form_.mshAntra, 0, 0);
     ChooseToday();
-    LayOut();
 }
 
-QString DasaView::TodayText() const {
+void DasaView::FillSections() {
+    for (const auto &[box, grid] :
+         {std::pair{bhuktiSections_, &form_.mshBukti}, std::pair{antraSections_, &form_.mshAntra}}) {
+        const QSignalBlocker silence(box);
+        box->clear();
+        for (const TextGrid::Section &section : grid->sections) {
+            box->addItem(QString::fromStdString(section.title));
+        }
+        box->setCurrentIndex(-1);
+    }
+}
+
+/// Those of the present date, each with its section and its dates.
+QStringList DasaView::TodaysPeriods() const {
+    struct Level {
+        QString name;
+        Periods periods;
+        const TextGrid &grid;
+    };
+    QStringList texts;
+    for (const Level &level :
+         {Level{tr("Dasa"), form_.dasas, form_.mshDasa}, Level{tr("Bhukthi"), form_.bhuktis, form_.mshBukti},
+          Level{tr("Antra"), form_.antras, form_.mshAntra}}) {
+        const auto place = PeriodAt(level.periods, today_);
+        if (!place) {
+            continue;
+        }
+        const DasaPeriod &period = level.periods[*place];
+        const int section = SectionOfRow(level.grid, *place);
+        const QString where = section < 0
+                                  ? QString()
+                                  : tr(" in %1").arg(QString::fromStdString(
+                                        level.grid.sections.at(static_cast<std::size_t>(section)).title));
+        texts << QStringLiteral("%1 %2%3 (%4 \u2013 %5)")
+                     .arg(level.name, QString::fromStdString(period.lordName), where,
+                          QString::fromStdString(MonthNameDateText(period.start)),
+                          QString::fromStdString(MonthNameDateText(period.end)));
+    }
+    return texts;
+}
+
+/// One line where the width allows it, otherwise a line for each period.
+QString DasaView::TodayText(int width) const {
     if (form_.dasas.empty()) {
         return {};
     }
-    QStringList lords;
-    for (const auto &[name, periods] :
-         {std::pair{tr("Dasa"), Periods(form_.dasas)}, std::pair{tr("Bhukthi"), Periods(form_.bhuktis)},
-          std::pair{tr("Antra"), Periods(form_.antras)}}) {
-        if (const auto place = PeriodAt(periods, today_)) {
-            lords << QStringLiteral("%1 %2").arg(name, QString::fromStdString(periods[*place].lordName));
-        }
-    }
     const QString date = QString::fromStdString(MonthNameDateText(today_));
-    return lords.isEmpty() ? tr("%1 lies outside the periods").arg(date)
-                           : QStringLiteral("%1:  %2").arg(date, lords.join(QStringLiteral(",  ")));
+    QStringList periods = TodaysPeriods();
+    if (periods.isEmpty()) {
+        return tr("%1 lies outside the periods").arg(date);
+    }
+    periods.front().prepend(date + QStringLiteral(":  "));
+    const QString line = periods.join(QStringLiteral("   \u00b7   "));
+    const bool fits = QFontMetrics(todayLine_->font()).horizontalAdvance(line) <= width;
+    return fits ? line : periods.join(u'\n');
 }
 
 void DasaView::ChooseToday() {
-    if (form_.dasas.empty()) {
-        return;
+    {
+        const QScopedValueRollback choosing(isChoosing_, true);
+        ChoosePeriodsOfToday();
     }
-    mshDasa_->selectRow(static_cast<int>(PeriodAt(form_.dasas, today_).value_or(0)));
-    const int bhukti = std::max(mshBukti_->Rows().MarkedRow(), 0);
-    if (bhukti < mshBukti_->Rows().rowCount()) {
-        mshBukti_->selectRow(bhukti);
-    }
-    // The antras are computed on their own: today's may belong to another bhukti than today's bhukti.
-    if (const auto antra = PeriodAt(form_.antras, today_)) {
-        sections_->setCurrentIndex(SectionOf(form_.antras.at(*antra)));
-        mshAntra_->selectRow(mshAntra_->Rows().MarkedRow());
-    }
+    LayOut();
 }
 
-void DasaView::ShowBhuktisOf(int dasa) {
+void DasaView::ChoosePeriodsOfToday() {
+    const auto dasa = PeriodAt(form_.dasas, today_);
+    const auto bhukti = PeriodAt(form_.bhuktis, today_);
+    const auto antra = PeriodAt(form_.antras, today_);
+    if (!dasa && !bhukti && !antra) {
+        mshDasa_->selectRow(0);
+        return;
+    }
+    // A chosen dasa brings its bhuktis and a chosen bhukti its antras, neither of them always today's.
+    SelectMarked(*mshDasa_);
+    if (bhukti) {
+        bhuktiSections_->setCurrentIndex(SectionOfRow(form_.mshBukti, *bhukti));
+    }
+    SelectMarked(*mshBukti_);
+    if (antra) {
+        antraSections_->setCurrentIndex(SectionOfRow(form_.mshAntra, *antra));
+    }
+    SelectMarked(*mshAntra_);
+}
+
+void DasaView::ChooseDasa(int dasa) {
     if (dasa < 0) {
         return;
     }
-    // All bhuktis of a dasa that was nearly over at birth may have been dropped.
-    bhuktis_ = InDasa(form_.bhuktis, static_cast<std::size_t>(dasa));
+    const auto place = static_cast<std::size_t>(dasa);
+    const Periods bhuktis = InDasa(form_.bhuktis, place);
+    bhuktiSections_->setCurrentIndex(SectionOf(bhuktis, form_.bhuktis, form_.mshBukti));
+    // All bhuktis of a dasa that was nearly over at birth may have been dropped; antras it has.
+    if (bhuktis.empty()) {
+        antraSections_->setCurrentIndex(SectionOf(InDasa(form_.antras, place), form_.antras, form_.mshAntra));
+    }
+}
+
+void DasaView::ChooseBhukti(int bhukti) {
+    if (bhukti < 0) {
+        return;
+    }
+    const DasaPeriod &period = bhuktis_[static_cast<std::size_t>(bhukti)];
+    antraSections_->setCurrentIndex(
+        SectionOf(InBhukti(form_.antras, period.dasa, period.bhukti), form_.antras, form_.mshAntra));
+}
+
+void DasaView::ShowBhuktiSection(int section) {
+    bhuktis_ =
+        section < 0 ? Periods() : InDasa(form_.bhuktis, FirstOf(form_.bhuktis, form_.mshBukti, section).dasa);
     ShowPeriods(bhuktis_, form_.bhuktis, form_.mshBukti, today_, *mshBukti_);
     LayOut();
     if (!bhuktis_.empty()) {
@@ -182,31 +303,13 @@ void DasaView::ShowBhuktisOf(int dasa) {
     }
 }
 
-void DasaView::ShowAntrasOf(int bhukti) {
-    if (bhukti < 0 || form_.antras.empty()) {
-        return;
-    }
-    const int section = SectionOf(bhuktis_[static_cast<std::size_t>(bhukti)]);
-    sections_->setCurrentIndex(section);
-    ShowAntraSection(section);
-}
-
-int DasaView::SectionOf(const DasaPeriod &period) const {
-    const Periods antras = InBhukti(form_.antras, period.dasa, period.bhukti);
-    const auto section = std::ranges::find(form_.mshAntra.sections,
-                                           static_cast<std::size_t>(antras.data() - form_.antras.data()),
-                                           &TextGrid::Section::firstRow);
-    return static_cast<int>(section - form_.mshAntra.sections.begin());
-}
-
 void DasaView::ShowAntraSection(int section) {
-    if (section < 0) {
-        return;
+    Periods antras;
+    if (section >= 0) {
+        const DasaPeriod &first = FirstOf(form_.antras, form_.mshAntra, section);
+        antras = InBhukti(form_.antras, first.dasa, first.bhukti);
     }
-    const DasaPeriod &first =
-        form_.antras.at(form_.mshAntra.sections.at(static_cast<std::size_t>(section)).firstRow);
-    ShowPeriods(InBhukti(form_.antras, first.dasa, first.bhukti), form_.antras, form_.mshAntra, today_,
-                *mshAntra_);
+    ShowPeriods(antras, form_.antras, form_.mshAntra, today_, *mshAntra_);
     LayOut();
 }
 
@@ -215,22 +318,51 @@ void DasaView::resizeEvent(QResizeEvent *event) {
     LayOut();
 }
 
-int DasaView::HeightOfLists() const {
-    const int lines = heading_->sizeHint().height() + balance_->sizeHint().height() +
-                      todayButton_->sizeHint().height() + sections_->sizeHint().height();
-    return height() - lines - 2 * margin - linesAbove * lineDistance;
+/// Too low a window is scrolled, and the scroll bar takes some of the width.
+QSize DasaView::RoomForLists() const {
+    const QSize window = scroll_->maximumViewportSize() - QSize(2 * margin, 2 * margin);
+    const int listsBeside = isAntraBelow_ ? 2 : 3;
+    int others = 0;
+    int lines = 2; // of lists and of their sections
+    for (const QLabel *label : std::initializer_list<const QLabel *>{heading_, balance_, todayLine_, note_}) {
+        others += label->heightForWidth(window.width());
+        ++lines;
+    }
+    const int sections = std::max(todayButton_->sizeHint().height(), antraSections_->sizeHint().height());
+    others += sections;
+    if (isAntraBelow_) {
+        others += sections;
+        lines += 2;
+    }
+    const int height = window.height() - others - lines * lineDistance;
+    const bool isLow = lists_.LeastSize(font().pointSizeF()).height() > height;
+    const int bar = isLow ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+    return {window.width() - bar - (listsBeside - 1) * listDistance, height};
 }
 
 void DasaView::LayOut() {
+    if (isChoosing_) {
+        return;
+    }
     const QFont roomy = RoomyFont(linesOfContent, lettersOfContent);
-    for (QWidget *widget :
-         std::initializer_list<QWidget *>{heading_, balance_, todayLine_, todayButton_, sections_}) {
+    for (QWidget *widget : std::initializer_list<QWidget *>{heading_, balance_, todayLine_, todayButton_,
+                                                            bhuktiSections_, antraSections_, note_}) {
         widget->setFont(roomy);
     }
     const int word = QFontMetrics(roomy).horizontalAdvance(todayButton_->text());
     todayButton_->setMinimumWidth(qRound(word * buttonWidth));
-    // Too narrow a window is scrolled.
-    lists_.LayOut(font().pointSizeF(), QSize(width() - 2 * margin - 2 * listDistance, HeightOfLists()));
+    todayLine_->setText(TodayText(width() - 2 * margin));
+
+    const double points = font().pointSizeF();
+    const bool wasAntraBelow = isAntraBelow_;
+    isAntraBelow_ = false;
+    lists_.SetGridsPerLine(3);
+    isAntraBelow_ = lists_.LeastSize(points).width() > RoomForLists().width();
+    lists_.SetGridsPerLine(isAntraBelow_ ? 2 : 3);
+    if (isAntraBelow_ != wasAntraBelow) {
+        PlaceLists();
+    }
+    lists_.LayOut(points, RoomForLists());
 }
 
 } // namespace kelvaro

@@ -6,15 +6,19 @@
 #include "shell/views/ViewHeading.h"
 
 #include <QComboBox>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 
 #include <span>
 
 namespace kelvaro {
 
-/// The window of the Vimshottari dasa: dasas, the bhuktis of the chosen dasa and the antras of a chosen
-/// section.
+/// The window of the Vimshottari dasa: dasas, the bhuktis of a dasa and the antras of a bhukti.
+///
+/// The three are reckoned each on its own and their dates drift apart: the bhukti of a day may lie in another
+/// dasa than the dasa of that day. Bhuktis and antras therefore have a list of sections each.
 class DasaView : public HoroscopeView {
     Q_OBJECT
 
@@ -23,21 +27,25 @@ public:
 
     void Refresh(const Horoscope &horoscope) override;
 
-    /// Chooses the periods that hold the present date, where there are any.
+    /// Chooses the periods that hold the present date, each in its own section; the first dasa where no
+    /// period holds it.
     void ChooseToday();
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void ShowBhuktisOf(int dasa);
-    void ShowAntrasOf(int bhukti);
+    void PlaceLists();
+    void FillSections();
+    void ChoosePeriodsOfToday();
+    void ChooseDasa(int dasa);
+    void ChooseBhukti(int bhukti);
+    void ShowBhuktiSection(int section);
     void ShowAntraSection(int section);
     void LayOut();
-    int HeightOfLists() const;
-    QString TodayText() const;
-    /// The section of the antras of a bhukti, or the one that holds an antra.
-    int SectionOf(const DasaPeriod &period) const;
+    QSize RoomForLists() const;
+    QStringList TodaysPeriods() const;
+    QString TodayText(int width) const;
 
     DasaForm form_;
     Moment today_;
@@ -45,11 +53,17 @@ private:
     QLabel *balance_;
     QLabel *todayLine_;
     QPushButton *todayButton_;
+    QComboBox *bhuktiSections_;
+    QComboBox *antraSections_;
     TextGridView *mshDasa_;
     TextGridView *mshBukti_;
     TextGridView *mshAntra_;
+    QLabel *note_;
     GridGroup lists_;
-    QComboBox *sections_;
+    QScrollArea *scroll_;
+    QGridLayout *rows_;
+    bool isAntraBelow_ = false;           ///< there is no room for three lists beside one another
+    bool isChoosing_ = false;             ///< lists are laid out when all of them are chosen
     std::span<const DasaPeriod> bhuktis_; ///< those in the list
 };
 

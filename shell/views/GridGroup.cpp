@@ -13,26 +13,37 @@ constexpr double fontStep = 0.05; // times the window's size
 } // namespace
 
 GridGroup::GridGroup(std::vector<TextGridView *> grids, Order order, FontSizes sizes, int rowsBeside)
-    : grids_(std::move(grids)), isBeside_(order == Order::Beside), sizes_(sizes), rowsBeside_(rowsBeside) {}
+    : grids_(std::move(grids)), isBeside_(order == Order::Beside), sizes_(sizes), rowsBeside_(rowsBeside),
+      perLine_(isBeside_ ? grids_.size() : 1) {}
 
 int GridGroup::RowCount() const {
-    return isBeside_
-               ? rowsBeside_
-               : std::accumulate(grids_.begin(), grids_.end(), 0, [](int sum, const TextGridView *grid) {
-                     return sum + grid->model()->rowCount() + 1;
-                 });
+    if (isBeside_) {
+        return rowsBeside_ * static_cast<int>(LineCount());
+    }
+    return std::accumulate(grids_.begin(), grids_.end(), 0, [](int sum, const TextGridView *grid) {
+        return sum + grid->model()->rowCount() + 1;
+    });
 }
 
 /// The least size at which every cell is seen.
 QSize GridGroup::SizeAt(double points) const {
+    if (isBeside_) {
+        return SizeBesideAt(points);
+    }
     QSize whole(0, 0);
     for (const TextGridView *grid : grids_) {
         const QSize size = grid->SizeAt(points);
-        whole = isBeside_ ? QSize(whole.width() + size.width(),
-                                  rowsBeside_ * grid->RowHeightAt(points, rowsBeside_, 0))
-                          : QSize(std::max(whole.width(), size.width()), whole.height() + size.height());
+        whole = QSize(std::max(whole.width(), size.width()), whole.height() + size.height());
     }
     return whole;
+}
+
+QSize GridGroup::SizeBesideAt(double points) const {
+    std::vector<int> widths(LineCount());
+    for (std::size_t i = 0; i < grids_.size(); ++i) {
+        widths.at(i / perLine_) += grids_[i]->SizeAt(points).width();
+    }
+    return {*std::ranges::max_element(widths), RowCount() * grids_.front()->RowHeightAt(points, 1, 0)};
 }
 
 void GridGroup::LayOut(double windowPoints, const QSize &room) {

@@ -24,19 +24,28 @@ public:
 
     const std::vector<TextGridView *> &Grids() const { return grids_; }
 
+    /// Sets how many of the grids stand beside one another, in lines below one another; all at first.
+    void SetGridsPerLine(std::size_t count) { perLine_ = count; }
+
+    /// What the group needs in the smallest font.
+    QSize LeastSize(double windowPoints) const { return SizeAt(windowPoints * sizes_.smallest); }
+
     /// Lays the grids out. What does not fit in the smallest font is as large as it needs to be. Width that
     /// is left over is shared: among grids beside one another all of it, otherwise up to
     /// `TextGridView::widestStretch`.
     void LayOut(double windowPoints, const QSize &room);
 
 private:
+    std::size_t LineCount() const { return (grids_.size() + perLine_ - 1) / perLine_; }
     QSize SizeAt(double points) const;
+    QSize SizeBesideAt(double points) const;
     int RowCount() const;
 
     std::vector<TextGridView *> grids_;
     bool isBeside_;
     FontSizes sizes_;
     int rowsBeside_;
+    std::size_t perLine_;
 };
 
 } // namespace kelvaro

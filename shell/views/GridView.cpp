@@ -2,6 +2,7 @@
 
 #include "horoscope/Horoscope.h"
 
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace kelvaro {
@@ -10,7 +11,7 @@ namespace {
 
 constexpr int margin = 16;
 constexpr int distance = 10;
-constexpr GridGroup::FontSizes fontSizes{2, 1};
+constexpr GridGroup::FontSizes fontSizes{2, 0.85};
 constexpr double linesOfContent = 45; // of the window that leave the heading and the notes as they are
 constexpr double lettersOfContent = 140;
 
@@ -23,11 +24,12 @@ QLabel *CaptionLabel(const QString &text) {
     return label;
 }
 
-std::vector<TextGridView *> NewGrids(const std::vector<GridOfWindow> &described) {
+std::vector<TextGridView *> NewGrids(const std::vector<GridOfWindow> &described, const char *title) {
     std::vector<TextGridView *> grids;
     for (const GridOfWindow &each : described) {
         grids.push_back(
             new TextGridView(QString::fromLatin1(each.name), QString::fromLatin1(each.alignments)));
+        grids.back()->setAccessibleName(QString::fromLatin1(*each.caption != '\0' ? each.caption : title));
         grids.back()->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     }
     return grids;
@@ -37,7 +39,8 @@ std::vector<TextGridView *> NewGrids(const std::vector<GridOfWindow> &described)
 
 GridView::GridView(const GridWindow &window, QWidget *parent)
     : HoroscopeView(parent), window_(window), heading_(new ViewHeading(QString::fromLatin1(window.title))),
-      scroll_(new QScrollArea), grids_(NewGrids(window.grids), GridGroup::Order::Below, fontSizes) {
+      scroll_(new QScrollArea),
+      grids_(NewGrids(window.grids, window.title), GridGroup::Order::Below, fontSizes) {
     setAccessibleName(QString::fromLatin1(window.title));
     auto *content = new QWidget;
     auto *rows = new QVBoxLayout(content);
@@ -80,7 +83,7 @@ void GridView::resizeEvent(QResizeEvent *event) {
 
 QSize GridView::RoomForGrids() const {
     const QLayout *rows = scroll_->widget()->layout();
-    QSize room = size() - QSize(2 * margin, 2 * margin);
+    QSize room = scroll_->maximumViewportSize() - QSize(2 * margin, 2 * margin);
     int others = 0;
     for (int i = 0; i < rows->count(); ++i) {
         const QWidget *widget = rows->itemAt(i)->widget();
@@ -90,6 +93,9 @@ QSize GridView::RoomForGrids() const {
         }
     }
     room.rheight() -= others + rows->count() * distance;
+    if (grids_.LeastSize(font().pointSizeF()).height() > room.height()) {
+        room.rwidth() -= style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    }
     return room;
 }
 

@@ -37,6 +37,7 @@ protected:
 
 private:
     void LayOut();
+    /// Too low a window is scrolled, and the scroll bar takes some of the width.
     QSize RoomForGrids() const;
 
     GridWindow window_;
