@@ -57,9 +57,9 @@ StatusPanel::StatusPanel(QWidget *parent)
 void StatusPanel::Open(const QRect &area) {
     PicIn_->setGeometry(0, 0, 0, trackHeight);
     Span(area);
-    Frame1_->move(Frame1_->x() - contentShift, Frame1_->y());
     raise();
-    show();
+    show(); // which centres the content at last, as every change of size does
+    Frame1_->move(Frame1_->x() - contentShift, Frame1_->y());
     Paint();
 }
 

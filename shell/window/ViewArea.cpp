@@ -3,13 +3,15 @@
 #include "shell/views/ViewWithPanes.h"
 #include "shell/widgets/ChartColours.h"
 
+#include <QVBoxLayout>
+
 #include <utility>
 
 namespace kelvaro {
 
 namespace {
 
-constexpr QSize leastSize(379, 346);
+constexpr QSize leastSize(200, 150);
 
 /// Gives the keys to the part of a view that had them last, or to its first that takes them; to the view
 /// itself where none does.
@@ -30,6 +32,14 @@ ViewArea::ViewArea(QUrl server) : server_(std::move(server)) {
     setPalette(ParchmentPalette());
     setAutoFillBackground(true);
     setMinimumSize(leastSize);
+    setObjectName(QStringLiteral("views"));
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    auto *views = new QWidget;
+    auto *layout = new QVBoxLayout(views); // what is hidden takes up no room in it
+    layout->setContentsMargins(0, 0, 0, 0);
+    setWidget(views);
 }
 
 QWidget *ViewArea::ViewWindow::Whole() const {
@@ -41,8 +51,8 @@ ViewArea::ViewWindow ViewArea::NewWindow(const HoroscopeViewRow &row) {
     made.view = row.make();
     made.view->setObjectName(QString::fromLatin1(row.form));
     made.panes = server_.isValid() ? new ViewWithPanes(made.view, server_) : nullptr;
-    made.Whole()->setParent(this);
-    made.Whole()->setGeometry(rect());
+    made.Whole()->hide();
+    widget()->layout()->addWidget(made.Whole());
     return made;
 }
 
@@ -67,10 +77,13 @@ void ViewArea::ShowView(std::size_t view, const Horoscope &horoscope) {
     const QWidget *keys = window()->focusWidget();
     const bool areKeysElsewhere = keys != nullptr && !isAncestorOf(keys);
     for (const ViewWindow &each : views_) {
-        if (each.view != nullptr) {
-            each.Whole()->setVisible(&each == &shown);
+        if (each.view != nullptr && &each != &shown) {
+            each.Whole()->hide();
         }
     }
+    shown.Whole()->show();
+    widget()->layout()->activate();
+    ensureVisible(0, 0, 0, 0);
     // The form that started a run has taken the keys of the window with it.
     activateWindow();
     if (!areKeysElsewhere) {
@@ -78,14 +91,6 @@ void ViewArea::ShowView(std::size_t view, const Horoscope &horoscope) {
     }
     if (shown.panes != nullptr) {
         shown.panes->Navigate();
-    }
-}
-
-void ViewArea::resizeEvent(QResizeEvent *event) {
-    QWidget::resizeEvent(event);
-    const QList<QWidget *> made = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
-    for (QWidget *view : made) {
-        view->setGeometry(rect());
     }
 }
 

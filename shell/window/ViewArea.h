@@ -2,6 +2,7 @@
 
 #include "shell/window/HoroscopeViews.h"
 
+#include <QScrollArea>
 #include <QUrl>
 
 #include <array>
@@ -11,8 +12,9 @@ namespace kelvaro {
 
 class ViewWithPanes;
 
-/// The part of the main window where the views stand, one of them shown at a time and over the whole area.
-class ViewArea : public QWidget {
+/// The part of the main window where the views stand, one of them shown at a time and over the whole area. A
+/// view that has no use for so little room is scrolled.
+class ViewArea : public QScrollArea {
 public:
     /// The views have the panes of a server where its address is valid.
     explicit ViewArea(QUrl server);
@@ -23,9 +25,6 @@ public:
     /// Shows a view alone, and fills it where it is stale. It is made when it is shown for the first time.
     /// It has the keys from now on, unless a part of the window beside the area has them.
     void ShowView(std::size_t view, const Horoscope &horoscope);
-
-protected:
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
     struct ViewWindow {

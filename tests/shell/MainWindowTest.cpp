@@ -10,6 +10,8 @@
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTimer>
@@ -41,6 +43,8 @@ private slots:
     void TreeOpensViewsByMouseAndKeys();
     void OneFrameIsVisibleInEachStyle();
     void ViewsFillTheirAreaAndHandTheKeysOn();
+    void ViewsShownAgainHaveTheSizeOfTheWindow();
+    void PanelStandsLeftOfTheMiddle();
     void NothingStartsASecondRunInsideARun();
     void WindowClosedInARunClosesAtItsEnd();
     void FailedRunNamesItsCauseAndShowsNoFigures();
@@ -244,6 +248,36 @@ void MainWindowTest::ViewsFillTheirAreaAndHandTheKeysOn() {
     QVERIFY(Form("Frm_PP")->isAncestorOf(window_->focusWidget()));
     QTest::keyClick(window_.get(), Qt::Key_9, Qt::ControlModifier);
     QVERIFY(Grid("mshBukti")->hasFocus());
+}
+
+void MainWindowTest::ViewsShownAgainHaveTheSizeOfTheWindow() {
+    const auto *area = Find<QScrollArea>("views");
+    const auto visitAll = [&](const auto &check) {
+        for (int node = 0; node < Tree()->topLevelItemCount(); ++node) {
+            ClickNode(node);
+            check(Form(horoscopeViews.at(static_cast<std::size_t>(node)).form));
+        }
+    };
+    window_->resize(1900, 1050);
+    visitAll([](const QWidget * /*view*/) {});
+    window_->resize(1000, 620);
+    visitAll([&](const QWidget *view) { QCOMPARE(view->geometry(), area->viewport()->rect()); });
+    // Where a chart would become too small to read, it is scrolled.
+    ClickNode(rasiNode);
+    window_->resize(420, 260);
+    QTRY_VERIFY(area->verticalScrollBar()->maximum() > 0);
+    QVERIFY(Form("frm_rasi")->height() >= 300);
+    window_->resize(1000, 620);
+    QTRY_COMPARE(Form("frm_rasi")->geometry(), area->viewport()->rect());
+}
+
+void MainWindowTest::PanelStandsLeftOfTheMiddle() {
+    QTimer::singleShot(0, this, [&] {
+        const QRect content = Form("Frame1")->geometry();
+        const int shift = (Form("PicMask")->width() - content.width()) / 2 - content.left();
+        QCOMPARE(shift, 20); // 300 units, 15 to a dot
+    });
+    window_->Calculate();
 }
 
 void MainWindowTest::NothingStartsASecondRunInsideARun() {
