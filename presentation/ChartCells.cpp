@@ -113,6 +113,7 @@ void ChartCellClear(HoroscopeForms &forms, std::int16_t selector) {
                 (form.*style.cells).fill("");
                 form.bodies.fill({});
                 form.breaksLines = false;
+                form.runsOn = false;
             }
         }
     }
@@ -136,6 +137,7 @@ void ChartCellFill(HoroscopeForms &forms, std::string_view kind, Body body, std:
             AppendToLabel(*rule, shown, (form.*style.cells).at(cell));
             form.bodies.at(cell).push_back(shown);
             form.breaksLines = rule->breaksLines;
+            form.runsOn = !rule->breaksLines;
         }
     }
 }

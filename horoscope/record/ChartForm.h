@@ -35,6 +35,7 @@ struct ChartForm {
     ChartStyle VisibleFrame = ChartStyle::Unknown;
     std::array<std::vector<CellBody>, 12> bodies; ///< of the visible frame's cells, in the order of the label
     bool breaksLines = false;                     ///< whether each body of a cell has a line of its own
+    bool runsOn = false;                          ///< whether the bodies of a cell share a line
 };
 
 } // namespace kelvaro

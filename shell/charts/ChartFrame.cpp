@@ -59,9 +59,10 @@ double CommonTextSize(const std::array<double, 12> &largest) {
     return size;
 }
 
-CellText TextOf(const std::vector<CellBody> &bodies, bool isListed) {
+CellText TextOf(const std::vector<CellBody> &bodies, const ChartForm &form) {
     CellText text;
-    text.isListed = isListed;
+    text.isListed = form.breaksLines;
+    text.runsOn = form.runsOn;
     for (const CellBody &body : bodies) {
         text.entries.push_back({QString::fromStdString(body.name), QString::fromStdString(body.degrees),
                                 body.IsLagna() ? Tone::Lagna : Tone::Name});
@@ -97,13 +98,15 @@ ChartFrame::ChartFrame(const StyleOfChart &style, const QString &labelArray, QWi
 
 void ChartFrame::SetHeading(const ChartHeading &heading) {
     heading_ = heading;
+    setAccessibleName(
+        QStringList{heading.title, heading.name, heading.moment, heading.place}.join(QStringLiteral(", ")));
     update();
 }
 
 void ChartFrame::SetCells(const ChartForm &form, const std::array<std::string, 12> &signNames) {
     const bool isShown = form.VisibleFrame == style_;
     for (std::size_t index = 0; index < cells_.size(); ++index) {
-        texts_.at(index) = isShown ? TextOf(form.bodies.at(index), form.breaksLines) : CellText{};
+        texts_.at(index) = isShown ? TextOf(form.bodies.at(index), form) : CellText{};
         cells_.at(index)->setText(QString::fromStdString((form.*labels_).at(index)));
         QString place;
         std::size_t sign = index;
@@ -165,7 +168,7 @@ void ChartFrame::FitCells() {
     for (std::size_t index = 0; index < cells_.size(); ++index) {
         placed_.at(index) = fitters[index].IsEmpty()
                                 ? PlacedText{}
-                                : fitters[index].Place(std::min(common, largest.at(index)));
+                                : fitters[index].Place(std::min(common, largest.at(index)), cellMargin);
     }
 }
 

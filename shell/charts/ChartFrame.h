@@ -29,7 +29,7 @@ public:
     QRectF Square() const { return square_; }
     QPolygonF CellOutline(std::size_t cell) const;
 
-    QSize minimumSizeHint() const override { return {160, 160}; }
+    QSize minimumSizeHint() const override { return {300, 300}; }
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

@@ -3,11 +3,12 @@
 #include "shell/widgets/ChartColours.h"
 
 #include <QColor>
-#include <QFontMetricsF>
 #include <QPaintDevice>
 #include <QStringList>
+#include <QTextOption>
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace kelvaro {
@@ -17,7 +18,13 @@ namespace {
 constexpr double lineGap = 0.42; // in font sizes
 constexpr double leastScale = 0.4;
 constexpr double scaleStep = 0.05;
-constexpr int wrapped = Qt::AlignHCenter | Qt::TextWordWrap;
+
+/// Centred lines that break between words, and in words that are longer than a line.
+QTextOption Wrapped() {
+    QTextOption option(Qt::AlignHCenter);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
 
 struct HeadingLine {
     QString text;
@@ -42,14 +49,14 @@ std::vector<HeadingLine> LinesOf(const ChartHeading &heading, HeadingShape shape
 class SetHeading {
 public:
     SetHeading(const std::vector<HeadingLine> &lines, const QRectF &area, double side, const ChartFont &font,
-               QPaintDevice &device)
+               QPainter &painter)
         : lines_(lines), area_(area) {
         for (const HeadingLine &line : lines) {
             const double size = line.size * side;
-            fonts_.push_back(font.AtSize(size, device.logicalDpiY(), line.isBold));
-            const QRectF box = QFontMetricsF(fonts_.back(), &device)
-                                   .boundingRect(QRectF(0, 0, area.width(), 1e6), wrapped, line.text);
-            heights_.push_back(box.height());
+            fonts_.push_back(font.AtSize(size, painter.device()->logicalDpiY(), line.isBold));
+            painter.setFont(fonts_.back());
+            const QRectF box = painter.boundingRect(QRectF(0, 0, area.width(), 1e6), line.text, Wrapped());
+            heights_.push_back(std::ceil(box.height()));
             gaps_.push_back(height_ == 0 ? 0 : lineGap * size);
             width_ = std::max(width_, box.width());
             height_ += heights_.back() + gaps_.back();
@@ -64,8 +71,8 @@ public:
             top += gaps_[index];
             painter.setFont(fonts_[index]);
             painter.setPen(lines_[index].colour);
-            painter.drawText(QRectF(area_.left(), top, area_.width(), heights_[index]),
-                             wrapped | Qt::TextDontClip, lines_[index].text);
+            painter.drawText(QRectF(area_.left(), top, area_.width(), heights_[index]), lines_[index].text,
+                             Wrapped());
             top += heights_[index];
         }
     }
@@ -87,7 +94,7 @@ void DrawHeading(QPainter &painter, const ChartHeading &heading, HeadingShape sh
     const std::vector<HeadingLine> lines = LinesOf(heading, shape);
     double scale = 1;
     for (;;) {
-        const SetHeading set(lines, area, side * scale, font, *painter.device());
+        const SetHeading set(lines, area, side * scale, font, painter);
         if (set.Fits() || scale <= leastScale) {
             set.Draw(painter);
             return;

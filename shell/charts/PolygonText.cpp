@@ -21,6 +21,8 @@ constexpr std::size_t mostEntriesBroken = 12;
 struct TextBlock {
     std::vector<PlacedRun> runs;
     std::vector<QPointF> corners; ///< of the boxes of its lines
+
+    std::size_t LineCount() const { return corners.size() / 4; }
 };
 
 /// normal * (x, y) + weight * value <= limit
@@ -170,6 +172,11 @@ TextBlock ColumnBlock(const CellText &text, const ChartFont &font) {
     return builder.Finish();
 }
 
+/// The room behind an entry of a line.
+double GapBehind(std::size_t entry, const CellText &text, const ChartFont &font) {
+    return text.runsOn ? font.Width(QString(entry == 0 ? 4 : 2, u' '), Tone::Name) : entryGap;
+}
+
 /// The entries with a line break behind each one whose bit is set.
 TextBlock FlowBlock(const CellText &text, const ChartFont &font, std::uint32_t breaks) {
     BlockBuilder builder(font);
@@ -180,15 +187,15 @@ TextBlock FlowBlock(const CellText &text, const ChartFont &font, std::uint32_t b
         if (!isEnd) {
             continue;
         }
-        double width = entryGap * static_cast<double>(last - first);
+        double width = 0;
         for (std::size_t index = first; index <= last; ++index) {
-            width += text.entries[index].width;
+            width += text.entries[index].width + (index < last ? GapBehind(index, text, font) : 0);
         }
         double x = -width / 2;
         for (std::size_t index = first; index <= last; ++index) {
             const CellEntry &entry = text.entries[index];
             builder.AddRun(entry.name, entry.tone, x);
-            x += entry.width + entryGap;
+            x += entry.width + GapBehind(index, text, font);
         }
         builder.EndLine(-width / 2, width / 2);
         first = last + 1;
@@ -278,12 +285,20 @@ double CellFitter::LargestSize(double margin) const {
     return largest;
 }
 
-PlacedText CellFitter::Place(double size) const {
+PlacedText CellFitter::Place(double size, double margin) const {
+    constexpr double tolerance = 1e-6;
     TextBlock best;
     Optimum place{{}, std::numeric_limits<double>::lowest()};
+    // What runs on is good enough where it fits, and the better the fewer lines it takes.
+    const auto linesThatFit = [&](const TextBlock &block, const Optimum &where) {
+        const bool fits = where.value >= margin - tolerance;
+        return text_.runsOn && fits ? block.LineCount() : std::numeric_limits<std::size_t>::max();
+    };
     ForEachBlock(text_, font_, [&](TextBlock block) {
         const Optimum candidate = RoomiestPlace(block, edges_, size);
-        if (candidate.value > place.value + 1e-6) {
+        const std::size_t lines = linesThatFit(block, candidate);
+        const std::size_t bestLines = linesThatFit(best, place);
+        if (lines < bestLines || (lines == bestLines && candidate.value > place.value + tolerance)) {
             place = candidate;
             best = std::move(block);
         }

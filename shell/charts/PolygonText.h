@@ -49,6 +49,7 @@ struct CellEntry {
 struct CellText {
     std::vector<CellEntry> entries;
     bool isListed = false; ///< each entry has a line of its own; otherwise entries flow, several to a line
+    bool runsOn = false; ///< entries that flow share a line as long as it has room, with blanks between them
 };
 
 /// A straight border of a convex cell. A point is inside where the product of its place with the outward unit
@@ -77,7 +78,8 @@ struct PlacedText {
 /// Fits the text of a cell into the polygon of the cell.
 ///
 /// Every way of breaking the entries into lines is tried. The lines of a block are centred on one axis,
-/// entries with figures stand in two columns.
+/// entries with figures stand in two columns. Entries that run on have four blanks behind the first of them
+/// and two behind each other one, as their label has.
 class CellFitter {
 public:
     CellFitter(CellText text, std::vector<CellEdge> edges, const ChartFont &font);
@@ -87,8 +89,9 @@ public:
     /// The largest font size at which the text keeps a margin to every border.
     double LargestSize(double margin) const;
 
-    /// The text at a size, broken and placed so that it has the most room around it.
-    PlacedText Place(double size) const;
+    /// The text at a size, broken and placed so that it has the most room around it; where entries run on,
+    /// broken no more often than the margin to the borders wants.
+    PlacedText Place(double size, double margin) const;
 
 private:
     CellText text_;

@@ -8,8 +8,14 @@
 
 namespace kelvaro {
 
+namespace {
+
+constexpr qsizetype longestPart = 60; // letters of a name or a place
+
+} // namespace
+
 ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
-    const auto text = [](const std::string &field) { return Breakable(OneLine(TextOf(field))); };
+    const auto text = [](const std::string &field) { return Breakable(OneLine(TextOf(field), longestPart)); };
     const auto twoDigits = [&](const std::string &field) { return text(field).rightJustified(2, u'0'); };
     QStringList place{text(state.birth.BirthCity), text(state.birth.BirthCountry)};
     place.removeAll(QString());

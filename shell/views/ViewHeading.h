@@ -7,7 +7,7 @@
 
 namespace kelvaro {
 
-/// The heading of a view: its title, and whose horoscope it is.
+/// The heading of a view: its title, and whose horoscope it is. Long names are shortened.
 ChartHeading HeadingOf(const HoroscopeState &state, const QString &title);
 
 /// The same as a line of text above a table.

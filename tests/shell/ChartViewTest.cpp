@@ -3,6 +3,7 @@
 #include "shell/charts/PolygonText.h"
 
 #include <QImage>
+#include <QPainter>
 #include <QTest>
 
 #include <algorithm>
@@ -77,6 +78,9 @@ private slots:
     void FlowKeepsEveryWordInOrder();
     void TextKeepsInsideItsCell();
     void OnlyAFullCellShrinksAlone();
+    void NamesAndFiguresStandApart();
+    void BodiesThatRunOnShareALineWhileItHasRoom();
+    void NoNameSpreadsOverTheCells();
 
 private:
     static void ExpectInkInside(const ChartFrame &frame, int firstIndex);
@@ -118,7 +122,7 @@ void ChartViewTest::TextIsCentredInASquare() {
     const ChartFont font{QFont()};
     const CellFitter fitter({{{QStringLiteral("Sun"), {}}}},
                             EdgesOf(QPolygonF(QRectF(2, 3, 10, 10)).mid(0, 4)), font);
-    const PlacedText text = fitter.Place(1);
+    const PlacedText text = fitter.Place(1, 0);
     QCOMPARE(text.runs.size(), std::size_t{1});
     const double middleX = text.runs[0].baseline.x() + font.Width(text.runs[0].text, Tone::Name) / 2;
     const double middleY = text.runs[0].baseline.y() + (font.Descent() - font.Ascent()) / 2;
@@ -138,7 +142,7 @@ void ChartViewTest::FlowKeepsEveryWordInOrder() {
         const CellFitter fitter(text, EdgesOf(outline), font);
         QStringList placed;
         QPointF last(0, -1);
-        for (const PlacedRun &run : fitter.Place(fitter.LargestSize(0)).runs) {
+        for (const PlacedRun &run : fitter.Place(fitter.LargestSize(0), 0).runs) {
             QVERIFY(run.baseline.y() > last.y() || run.baseline.x() > last.x());
             last = run.baseline;
             placed << run.text;
@@ -211,6 +215,80 @@ void ChartViewTest::OnlyAFullCellShrinksAlone() {
     const int usual = heightOfInk(1);
     QVERIFY(heightOfInk(8) < usual); // text of eight bodies is a little smaller in every cell
     QCOMPARE(heightOfInk(12), usual);
+}
+
+void ChartViewTest::NamesAndFiguresStandApart() {
+    const ChartFont font{QFont()};
+    for (const char *figure : {"29.60", ""}) {
+        CellText text;
+        text.isListed = true;
+        for (const char *body : bodies) {
+            text.entries.push_back({QString::fromLatin1(body), QString::fromLatin1(figure)});
+        }
+        const CellFitter fitter(text, EdgesOf(CellOutlines(ChartStyle::South).front()), font);
+        const PlacedText placed = fitter.Place(fitter.LargestSize(0), 0);
+        std::vector<QRectF> boxes;
+        for (const PlacedRun &run : placed.runs) {
+            const double width = font.Width(run.text, run.tone) * placed.size;
+            const double ascent = font.Ascent() * placed.size;
+            const QRectF box(run.baseline - QPointF(0, ascent),
+                             QSizeF(width, ascent + font.Descent() * placed.size));
+            QVERIFY(run.text.isEmpty() || std::ranges::none_of(boxes, [&box](const QRectF &other) {
+                        return other.intersects(box);
+                    }));
+            boxes.push_back(box);
+        }
+    }
+}
+
+void ChartViewTest::BodiesThatRunOnShareALineWhileItHasRoom() {
+    const ChartFont font{QFont()};
+    const double blank = font.Width(QStringLiteral(" "), Tone::Name);
+    const auto placed = [&](std::size_t count) {
+        CellText text;
+        text.runsOn = true;
+        for (std::size_t body = 0; body < count; ++body) {
+            text.entries.push_back({QString::fromLatin1(bodies.at(body)), {}});
+        }
+        return CellFitter(text, EdgesOf(QPolygonF(QRectF(0, 0, 10, 10)).mid(0, 4)), font).Place(1, 0.5).runs;
+    };
+    const auto blanksBetween = [&](const PlacedRun &left, const PlacedRun &right) {
+        return (right.baseline.x() - left.baseline.x() - font.Width(left.text, left.tone)) / blank;
+    };
+    const auto three = placed(3);
+    QCOMPARE(three.front().baseline.y(), three.back().baseline.y());
+    QVERIFY(std::abs(blanksBetween(three.at(0), three.at(1)) - 4) < 1e-6);
+    QVERIFY(std::abs(blanksBetween(three.at(1), three.at(2)) - 2) < 1e-6);
+    QVERIFY(placed(12).back().baseline.y() > placed(12).front().baseline.y());
+}
+
+void ChartViewTest::NoNameSpreadsOverTheCells() {
+    const auto picture = [](ChartStyle style, const QString &name) {
+        ChartForm form;
+        form.VisibleFrame = style;
+        ChartFrame frame(chartStyles.at(static_cast<std::size_t>(style)), QStringLiteral("Cell"), nullptr);
+        frame.SetCells(form, {});
+        frame.SetHeading({QStringLiteral("Rasi"), name, QStringLiteral("14/Jul/1965"), name});
+        frame.resize(420, 420);
+        const QImage image = frame.grab().toImage();
+        const QRect square = frame.Square().toAlignedRect().adjusted(2, 2, -2, -2);
+        if (style == ChartStyle::North) {
+            return image.copy(square); // the heading stands above it
+        }
+        QImage cells = image;
+        const QRectF centre = OpenCentre(style);
+        QPainter painter(&cells);
+        painter.fillRect(QRectF(frame.Square().topLeft() + centre.topLeft() * frame.Square().width(),
+                                centre.size() * frame.Square().width()),
+                         Qt::black);
+        return cells;
+    };
+    for (const ChartStyle style : {ChartStyle::South, ChartStyle::East, ChartStyle::North}) {
+        for (const QString &name :
+             {QString(60, u'W'), QStringLiteral("Wwwwwwwwwwwwww ").repeated(4), QString(60, u'\u0935')}) {
+            QVERIFY2(picture(style, name) == picture(style, {}), qPrintable(name));
+        }
+    }
 }
 
 QTEST_MAIN(ChartViewTest)
