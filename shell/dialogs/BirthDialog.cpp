@@ -10,6 +10,7 @@
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/SpokenNames.h"
 #include "shell/widgets/TextOf.h"
 #include "ui_BirthDialog.h"
 
@@ -33,6 +34,7 @@ BirthDialog::BirthDialog(Horoscope &horoscope, SettingsStore &settings, QWidget 
     BuildMenu();
     BuildToolbar();
     PrepareControls(*this, *controls_);
+    NameFields(*this);
     places_->ListAnew();
     ConnectFields();
     ShowFields(fields_, *controls_);

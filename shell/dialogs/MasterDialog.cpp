@@ -6,6 +6,7 @@
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/ListedChoice.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/SpokenNames.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -33,6 +34,7 @@ void MasterDialog::showEvent(QShowEvent *event) {
             line->setMaxLength(static_cast<int>(longestName));
         }
     }
+    NameFields(*this);
     QDialog::showEvent(event);
 }
 

@@ -4,6 +4,7 @@
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/SpokenNames.h"
 #include "shell/widgets/TextOf.h"
 #include "shell/widgets/TypeAhead.h"
 #include "ui_PreferencesDialog.h"
@@ -39,6 +40,7 @@ PreferencesDialog::PreferencesDialog(Horoscope &horoscope, QWidget *parent)
     Show(stored_);
     DressButtons(*this);
     controls_->Command1->setIcon(HouseIcon("accept"));
+    NameFields(*this);
     connect(controls_->cmdSave, &QPushButton::clicked, this, [this] { Accept(SavePreferences); });
     connect(controls_->Command1, &QPushButton::clicked, this, [this] { Accept(ApplyPreferences); });
     connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &QDialog::reject);

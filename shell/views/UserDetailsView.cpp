@@ -118,7 +118,6 @@ public:
 
     QLabel *AddField(const char *title, const char *name) {
         QLabel *text = TextLabel(name);
-        text->setAccessibleName(QString::fromLatin1(title));
         const int row = rows_->rowCount();
         rows_->addWidget(NewLabel(QString::fromLatin1(title), figureColour), row, 0, Qt::AlignTop);
         rows_->addWidget(text, row, 1, Qt::AlignTop);
@@ -202,7 +201,11 @@ void UserDetailsView::Refresh(const Horoscope &horoscope) {
     heading_->Show(horoscope.state);
     const UserDetailsForm &form = horoscope.forms.frm_UserDetails;
     for (std::size_t i = 0; i < fields.size(); ++i) {
-        texts_.at(i)->setText(Breakable(OneLine(TextOf(form.*fields.at(i).text))));
+        const QString text = OneLine(TextOf(form.*fields.at(i).text));
+        texts_.at(i)->setText(Breakable(text));
+        // The name of a label is all that is read aloud of it.
+        texts_.at(i)->setAccessibleName(
+            QStringLiteral("%1: %2").arg(QString::fromLatin1(fields.at(i).label), text));
     }
 }
 
