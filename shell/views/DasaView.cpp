@@ -118,7 +118,7 @@ DasaView::DasaView(QWidget *parent)
            "days of the chosen year, bhuktis calendar years, months and days, and antras the days "
            "of that year from birth on, at their full length."));
 
-    QPalette quiet = note_->palette();
+    QPalette quiet = ParchmentPalette();
     quiet.setColor(QPalette::WindowText, figureColour);
     note_->setPalette(quiet);
 
