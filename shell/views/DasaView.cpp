@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 
@@ -27,7 +28,6 @@ constexpr double linesOfContent = 45; // of the window that leave all but the li
 constexpr double lettersOfContent = 140;
 constexpr double buttonWidth = 1.7; // times that of its word
 constexpr int rowsOfList = 10;      // nine periods and the titles
-constexpr int firstRowOfLists = 3;  // of the layout
 
 using Periods = std::span<const DasaPeriod>;
 
@@ -148,27 +148,29 @@ DasaView::DasaView(QWidget *parent)
     connect(todayButton_, &QPushButton::clicked, this, &DasaView::ChooseToday);
 }
 
-/// The antras stand beside the two other lists, or below them.
+/// The lists stand beside one another, each below its choice, as many of them as there is room for.
 void DasaView::PlaceLists() {
-    const int columns = isAntraBelow_ ? 2 : 3;
-    const int antraRow = firstRowOfLists + (isAntraBelow_ ? 2 : 0);
-    const int antraColumn = isAntraBelow_ ? 0 : 2;
-    const int antraColumns = isAntraBelow_ ? columns : 1;
     const auto place = [this](QWidget *widget, int row, int column, int width, Qt::Alignment where) {
         rows_->removeWidget(widget);
         rows_->addWidget(widget, row, column, 1, width, where);
     };
-    place(heading_, 0, 0, columns, {});
-    place(balance_, 1, 0, columns, {});
-    place(todayLine_, 2, 0, columns, {});
-    place(todayButton_, firstRowOfLists, 0, 1, Qt::AlignHCenter);
-    place(bhuktiSections_, firstRowOfLists, 1, 1, Qt::AlignHCenter);
-    place(mshDasa_, firstRowOfLists + 1, 0, 1, Qt::AlignHCenter | Qt::AlignTop);
-    place(mshBukti_, firstRowOfLists + 1, 1, 1, Qt::AlignHCenter | Qt::AlignTop);
-    place(antraSections_, antraRow, antraColumn, antraColumns, Qt::AlignHCenter);
-    place(mshAntra_, antraRow + 1, antraColumn, antraColumns, Qt::AlignHCenter | Qt::AlignTop);
-    place(note_, antraRow + 2, 0, columns, {});
-    rows_->setRowStretch(firstRowOfLists + 5, 1); // below all of them
+    int row = 0;
+    for (QWidget *line : std::initializer_list<QWidget *>{heading_, balance_, todayLine_}) {
+        place(line, row++, 0, listsBeside_, {});
+    }
+    const std::array<std::pair<QWidget *, QWidget *>, listCount> lists{
+        {{todayButton_, mshDasa_}, {bhuktiSections_, mshBukti_}, {antraSections_, mshAntra_}}};
+    for (int i = 0; i < listCount; ++i) {
+        const auto &[choice, list] = lists.at(static_cast<std::size_t>(i));
+        const int column = i % listsBeside_;
+        const bool isAlone = column == 0 && i + 1 == listCount;
+        const int width = isAlone ? listsBeside_ : 1;
+        const int listRow = row + 2 * (i / listsBeside_);
+        place(choice, listRow, column, width, Qt::AlignHCenter);
+        place(list, listRow + 1, column, width, Qt::AlignHCenter | Qt::AlignTop);
+    }
+    place(note_, row + 2 * LinesOfLists(), 0, listsBeside_, {});
+    rows_->setRowStretch(row + 2 * listCount + 1, 1); // below all of them
 }
 
 void DasaView::Refresh(const Horoscope &horoscope) {
@@ -321,23 +323,17 @@ void DasaView::resizeEvent(QResizeEvent *event) {
 /// Too low a window is scrolled, and the scroll bar takes some of the width.
 QSize DasaView::RoomForLists() const {
     const QSize window = scroll_->maximumViewportSize() - QSize(2 * margin, 2 * margin);
-    const int listsBeside = isAntraBelow_ ? 2 : 3;
     int others = 0;
-    int lines = 2; // of lists and of their sections
+    int lines = 2 * LinesOfLists();
     for (const QLabel *label : std::initializer_list<const QLabel *>{heading_, balance_, todayLine_, note_}) {
         others += label->heightForWidth(window.width());
         ++lines;
     }
-    const int sections = std::max(todayButton_->sizeHint().height(), antraSections_->sizeHint().height());
-    others += sections;
-    if (isAntraBelow_) {
-        others += sections;
-        lines += 2;
-    }
-    const int height = window.height() - others - lines * lineDistance;
+    const int choice = std::max(todayButton_->sizeHint().height(), antraSections_->sizeHint().height());
+    const int height = window.height() - others - LinesOfLists() * choice - lines * lineDistance;
     const bool isLow = lists_.LeastSize(font().pointSizeF()).height() > height;
     const int bar = isLow ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
-    return {window.width() - bar - (listsBeside - 1) * listDistance, height};
+    return {window.width() - bar - (listsBeside_ - 1) * listDistance, height};
 }
 
 void DasaView::LayOut() {
@@ -354,12 +350,14 @@ void DasaView::LayOut() {
     todayLine_->setText(TodayText(width() - 2 * margin));
 
     const double points = font().pointSizeF();
-    const bool wasAntraBelow = isAntraBelow_;
-    isAntraBelow_ = false;
-    lists_.SetGridsPerLine(3);
-    isAntraBelow_ = lists_.LeastSize(points).width() > RoomForLists().width();
-    lists_.SetGridsPerLine(isAntraBelow_ ? 2 : 3);
-    if (isAntraBelow_ != wasAntraBelow) {
+    const int before = listsBeside_;
+    for (listsBeside_ = listCount;; --listsBeside_) {
+        lists_.SetGridsPerLine(static_cast<std::size_t>(listsBeside_));
+        if (listsBeside_ == 1 || lists_.LeastSize(points).width() <= RoomForLists().width()) {
+            break;
+        }
+    }
+    if (listsBeside_ != before) {
         PlaceLists();
     }
     lists_.LayOut(points, RoomForLists());

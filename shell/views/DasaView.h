@@ -35,6 +35,8 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    static constexpr int listCount = 3;
+
     void PlaceLists();
     void FillSections();
     void ChoosePeriodsOfToday();
@@ -43,6 +45,7 @@ private:
     void ShowBhuktiSection(int section);
     void ShowAntraSection(int section);
     void LayOut();
+    int LinesOfLists() const { return (listCount + listsBeside_ - 1) / listsBeside_; }
     QSize RoomForLists() const;
     QStringList TodaysPeriods() const;
     QString TodayText(int width) const;
@@ -62,7 +65,7 @@ private:
     GridGroup lists_;
     QScrollArea *scroll_;
     QGridLayout *rows_;
-    bool isAntraBelow_ = false;           ///< there is no room for three lists beside one another
+    int listsBeside_ = listCount;         ///< how many lists there is room for beside one another
     bool isChoosing_ = false;             ///< lists are laid out when all of them are chosen
     std::span<const DasaPeriod> bhuktis_; ///< those in the list
 };

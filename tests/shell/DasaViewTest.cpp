@@ -170,9 +170,10 @@ void DasaViewTest::NothingIsCutAndTheThirdListGoesBelow() {
     const struct {
         QSize size;
         double points;
-        bool isBelow, fits;
-    } cases[] = {{{834, 660}, 9, true, true},   {{1090, 760}, 9, false, true}, {{1730, 1040}, 9, false, true},
-                 {{834, 660}, 14, true, false}, {{1400, 900}, 14, true, true}, {{450, 350}, 9, true, false}};
+        int beside; ///< lists that stand beside one another
+        bool fits;  ///< no need to scroll
+    } cases[] = {{{834, 660}, 9, 2, true},   {{1090, 760}, 9, 3, true},  {{1730, 1040}, 9, 3, true},
+                 {{834, 660}, 14, 1, false}, {{1400, 900}, 14, 2, true}, {{431, 350}, 9, 1, false}};
     view_.show();
     for (const auto &each : cases) {
         QFont font = view_.font();
@@ -184,9 +185,12 @@ void DasaViewTest::NothingIsCutAndTheThirdListGoesBelow() {
         ExpectNothingCut();
         const QRect antras(Find("mshAntra")->mapTo(&view_, QPoint()), Find("mshAntra")->size());
         const QRect dasas(Find("mshDasa")->mapTo(&view_, QPoint()), Find("mshDasa")->size());
-        QVERIFY2((antras.top() > dasas.bottom()) == each.isBelow,
-                 qPrintable(QString::number(each.size.width())));
-        QVERIFY(!each.fits || (view_.rect().contains(antras) && view_.rect().contains(dasas)));
+        const QRect bhuktis(Find("mshBukti")->mapTo(&view_, QPoint()), Find("mshBukti")->size());
+        const int beside =
+            1 + (bhuktis.top() < dasas.bottom() ? 1 : 0) + (antras.top() < dasas.bottom() ? 1 : 0);
+        QVERIFY2(beside == each.beside, qPrintable(QString::number(each.size.width())));
+        QVERIFY(antras.right() <= view_.width() && bhuktis.right() <= view_.width());
+        QVERIFY(!each.fits || view_.rect().contains(antras));
     }
 }
 
