@@ -75,6 +75,13 @@ void FillDay(Horoscope &horoscope, UserDetailsForm &form) {
     form.txtVedic = WeekdayName(WeekdayOf(vedic));
 }
 
+/// Empty for a birth that no solar year holds: the date that the calendar keeps is then another birth's.
+std::string SolarDateText(bool isFound, const SolarDate &date) {
+    return isFound ? std::to_string(date.day) + std::string(betweenParts) + date.month +
+                         std::string(betweenParts) + date.yearName
+                   : std::string();
+}
+
 std::string LunarDateText(const LunarDate &date) {
     return date.flag + std::string(betweenParts) + date.month + std::string(betweenParts) + date.yearName;
 }
@@ -89,11 +96,11 @@ void FillCalendars(Horoscope &horoscope, UserDetailsForm &form) {
     const LunarDate &krishnadi = calculators.lunarCalendar.Krishnadi();
     form.txtKLunarDate = LunarDateText(krishnadi);
     form.txtSLunarDate = LunarDateText(calculators.lunarCalendar.Sukladi());
-    calculators.solarCalendar.SolarDateOf(state.ghati.SummaryMoment, state.site, Now());
+    const bool hasSolarDate =
+        calculators.solarCalendar.SolarDateOf(state.ghati.SummaryMoment, state.site, Now());
     const SolarDate &solar = calculators.solarCalendar.Date();
     form.txtKaliyugaYear = std::to_string(solar.kaliyugaYear);
-    form.txtSolarDate = std::to_string(solar.day) + std::string(betweenParts) + std::string(solar.month) +
-                        std::string(betweenParts) + solar.yearName;
+    form.txtSolarDate = SolarDateText(hasSolarDate, solar);
     form.txtAyana = AyanaOf(krishnadi.month);
 }
 

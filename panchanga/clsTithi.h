@@ -9,7 +9,8 @@ namespace kelvaro {
 /// Classifies the Moon's distance from the Sun into the lunar day (tithi), its fortnight and the karana.
 ///
 /// Set the inputs, call `FindTithi`, read the results. What a call does not assign keeps its earlier value: a
-/// distance outside 0 to 360 assigns nothing. Fifteen of the names stand in both fortnights.
+/// distance outside 0 to 360 assigns nothing. Fourteen of the names stand in both
+/// fortnights.
 class clsTithi {
 public:
     double sunC = 0;  ///< degrees, 0 to 360
@@ -25,7 +26,7 @@ public:
 /// A lunar day, with the karanas of its two halves.
 struct LunarDay {
     std::int16_t number;   ///< 1 to 30
-    std::string_view name; ///< fifteen of them stand in both fortnights
+    std::string_view name; ///< fourteen of them stand in both fortnights
     std::string_view side; ///< "Bright" or "Dark"
     std::string_view firstKarana, secondKarana;
 };

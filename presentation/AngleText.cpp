@@ -15,8 +15,9 @@ struct AngleParts {
 };
 
 AngleParts Divide(double value) {
-    const double whole = std::trunc(value);
-    const double fraction = std::abs(value) - std::abs(whole);
+    const double size = std::abs(value);
+    const double whole = std::trunc(size);
+    const double fraction = size - whole;
     std::int32_t minutes = ToInt32(std::floor(fraction * 60));
     std::int32_t seconds = ToInt32(std::round(fraction * 3600 - minutes * 60));
     if (seconds >= 60) {
@@ -24,8 +25,9 @@ AngleParts Divide(double value) {
         minutes += 1;
         seconds -= 60;
     }
-    // Adding zero rids a small negative value of the sign before its zero degrees.
-    return {NumberText(whole + 0.0), minutes, seconds};
+    // The sign is that of the angle, so that it also stands before zero degrees.
+    std::string degrees(value < 0 ? "-" : "");
+    return {degrees.append(NumberText(whole)), minutes, seconds};
 }
 
 } // namespace

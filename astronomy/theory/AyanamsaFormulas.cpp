@@ -16,7 +16,7 @@ double FnFindLahiri(double clockCenturies) {
 }
 
 double FnFindKP(std::int32_t days) {
-    return ((3014.33085 / 365.25) * days / 60) / 3600 + 22.3602777777778 + 0.000833333333333333333;
+    return ((3014.33085 / 365.25) * days / 60) / 3600 + 22.3602777777778 + 0.000833333333333333;
 }
 
 double FnFindRaman(int year, std::int32_t days) {

@@ -70,6 +70,24 @@ TEST_F(BirthSummaryTest, BirthAroundSunriseBelongsToTheDayThatItsClockSays) {
     EXPECT_EQ(horoscope.state.ghati.IshtaGhatiMinutes, -15);
 }
 
+TEST_F(BirthSummaryTest, ABirthWithoutASolarYearShowsNoSolarDate) {
+    SetBirth(MomentOf({1850, 6, 1}, {12, 0, 0}));
+    EXPECT_EQ(Summary().txtSolarDate, "");
+    SetBirth(MomentOf({1965, 7, 14}, {14, 15, 0}));
+    EXPECT_EQ(Summary().txtSolarDate, "30  /  Jyeshtha  /  Visvavasu");
+    SetBirth(MomentOf({1850, 6, 1}, {12, 0, 0}));
+    EXPECT_EQ(Summary().txtSolarDate, "") << "not that of the birth before";
+    EXPECT_EQ(horoscope.forms.frm_UserDetails.txtKaliyugaYear, "0");
+}
+
+TEST_F(BirthSummaryTest, AnAyanamsaBelowOneDegreeKeepsItsSign) {
+    horoscope.state.preferences.AyanamsaName = horoscope.state.preferences.AyanamsaInForce = "Custom";
+    horoscope.state.preferences.PrefYear = horoscope.state.preferences.YearInForce = 1950;
+    horoscope.state.preferences.PrefProgress = horoscope.state.preferences.ProgressInForce = 50;
+    // 15 x 50 seconds and, for 194 days of 365.25, 26.6 of another 50.
+    EXPECT_EQ(Summary().txtAyanamsa, "-0.12.57  (Custom)");
+}
+
 TEST_F(BirthSummaryTest, LunarDatesOfOneHoroscopeReachIntoTheNext) {
     // Bright Pratipada stood at sunrise of 6 April 2019, the new year of the Sukladi reckoning. The Krishnadi
     // date then reads the Sun that the Sukladi search kept: that of the birth before.

@@ -16,7 +16,7 @@ TEST(AngleText, WritesDegreesMinutesAndSeconds) {
         const char *minutes;
         const char *seconds;
     };
-    constexpr std::array<Case, 9> cases{{
+    constexpr std::array<Case, 10> cases{{
         {0, "0.0", "0.0.0"},
         {12.0833333, "12.5", "12.5.0"}, // 4 minutes 60 seconds before the carry
         {12 + 5 / 60.0 + 9 / 3600.0, "12.5", "12.5.9"},
@@ -25,7 +25,8 @@ TEST(AngleText, WritesDegreesMinutesAndSeconds) {
         {29.5 + 29.6 / 3600, "29.30", "29.30.30"},
         {17 + 59.6 / 3600, "17.1", "17.1.0"},
         {-12.5, "-12.30", "-12.30.0"},
-        {-0.25, "0.15", "0.15.0"},
+        {-(13 / 60.0 + 2 / 3600.0), "-0.13", "-0.13.2"},
+        {-0.0, "0.0", "0.0.0"},
     }};
     for (const Case &expected : cases) {
         EXPECT_EQ(DegreeMinuteText(expected.value), expected.minutes);

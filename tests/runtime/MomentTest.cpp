@@ -198,6 +198,8 @@ TEST(Moment, EndsWithTheYears100And9999) {
     EXPECT_THROW(DateAdd(Interval::Day, 1, last), OverflowError);
     EXPECT_THROW(DateAdd(Interval::Year, 1, last), OverflowError);
     EXPECT_THROW(PlusDays(first, -0.25), OverflowError);
+    EXPECT_THROW(PlusDays(MomentOf({9999, 12, 31}, {18, 0, 0}), 0.25), OverflowError)
+        << "a whole day's carry";
     EXPECT_THROW(PlusDays(first, std::numeric_limits<double>::quiet_NaN()), OverflowError);
     for (const double serial :
          {-657435.0, 2958466.0, 2958465.9999999, 1e300, -1e300, std::numeric_limits<double>::infinity(),
