@@ -1,5 +1,6 @@
 #include "report/ChartPages.h"
 
+#include "panchanga/Sign.h"
 #include "presentation/ChartStyles.h"
 #include "report/TextCharts.h"
 #include "report/TextLayout.h"
@@ -16,6 +17,8 @@
 namespace kelvaro {
 
 namespace {
+
+constexpr std::size_t noteWidth = 66;
 
 using CellReducer = std::string (*)(std::string_view label);
 
@@ -61,6 +64,54 @@ std::vector<std::string> DrawCells(const store::Recordset &cells, std::string_vi
     return {};
 }
 
+/// "Moo Mar in Aries": the bodies of a cell that the drawing does not show, and their sign; empty where it
+/// shows them all.
+std::string LeftOutOf(const std::vector<CellBody> &bodies, std::string_view shown, const std::string &sign) {
+    std::string leftOut;
+    for (const CellBody &body : bodies) {
+        const std::string_view name = ReducedName(body.name);
+        if (shown.find(name) == std::string_view::npos) {
+            leftOut.append(name).append(" ");
+        }
+    }
+    return leftOut.empty() ? leftOut : leftOut.append("in ").append(sign);
+}
+
+/// In lines that break between the signs.
+void AddNote(const std::vector<std::string> &leftOut, ReportPages &pages) {
+    std::string line("No room for: ");
+    for (std::size_t i = 0; i < leftOut.size(); ++i) {
+        const std::string entry = leftOut.at(i) + (i + 1 < leftOut.size() ? "; " : "");
+        if (i > 0 && line.size() + entry.size() > noteWidth) {
+            pages.AddLine(Centred(line, pageWidth));
+            line.clear();
+        }
+        line += entry;
+    }
+    pages.AddLine(Centred(line, pageWidth));
+}
+
+/// The cells of a drawing are too small for many bodies, and the label of the Rasi chart in the East style
+/// comes down to its first.
+void AddLeftOut(const store::Recordset &cells, const HoroscopeState &state, const ChartForm &form,
+                ReportPages &pages) {
+    const bool isByHouse = form.VisibleFrame == ChartStyle::North;
+    const auto shown = CellsShown(cells, form.VisibleFrame);
+    std::vector<std::string> notes;
+    for (std::size_t cell = 0; cell < shown.size(); ++cell) {
+        const Sign sign(isByHouse ? form.NorthRasiOfHouse.at(cell) : static_cast<int>(cell) + 1);
+        const std::string number = isByHouse ? " (" + std::to_string(sign.Number()) + ")" : "";
+        const std::string leftOut =
+            LeftOutOf(form.bodies.at(cell), shown.at(cell), state.names.RasiNames.at(sign.Index()) + number);
+        if (!leftOut.empty()) {
+            notes.push_back(leftOut);
+        }
+    }
+    if (!notes.empty()) {
+        AddNote(notes, pages);
+    }
+}
+
 void AddChart(std::string_view title, const HoroscopeState &state, const ChartForm &form, bool isBhava,
               store::Connection &connection, ReportPages &pages) {
     const StyleOfChart *style = StyleFor(state, form);
@@ -73,6 +124,7 @@ void AddChart(std::string_view title, const HoroscopeState &state, const ChartFo
     store::Recordset cells;
     OpenCells(form.*style->cells, reduce, connection, cells);
     pages.AddDrawing(DrawCells(cells, title, state, form));
+    AddLeftOut(cells, state, form, pages);
 }
 
 void AddBhavaTable(const HoroscopeState &state, const TextGrid &grid, ReportPages &pages) {

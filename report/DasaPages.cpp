@@ -80,13 +80,17 @@ void AddPeriodPages(const PeriodSection &section, std::span<const Block> blocks,
     pages.AddLine(section.underline);
     pages.AddBlankLines(1);
     AddHeadings(section, pages);
+    bool isFirstOfPage = true;
     for (const Block &block : blocks) {
         const std::size_t lines = 1 + (block.periods.size() + columns - 1) / columns;
-        if (lines > pages.LinesLeft()) {
+        if (!isFirstOfPage && 1 + lines > pages.LinesLeft()) {
             pages.OpenPage();
             AddHeadings(section, pages);
+            isFirstOfPage = true;
         }
+        pages.AddBlankLines(isFirstOfPage ? 0 : 1);
         AddBlock(block, pages);
+        isFirstOfPage = false;
     }
 }
 

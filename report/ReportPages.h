@@ -8,8 +8,9 @@
 
 namespace kelvaro {
 
-/// Lines of a page that fits a sheet of A4 in ten point type.
-inline constexpr std::size_t linesOfPage = 62;
+/// Lines of a page that fits a sheet of A4 in nine point type. The bhuktis of nine dasas fill one, with a
+/// blank line between the dasas: those of a whole life must stand on one page.
+inline constexpr std::size_t linesOfPage = 70;
 
 /// The text of a report as it grows, page by page and line by line.
 class ReportPages {

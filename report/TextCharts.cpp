@@ -131,6 +131,20 @@ constexpr Drawing southDrawing{49, southLines};
 constexpr Drawing northDrawing{41, northLines};
 constexpr Drawing eastDrawing{43, eastLines};
 
+std::span<const Line> LinesOf(ChartStyle style) {
+    switch (style) {
+    case ChartStyle::South:
+        return southLines;
+    case ChartStyle::North:
+        return northLines;
+    case ChartStyle::East:
+        return eastLines;
+    case ChartStyle::Unknown:
+        break;
+    }
+    return {};
+}
+
 /// What a drawing shows.
 struct ChartTexts {
     std::array<std::string, 12> cells;
@@ -230,7 +244,7 @@ std::string Reduced(std::string_view label, std::string_view separator) {
     std::string reduced;
     for (std::size_t end = 0; end != std::string_view::npos;) {
         end = label.find(separator);
-        reduced.append(FirstCharacters(Trimmed(label.substr(0, end)), nameLength)).append(" ");
+        reduced.append(ReducedName(Trimmed(label.substr(0, end)))).append(" ");
         label.remove_prefix(end == std::string_view::npos ? label.size() : end + separator.size());
     }
     return std::string(Trimmed(reduced));
@@ -248,6 +262,10 @@ std::string ReduceCellPairs(std::string_view label) {
 
 std::string ReduceCellBlanks(std::string_view label) {
     return Reduced(label, " ");
+}
+
+std::string_view ReducedName(std::string_view name) {
+    return FirstCharacters(name, nameLength);
 }
 
 std::string TightenBlanks(std::string_view text) {
@@ -283,6 +301,22 @@ std::vector<std::string> EastTextChart(const store::Recordset &cells, std::strin
     lines.insert(lines.begin(), TitleLine(eastDrawing, title));
     lines.push_back(SignOrderLine(cellsOfRows, signNames));
     return lines;
+}
+
+std::array<std::string, 12> CellsShown(const store::Recordset &cells, ChartStyle style) {
+    const std::array<std::string, 12> texts = CellsOf(cells);
+    std::array<std::string, 12> shown;
+    for (const Line &line : LinesOf(style)) {
+        for (const Piece &piece : line) {
+            if (const Cut *cut = std::get_if<Cut>(&piece)) {
+                // The cuts of a cell follow one another in its text.
+                std::string &text = shown.at(cut->cell - 1);
+                text =
+                    Field(text, cut->start - 1) + FieldFrom(texts.at(cut->cell - 1), cut->start, cut->width);
+            }
+        }
+    }
+    return shown;
 }
 
 } // namespace kelvaro

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "horoscope/record/ChartForm.h"
 #include "store/database/Recordset.h"
 
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,6 +17,9 @@ namespace kelvaro {
 std::string ReduceCellLines(std::string_view label);
 std::string ReduceCellPairs(std::string_view label);
 std::string ReduceCellBlanks(std::string_view label);
+
+/// The characters of a body's name that they keep.
+std::string_view ReducedName(std::string_view name);
 
 /// The text with one blank for every three that stand together; what is left over of a run stays.
 std::string TightenBlanks(std::string_view text);
@@ -32,6 +37,10 @@ std::vector<std::string> SouthTextChart(const store::Recordset &cells, std::stri
 /// of house 1; each house has its sign number in the corner of its cell. Raises OverflowError for any other
 /// sign.
 std::vector<std::string> NorthTextChart(const store::Recordset &cells, std::string_view title, int firstSign);
+
+/// What the drawing of a style shows of the cells of the present row: blanks stand for the characters that it
+/// has no room for. Empty texts for an unknown style. Raises as the drawings do.
+std::array<std::string, 12> CellsShown(const store::Recordset &cells, ChartStyle style);
 
 /// A drawing by signs as in `SouthTextChart`, with the title on a line above.
 std::vector<std::string> EastTextChart(const store::Recordset &cells, std::string_view title,

@@ -89,6 +89,27 @@ std::string Centred(std::string_view text, std::size_t width) {
     return Padded(room / 2, shown, room - room / 2);
 }
 
+std::vector<std::string> Wrapped(std::string_view text, std::size_t width, std::size_t mostLines) {
+    constexpr std::string_view leftOut = "...";
+    std::vector<std::string> lines;
+    do {
+        std::string_view line = FirstCharacters(text, width);
+        std::string_view rest = text.substr(line.size());
+        if (!rest.empty() && lines.size() + 1 == mostLines) {
+            lines.push_back(std::string(FirstCharacters(line, width - leftOut.size())).append(leftOut));
+            return lines;
+        }
+        const auto blank = text.substr(0, line.size() + 1).rfind(' ');
+        if (!rest.empty() && blank != std::string_view::npos && blank > 0) {
+            line = text.substr(0, blank);
+            rest = text.substr(blank + 1);
+        }
+        lines.emplace_back(line);
+        text = rest;
+    } while (!text.empty());
+    return lines;
+}
+
 std::string TableLine(std::span<const TableColumn> columns, std::span<const std::string> texts) {
     std::string line;
     std::size_t end = 0; // in characters; a text may have more bytes

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kelvaro {
 
@@ -30,6 +31,11 @@ std::string RightField(std::string_view text, std::size_t width);
 
 /// The text cut to `width` characters, or padded to them on both sides; the odd blank goes to the right.
 std::string Centred(std::string_view text, std::size_t width);
+
+/// The text in lines of up to `width` characters, broken between words, and inside a word that is longer than
+/// a line; an empty text has one empty line. What `mostLines`, 1 or more, have no room for is left out, and
+/// the last line then ends with "...". Takes no more time than those lines need.
+std::vector<std::string> Wrapped(std::string_view text, std::size_t width, std::size_t mostLines);
 
 enum class Align { Left, Right };
 

@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kelvaro {
 
@@ -80,15 +81,66 @@ constexpr std::array<OwnerField, 8> ownerFields{{
     {"EMail", true, "", "E-Mail : "},
 }};
 
-/// A text that is too long for its line goes on under its own beginning.
-void AddContinued(std::string_view head, std::string_view text, ReportPages &pages) {
-    const std::size_t start = CharacterCount(head);
-    const std::size_t width = pageWidth - start;
-    const std::size_t characters = CharacterCount(text);
-    std::string line(head);
-    for (std::size_t shown = 0; shown == 0 || shown < characters; shown += width) {
-        pages.AddLine(line + FieldFrom(text, shown + 1, width));
-        line.assign(start, ' ');
+/// A line of the page: a text behind what stands before it. A text that is too long goes on under its own
+/// beginning.
+struct TitleLine {
+    std::string head;
+    std::string text;
+};
+
+using TitleLines = std::vector<TitleLine>;
+
+void AddBlankLines(std::size_t count, TitleLines &lines) {
+    lines.insert(lines.end(), count, {});
+}
+
+void AddGroup(std::span<const LabelledField> group, const UserDetailsForm &form, TitleLines &lines) {
+    AddBlankLines(betweenGroups, lines);
+    for (const auto &[label, text] : group) {
+        std::string head(indent, ' ');
+        lines.push_back({head.append(Field(label, labelWidth)).append(": "), form.*text});
+    }
+}
+
+/// Fields that are empty are left out, with their labels and separators.
+void AddOwner(store::Connection &connection, TitleLines &lines) {
+    store::Recordset owner;
+    owner.Open("select * From personalDetails", connection);
+    if (owner.IsEndOfFile()) {
+        return;
+    }
+    bool startsLine = true;
+    for (const OwnerField &field : ownerFields) {
+        startsLine = startsLine || field.startsLine;
+        const std::string stored = owner.Text(field.field);
+        const std::string_view text = Trimmed(stored);
+        if (text.empty()) {
+            continue;
+        }
+        if (startsLine) {
+            lines.push_back({std::string(indent, ' '), {}});
+        }
+        lines.back()
+            .text.append(startsLine ? std::string_view() : field.separator)
+            .append(field.label)
+            .append(text);
+        startsLine = false;
+    }
+}
+
+/// Each line in its turn, with the lines that its text goes on in as long as the page has room for them: no
+/// name, however long, drives what stands below it off the page.
+void LayOut(const TitleLines &lines, ReportPages &pages) {
+    std::size_t spare = pages.LinesLeft() - lines.size();
+    for (const TitleLine &line : lines) {
+        const std::size_t start = CharacterCount(line.head);
+        const auto texts = Wrapped(line.text, pageWidth - start, 1 + spare);
+        spare -= texts.size() - 1;
+        std::string head = line.head;
+        for (const std::string &text : texts) {
+            pages.AddLine(head + text);
+            head.assign(start, ' ');
+        }
     }
 }
 
@@ -99,42 +151,6 @@ void AddInvocation(ReportPages &pages) {
     pages.AddLine("           PADAVI POORVA PUNYANAM  LIKHYATE  JANMA PATRIKA");
 }
 
-void AddGroup(std::span<const LabelledField> group, const UserDetailsForm &form, ReportPages &pages) {
-    for (const auto &[label, text] : group) {
-        std::string head(indent, ' ');
-        head.append(Field(label, labelWidth)).append(": ");
-        AddContinued(head, form.*text, pages);
-    }
-}
-
-/// Fields that are empty are left out, with their labels and separators.
-void AddOwner(store::Connection &connection, ReportPages &pages) {
-    store::Recordset owner;
-    owner.Open("select * From personalDetails", connection);
-    if (owner.IsEndOfFile()) {
-        return;
-    }
-    const std::string margin(indent, ' ');
-    std::string line;
-    const auto endLine = [&] {
-        if (!line.empty()) {
-            AddContinued(margin, line, pages);
-            line.clear();
-        }
-    };
-    for (const OwnerField &field : ownerFields) {
-        if (field.startsLine) {
-            endLine();
-        }
-        const std::string stored = owner.Text(field.field);
-        const std::string_view text = Trimmed(stored);
-        if (!text.empty()) {
-            line.append(line.empty() ? std::string_view() : field.separator).append(field.label).append(text);
-        }
-    }
-    endLine();
-}
-
 } // namespace
 
 void AddTitlePage(const UserDetailsForm &form, store::Connection &connection, ReportPages &pages) {
@@ -142,13 +158,14 @@ void AddTitlePage(const UserDetailsForm &form, store::Connection &connection, Re
     pages.AddBlankLines(betweenGroups);
     pages.AddHeader();
     pages.AddRule('_', ruleWidth);
+    TitleLines lines;
     for (const auto &group : groups) {
-        pages.AddBlankLines(betweenGroups);
-        AddGroup(group, form, pages);
+        AddGroup(group, form, lines);
     }
-    pages.AddBlankLines(2);
-    pages.AddRule('_', ruleWidth);
-    AddOwner(connection, pages);
+    AddBlankLines(2, lines);
+    lines.push_back({std::string(ruleWidth, '_'), {}});
+    AddOwner(connection, lines);
+    LayOut(lines, pages);
 }
 
 } // namespace kelvaro
