@@ -104,12 +104,17 @@ TEST(HoroscopeJson, RefusesBadLinesAndGoesOn) {
         {Sample().dump() + "}", "no JSON"},
         {"{\"ChartName\": \"\xff\xfe\"}", "no JSON"},
         {std::string(100000, '['), "no JSON"},
+        {std::string(3000000, 'x'), "The line is longer than 1 MB"},
+        {"{\"ChartName\": \"" + std::string(1 << 20, 'x') + "\"}", "The line is longer than 1 MB"},
         {R"({"LatDeg": 1e999})", "no JSON"},
         {R"(["BirthDay", 14])", "no JSON object"},
         {without("BirthDay"), "BirthDay is missing"},
         {without("TimeDiff"), "TimeDiff is missing"},
         {with("ChartName", 5), "ChartName must be a text"},
         {with("Ayanamsa", nullptr), "Ayanamsa must be a text"},
+        {SampleWith({{"Ayanamsa", "Custom"}, {"CustomYear", 2004}}).dump(), "a zero year from 0 to 2003"},
+        {SampleWith({{"Ayanamsa", "Custom"}, {"CustomProgress", 1e10}}).dump(),
+         "a progression from 0 to 1000"},
         {with("BirthDay", 0), "BirthDay must be a whole number from 1 to 31"},
         {with("BirthDay", 14.5), "BirthDay must be"},
         {with("BirthDay", "99999999999"), "BirthDay must be"},
@@ -198,6 +203,16 @@ TEST(HoroscopeJson, AnswersNothingToAnEmptyStream) {
     EXPECT_TRUE(AnswerLines("").empty());
     EXPECT_EQ(AnswerLines(Sample().dump() + "\n").size(), 1U);
     EXPECT_EQ(AnswerLines(Sample().dump() + "\r\n\n").size(), 2U);
+}
+
+TEST(HoroscopeJson, SaysThatItsInputCannotBeRead) {
+    const std::string err = std::filesystem::temp_directory_path() / ("words-" + std::to_string(getpid()));
+    EXPECT_NE(std::system(("timeout 20 '" HOROSCOPE_JSON "' < / > '" + err + "' 2>&1").c_str()), 0);
+    std::ifstream file(err);
+    std::string words;
+    std::getline(file, words);
+    EXPECT_EQ(words, "horoscope-json: the births could not be read: Is a directory");
+    std::filesystem::remove(err);
 }
 
 TEST(HoroscopeJson, WritesTheReportWhenAsked) {

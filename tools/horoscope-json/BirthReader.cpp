@@ -4,6 +4,7 @@
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Texts.h"
+#include "tools/horoscope-json/BirthLines.h"
 
 #include <nlohmann/json.hpp>
 
@@ -245,7 +246,10 @@ void ReadPreferences(const json &birth, Preferences &preferences) {
     preferences.ProgressInForce = preferences.PrefProgress;
 }
 
-json ParsedObject(const std::string &line) {
+json ParsedObject(std::string_view line) {
+    if (line.size() > BirthLines::longestLine) {
+        throw BirthError("The line is longer than 1 MB");
+    }
     if (line.find_first_not_of(" \t\r") == std::string::npos) {
         throw BirthError("The line is empty");
     }
@@ -270,7 +274,7 @@ json ParsedObject(const std::string &line) {
 
 } // namespace
 
-void ReadBirth(const std::string &line, HoroscopeState &state) {
+void ReadBirth(std::string_view line, HoroscopeState &state) {
     const json birth = ParsedObject(line);
     HoroscopeState read = state;
     for (const auto &wanted : labels) {

@@ -3,7 +3,7 @@
 #include "horoscope/record/HoroscopeState.h"
 
 #include <stdexcept>
-#include <string>
+#include <string_view>
 
 namespace kelvaro {
 
@@ -19,6 +19,6 @@ public:
 /// and preferences are those of a new record where their keys are missing; unknown keys are passed over.
 /// Raises BirthError and leaves the record as it was when the line is no such object, a required key is
 /// missing, or a value is out of its range.
-void ReadBirth(const std::string &line, HoroscopeState &state);
+void ReadBirth(std::string_view line, HoroscopeState &state);
 
 } // namespace kelvaro

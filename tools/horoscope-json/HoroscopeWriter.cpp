@@ -126,6 +126,9 @@ void AddDayOfBirth(const DayOfBirth &day, ordered_json &out) {
     out["MandiNight"] = day.MandiNight.Serial();
     out["GulikaMoment"] = day.GulikaMoment.Serial();
     out["MandiMoment"] = day.MandiMoment.Serial();
+    if (!day.SunRemark.empty()) {
+        out["SunRemark"] = day.SunRemark;
+    }
 }
 
 void AddGhatiTimes(const GhatiTimes &ghati, ordered_json &out) {

@@ -6,6 +6,7 @@
 #include "report/HoroscopeReport.h"
 #include "runtime/RuntimeError.h"
 #include "store/database/DatabaseFile.h"
+#include "tools/horoscope-json/BirthLines.h"
 #include "tools/horoscope-json/BirthReader.h"
 #include "tools/horoscope-json/HoroscopeWriter.h"
 #include "tools/horoscope-json/RunStatus.h"
@@ -38,7 +39,7 @@ ordered_json AnswerWithReport(const kelvaro::Horoscope &horoscope) {
     return answer;
 }
 
-ordered_json Answer(const std::string &line, bool withReport, kelvaro::Horoscope &horoscope,
+ordered_json Answer(std::string_view line, bool withReport, kelvaro::Horoscope &horoscope,
                     const kelvaro::RunStatus &status) {
     try {
         kelvaro::ReadBirth(line, horoscope.state);
@@ -60,10 +61,17 @@ void AnswerStream(const std::filesystem::path &database, bool withReport, std::i
     kelvaro::store::Connection connection;
     connection.OpenCopyInMemory(database);
     kelvaro::Horoscope horoscope(connection, status);
-    std::string line;
-    while (answers && std::getline(births, line)) {
+    births.exceptions(std::ios::badbit); // a stream that cannot be read must not pass for one that has ended
+    kelvaro::BirthLines lines(births);
+    while (answers) {
+        const auto line = lines.Next();
+        if (!line) {
+            break;
+        }
+        // What a horoscope leaves in the database is undone, so that a batch of any length stays as small.
+        const kelvaro::store::Transaction undone(connection);
         // An error may quote bytes of the line that are no UTF-8.
-        answers << Answer(line, withReport, horoscope, status)
+        answers << Answer(*line, withReport, horoscope, status)
                        .dump(-1, ' ', false, ordered_json::error_handler_t::replace)
                 << '\n';
     }
@@ -88,6 +96,9 @@ int main(int argc, char **argv) {
             return EXIT_FAILURE;
         }
         return EXIT_SUCCESS;
+    } catch (const std::ios_base::failure &error) {
+        std::cerr << "horoscope-json: the births could not be read: " << error.code().message() << '\n';
+        return EXIT_FAILURE;
     } catch (const std::exception &error) {
         std::cerr << "horoscope-json: " << error.what() << '\n';
         return EXIT_FAILURE;
