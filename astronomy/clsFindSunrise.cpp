@@ -5,6 +5,11 @@
 namespace kelvaro {
 
 const clsSunrise &SunEventFinder::Calculate(Moment date, const Site &site) {
+    sunrise_.Take(EventsOf(date, site));
+    return sunrise_;
+}
+
+const SunEvents &SunEventFinder::EventsOf(Moment date, const Site &site) {
     // A birth and its solar year ask for some fifty dates, most of them several times.
     constexpr std::size_t mostDates = 100;
     if (site != site_ || found_.size() > mostDates) {
@@ -14,8 +19,7 @@ const clsSunrise &SunEventFinder::Calculate(Moment date, const Site &site) {
     const Moment day = DateOf(date);
     const auto known = std::ranges::find(found_, day, &Found::date);
     if (known != found_.end()) {
-        sunrise_.Take(known->events);
-        return sunrise_;
+        return known->events;
     }
     sunrise_.BirthDateTime = date;
     sunrise_.CL_LatitudeDeg = site.LatNS == "S" && site.LatDeg > 0 ? -site.LatDeg : site.LatDeg;
@@ -24,10 +28,8 @@ const clsSunrise &SunEventFinder::Calculate(Moment date, const Site &site) {
     sunrise_.CL_LatitideMin = site.LatMin;
     sunrise_.STZ = site.TimeDiffEW == "E" ? site.TimeDiff : -site.TimeDiff;
     sunrise_.DSAVE = 0;
-    const SunEvents events = sunrise_.FindEvents();
-    found_.push_back({day, events});
-    sunrise_.Take(events);
-    return sunrise_;
+    found_.push_back({day, sunrise_.FindEvents()});
+    return found_.back().events;
 }
 
 } // namespace kelvaro

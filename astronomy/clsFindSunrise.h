@@ -16,6 +16,11 @@ namespace kelvaro {
 /// from Greenwich, West unless `strZoneSide` is "E". `daylightFlag` changes no result. Moments are civil
 /// moments of the place, of which the date counts. Raises what `clsSunrise::FnCalculate` raises.
 class SunEventFinder {
+public:
+    /// What the search finds for the date, without what is carried over from another one. Stands until the
+    /// next call.
+    const SunEvents &EventsOf(Moment date, const Site &site);
+
 protected:
     /// The calculation object with the events of the date.
     const clsSunrise &Calculate(Moment date, const Site &site);
@@ -34,6 +39,8 @@ private:
 /// Finds the sunrise of a date.
 class clsFindSunrise : private SunEventFinder {
 public:
+    using SunEventFinder::EventsOf;
+
     Moment FnFindSunrise(Moment date, const Site &site) { return Calculate(date, site).m_dateSunrise; }
     Moment FnFindSunrise(Moment date, const std::string &strNS, double latDeg, double latMin,
                          const std::string &strEW, double lonDeg, double lonMin,

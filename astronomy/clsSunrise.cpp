@@ -18,6 +18,7 @@ constexpr double degree = 0.0174532925;
 constexpr double circle = 6.283185307;
 constexpr double epochJ2000 = 51544.5; ///< Modified Julian Date
 constexpr double daysInCentury = 36525;
+constexpr double hoursInDay = 24;
 
 /// Altitudes of the Sun's centre in radians: upper limb with refraction, civil, nautical, astronomical
 /// twilight.
@@ -127,6 +128,7 @@ private:
 struct EventHours {
     double rise = 0;
     std::optional<double> set;
+    bool startsUp = false; ///< the Sun, with the date
 };
 
 /// The start of the date as a Modified Julian Date; degrees, North and East positive.
@@ -142,6 +144,7 @@ EventHours FnFindRiseAndSet(double date, double latitude, double longitude) {
     double setTime = 0;
     Parabola parabola;
     double before = height(0);
+    const bool startsUp = before > 0;
     // Without a rise the search goes on through the following days.
     for (double hour = 1; !((hour >= 25 || set) && rise); hour += 2) {
         if (hour > longestSearchHours) {
@@ -161,7 +164,7 @@ EventHours FnFindRiseAndSet(double date, double latitude, double longitude) {
         }
         before = after;
     }
-    return {riseTime, set ? std::optional(setTime) : std::nullopt};
+    return {riseTime, set ? std::optional(setTime) : std::nullopt, startsUp};
 }
 
 /// To the whole minute and on the date asked for, whatever the count of hours.
@@ -169,6 +172,13 @@ Moment FnHoursToDate(double hours, const CivilDate &date) {
     const double minutes = std::trunc(hours * 60 + 0.5);
     const int minuteOfDay = static_cast<int>(std::fmod(minutes, 24 * 60));
     return MomentOf(date, {minuteOfDay / 60, minuteOfDay % 60, 0});
+}
+
+SunEvents::Lack LackOf(bool rises, bool sets, bool startsUp) {
+    if (!sets && (rises || startsUp)) {
+        return SunEvents::Lack::Sunset;
+    }
+    return rises ? SunEvents::Lack::Nothing : SunEvents::Lack::Sunrise;
 }
 
 } // namespace
@@ -179,10 +189,14 @@ SunEvents clsSunrise::FindEvents() const {
     const EventHours hours =
         FnFindRiseAndSet(modifiedJulianDate - STZ / 24, SignedDegrees(CL_LatitudeDeg, CL_LatitideMin),
                          SignedDegrees(CL_LongitudeDeg, CL_LongitudeMin));
-    SunEvents events{FnHoursToDate(hours.rise, date), std::nullopt};
+    SunEvents events;
+    events.sunrise = FnHoursToDate(hours.rise, date);
     if (hours.set) {
         events.sunset = FnHoursToDate(*hours.set, date);
     }
+    events.rises = hours.rise <= hoursInDay;
+    events.sets = hours.set && *hours.set <= hoursInDay;
+    events.lack = LackOf(events.rises, events.sets, hours.startsUp);
     return events;
 }
 

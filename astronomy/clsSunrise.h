@@ -8,8 +8,16 @@ namespace kelvaro {
 
 /// What a search finds for a date.
 struct SunEvents {
+    /// What a date has none of: the Sun stays down, or it stays up. The search sees no Sun that comes, or
+    /// goes, for less than two hours.
+    enum class Lack { Nothing, Sunrise, Sunset };
+
     Moment sunrise;
     std::optional<Moment> sunset;
+    // Whether they are of the date itself. Those of a following day are stamped on the date.
+    bool rises = true;
+    bool sets = true;
+    Lack lack = Lack::Nothing;
 };
 
 /// Sunrise and sunset at a place on a civil date, to the whole minute.

@@ -49,6 +49,9 @@ void RunSteps(Horoscope &horoscope) {
         }
         horoscope.status.AdvanceStatusBar();
     }
+    if (!horoscope.state.day.SunRemark.empty()) {
+        horoscope.status.RunRemarked(horoscope.state.day.SunRemark);
+    }
 }
 
 /// Marks the horoscope as being calculated, also when an exception ends the run.

@@ -8,8 +8,8 @@ struct Horoscope;
 /// end.
 ///
 /// An error in a step ends the run at that step: the views that were not reached stand empty, the view in
-/// force is shown, and the status display is told the step and the cause. A call from inside a run is
-/// ignored.
+/// force is shown, and the status display is told the step and the cause. A run that comes to its end tells
+/// it where a missing sunrise or sunset was replaced. A call from inside a run is ignored.
 void CalculateHoroscope(Horoscope &horoscope);
 
 } // namespace kelvaro

@@ -3,6 +3,8 @@
 #include "horoscope/Calculators.h"
 #include "panchanga/Sign.h"
 #include "runtime/MomentText.h"
+#include "runtime/Numbers.h"
+#include "runtime/RuntimeError.h"
 
 #include <span>
 #include <string>
@@ -13,6 +15,15 @@ namespace {
 
 /// The ten bodies whose longitudes the facade gives; Gulika and Maandi are rising degrees.
 constexpr std::span<const BodyFields> bodiesOfTheFacade{bodyFields.data(), 10};
+
+/// Raises OverflowError for a custom ayanamsa beyond its bounds.
+void RequireBounds(const AyanamsaSettings &ayanamsa) {
+    if (IsBeyondBounds(ayanamsa)) {
+        throw OverflowError("The custom ayanamsa wants a zero year from 0 to " + NumberText(latestZeroYear) +
+                            " and a progression from 0 to " + NumberText(greatestProgress) + ", not " +
+                            NumberText(ayanamsa.zeroYear) + " and " + NumberText(ayanamsa.progress));
+    }
+}
 
 Moment BirthMomentOf(const BirthDetails &birth) {
     return ReadMoment(birth.BirthDay + "/" + birth.BirthMonth + "/" + birth.BirthYear + " " +
@@ -41,6 +52,45 @@ Positions ReadLongitudes(Moment moment, double division, ClsFindPlanetPosition &
     return positions;
 }
 
+/// Empty for a date on which the Sun rises and sets.
+std::string LackText(Moment date, SunEvents::Lack lack) {
+    if (lack == SunEvents::Lack::Nothing) {
+        return {};
+    }
+    return std::string("The Sun does not ").append(lack == SunEvents::Lack::Sunset ? "set" : "rise") +
+           " at this place on " + MonthNameDateText(date) + ", or for less than two hours.";
+}
+
+/// What stands in the place of a missing sunset.
+std::string CarriedSunset(Moment sunset) {
+    return sunset == Moment() ? "midnight of " + MonthNameDateText(sunset) + ", as no sunset was found before"
+                              : "the sunset of " + MonthNameMomentText(sunset);
+}
+
+/// Of a date whose sunset, its own or another day's, is `sunset`. Empty where it is its own, as the sunrise.
+std::string RemarkOn(Moment date, const SunEvents &events, Moment sunset) {
+    std::string taken = events.rises ? "" : "the sunrise of a later day";
+    if (!events.sets) {
+        taken.append(taken.empty() ? "" : ", ")
+            .append(events.sunset ? "the sunset of a later day" : CarriedSunset(sunset));
+    }
+    return taken.empty() ? taken : LackText(date, events.lack) + " Taken instead: " + taken + ".";
+}
+
+/// The first remark on the dates that the limits of the day were found for.
+std::string SunRemarkOn(Moment birth, const DayOfBirth &day, const Site &site, SunTimes &sunTimes) {
+    std::string remark = RemarkOn(birth, sunTimes.EventsOf(birth, site), day.SunsetOfBirthDay);
+    if (remark.empty()) {
+        remark = RemarkOn(day.DayCurrentDate, sunTimes.EventsOf(day.DayCurrentDate, site), day.DaySunset);
+    }
+    const Moment next = DateAdd(Interval::Day, 1, day.DayCurrentDate);
+    const SunEvents &eventsOfNext = sunTimes.EventsOf(next, site);
+    if (remark.empty() && !eventsOfNext.rises) {
+        remark = LackText(next, eventsOfNext.lack) + " Taken instead: the sunrise of a later day.";
+    }
+    return remark;
+}
+
 /// The limits of the astrological day, sunrise to sunrise, that holds the birth.
 DayOfBirth FindDay(Moment birth, const Site &site, SunTimes &sunTimes) {
     SunTimes::Day limits = sunTimes.SunTimesOf(birth, site);
@@ -60,15 +110,25 @@ DayOfBirth FindDay(Moment birth, const Site &site, SunTimes &sunTimes) {
     day.DaySunrise = limits.sunrise;
     day.DaySunset = limits.sunset;
     day.DayNextSunrise = limits.nextSunrise;
+    day.SunRemark = SunRemarkOn(birth, day, site, sunTimes);
     return day;
 }
 
-void FindRiseTimes(DayOfBirth &day, clsTimes &times) {
+void FindRiseTimes(DayOfBirth &day, const Site &site, SunTimes &sunTimes, clsTimes &times) {
     times.currentdate = day.DayCurrentDate;
     times.Sunrisetime = day.DaySunrise;
     times.Sunsettime = day.DaySunset;
     times.SunRiseNexttime = day.DayNextSunrise;
-    times.findtimes();
+    try {
+        times.findtimes();
+    } catch (const OverflowError &) {
+        // The one span that can be too long is that to a sunset carried over from another age.
+        const SunEvents &events = sunTimes.EventsOf(day.DayCurrentDate, site);
+        if (events.sets) {
+            throw;
+        }
+        throw OverflowError(LackText(day.DayCurrentDate, events.lack) + " No sunset near it is known.");
+    }
     day.GulikaDay = times.GulikaRise_Day;
     day.GulikaNight = times.GulikaRise_Night;
     day.MandiDay = times.MandiRise_Day;
@@ -101,11 +161,14 @@ PositionPass FindPositions(const BirthDetails &birth, const Site &site, const Pr
         facade.FindFixValuesAt(moment, site, preferences.InForce());
         return facade.FnFindLagnaPosition();
     };
+    const AyanamsaSettings ayanamsa{preferences.AyanamsaName, preferences.YearInForce,
+                                    preferences.ProgressInForce};
+    RequireBounds(ayanamsa);
+    RequireBounds(preferences.InForce());
     const Moment moment = BirthMomentOf(birth);
-    facade.FindFixValuesAt(moment, site,
-                           {preferences.AyanamsaName, preferences.YearInForce, preferences.ProgressInForce});
+    facade.FindFixValuesAt(moment, site, ayanamsa);
     PositionPass pass{ReadLongitudes(moment, division, facade), FindDay(moment, site, calculators.sunTimes)};
-    FindRiseTimes(pass.day, calculators.times);
+    FindRiseTimes(pass.day, site, calculators.sunTimes, calculators.times);
     JoinRiseMoments(pass.day);
     pass.positions.GulikaLon = lagnaAt(pass.day.GulikaMoment);
     pass.positions.GulikaRasi = RasiOfLongitude(pass.positions.GulikaLon, division);

@@ -30,6 +30,9 @@ public:
 
     /// Tells the user at which step the run ended, and why.
     virtual void RunFailed(std::string_view step, std::string_view cause) = 0;
+
+    /// Tells the user what to know of the results of a run that came to its end.
+    virtual void RunRemarked(std::string_view /*remark*/) {}
 };
 
 } // namespace kelvaro

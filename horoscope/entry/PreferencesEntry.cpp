@@ -60,13 +60,13 @@ constexpr std::array<Rule<PreferenceFields>, 8> customRules{{
     {LacksNumber<&PreferenceFields::txtZero>, "Enter Year in Number", "txtZero"},
     {LacksNumber<&PreferenceFields::txtPogression>, "Enter Progression in Number ", "txtPogression"},
     // The limit is this year and not that of the clock, whatever the message says.
-    {[](const PreferenceFields &f) { return NumberFromText(f.txtZero) > 2003; },
+    {[](const PreferenceFields &f) { return NumberFromText(f.txtZero) > latestZeroYear; },
      "Enter Zero Year Less than current Year ", "txtZero"},
     {[](const PreferenceFields &f) { return NumberFromText(f.txtZero) < 0; }, "Enter Positive Zero Year ",
      "txtZero"},
     {[](const PreferenceFields &f) { return NumberFromText(f.txtPogression) < 0; },
      "Enter Positive Progression ", "txtPogression"},
-    {[](const PreferenceFields &f) { return NumberFromText(f.txtPogression) > 1000; },
+    {[](const PreferenceFields &f) { return NumberFromText(f.txtPogression) > greatestProgress; },
      "Enter Progression less than 1000", "txtPogression"},
 }};
 

@@ -33,6 +33,9 @@ struct DayOfBirth {
     std::string DayOrNight;
     Moment GulikaDay, GulikaNight, MandiDay, MandiNight;
     Moment GulikaMoment, MandiMoment;
+    /// Tells of the first of these dates on which the Sun does not rise or does not set, and what stands in
+    /// its place; empty where it does both.
+    std::string SunRemark;
 };
 
 /// All that one position pass finds.

@@ -22,6 +22,9 @@ public:
 
     Moment SunriseOf(Moment moment, const Site &site) { return sunrise_.FnFindSunrise(moment, site); }
 
+    /// What the date itself has. Stands until the next call.
+    const SunEvents &EventsOf(Moment moment, const Site &site) { return sunrise_.EventsOf(moment, site); }
+
 private:
     clsFindSunrise sunrise_;
     clsFindSunSet sunset_;

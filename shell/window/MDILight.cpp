@@ -228,6 +228,10 @@ void MDILight::RunFailed(std::string_view step, std::string_view cause) {
     statusBar()->showMessage(OneLine(QStringLiteral("%1: %2").arg(TextOf(step), TextOf(cause))));
 }
 
+void MDILight::RunRemarked(std::string_view remark) {
+    statusBar()->showMessage(TextOf(remark));
+}
+
 void MDILight::closeEvent(QCloseEvent *event) {
     // A run must come to its end before what it works on goes away.
     isCloseWanted_ = horoscope_.isCalculating;

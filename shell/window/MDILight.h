@@ -66,6 +66,7 @@ private:
     void HideOpenChart() override;
     void ShowCurrentView(std::string_view currentView) override;
     void RunFailed(std::string_view step, std::string_view cause) override;
+    void RunRemarked(std::string_view remark) override;
 
     void ReadLetterhead();
     void ShowFirstHoroscope();

@@ -119,6 +119,83 @@ TEST_F(CalculateHoroscopeTest, DayOfBirthHoldsAlsoBeforeTheOriginOfMoments) {
     }
 }
 
+// The Sun set at 23:59 of the day before, and at 0:01 of the day after. The run before ended with the last
+// month of the solar year, and what it looked at last is carried over.
+TEST_F(CalculateHoroscopeTest, TellsWhatStandsInThePlaceOfASunset) {
+    const Site reykjavik{64, 9, "N", 21, 57, "W", 0, "E"};
+    horoscope.state.site = reykjavik;
+    SetBirth(MomentOf({1995, 6, 16}, {12, 0, 0}));
+    CalculateHoroscope(horoscope);
+    EXPECT_EQ(display.failedStep, "Rasi positions");
+    EXPECT_EQ(
+        display.failure,
+        "The Sun does not set at this place on 16/Jun/1995, or for less than two hours. No sunset near it is "
+        "known.");
+
+    display.failure.clear();
+    SetBirth(MomentOf({1995, 6, 14}, {12, 0, 0}));
+    CalculateHoroscope(horoscope);
+    EXPECT_EQ(display.remark, "");
+    SetBirth(MomentOf({1995, 6, 16}, {12, 0, 0}));
+    CalculateHoroscope(horoscope);
+    EXPECT_EQ(display.failure, "");
+    EXPECT_EQ(
+        display.remark,
+        "The Sun does not set at this place on 16/Jun/1995, or for less than two hours. Taken instead: the "
+        "sunset of 14/Mar/1996 07:27 PM.");
+}
+
+// Each in a program just started, which has no earlier sunset to go on from.
+TEST_F(CalculateHoroscopeTest, PolarBirthsAreComputedOrRefusedInWords) {
+    int remarks = 0;
+    int refusals = 0;
+    for (const double latitude : {64.0, 66.5, 67.0, 69.0, 75.0, 89.0, 90.0}) {
+        for (const char *side : {"N", "S"}) {
+            for (int month = 0; month < 24; ++month) {
+                Horoscope polar(connection, display);
+                polar.state.birth.BirthYear = month % 2 == 0 ? "1921" : "2045";
+                polar.state.birth.BirthMonth = std::to_string(month / 2 + 1);
+                polar.state.birth.BirthDay = std::to_string(month + 1);
+                polar.state.birth.BirthHour = std::to_string(month);
+                polar.state.site = {latitude, 0, side, 18, 57, "E", 1, "E"};
+                polar.state.preferences.BhavaSystem = month % 3 == 0 ? "Not Equal" : "Equal";
+                CalculateHoroscope(polar);
+                const std::string remark = std::exchange(display.remark, "");
+                const std::string failure = std::exchange(display.failure, "");
+                remarks += remark.empty() ? 0 : 1;
+                refusals += failure.empty() ? 0 : 1;
+                EXPECT_TRUE(failure.empty() || failure.starts_with("The Sun ")) << failure;
+                EXPECT_TRUE(remark.empty() || failure.empty());
+            }
+        }
+    }
+    EXPECT_GT(remarks, 50);
+    EXPECT_GT(refusals, 0);
+}
+
+TEST_F(CalculateHoroscopeTest, ACustomAyanamsaKeepsToTheBoundsOfThePreferences) {
+    struct Case {
+        const char *word;
+        double zeroYear, progress;
+        bool isRefused;
+    };
+    for (const Case &test :
+         {Case{"Custom", 0, 0, false}, Case{"Custom", 2003, 1000, false}, Case{"Custom", 2003.5, 50, true},
+          Case{"Custom", -1, 50, true}, Case{"Custom", 285, 1000.5, true}, Case{"Custom", 285, -0.5, true},
+          Case{"Custom", 285, 1e15, true}, Case{"Lahiri", -1, 1e15, false}}) {
+        Preferences &preferences = horoscope.state.preferences;
+        preferences.AyanamsaName = preferences.AyanamsaInForce = test.word;
+        preferences.PrefYear = preferences.YearInForce = test.zeroYear;
+        preferences.PrefProgress = preferences.ProgressInForce = test.progress;
+        display.failure.clear();
+        CalculateHoroscope(horoscope);
+        EXPECT_EQ(display.failure.starts_with("The custom ayanamsa wants a zero year from 0 to 2003 and a "
+                                              "progression from 0 to 1000, not "),
+                  test.isRefused)
+            << display.failure;
+    }
+}
+
 // The settings may hold such a place.
 TEST_F(CalculateHoroscopeTest, PlacesFromOutsideTheWorldAreComputedOrRefusedInWords) {
     for (const auto field : {&Site::LatDeg, &Site::LatMin, &Site::LonDeg, &Site::LonMin, &Site::TimeDiff}) {

@@ -31,6 +31,7 @@ public:
         failedStep = step;
         failure = cause;
     }
+    void RunRemarked(std::string_view text) override { remark = text; }
 
     std::size_t Count(const std::string &event) const {
         return static_cast<std::size_t>(std::count(events.begin(), events.end(), event));
@@ -39,6 +40,7 @@ public:
     std::vector<std::string> events;
     std::string failedStep;
     std::string failure;
+    std::string remark;
     std::function<void()> atEachAdvance;
 };
 
