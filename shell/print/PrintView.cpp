@@ -145,7 +145,8 @@ void PrintView::Compose() {
 }
 
 void PrintView::SaveAs(const ReportFileKind &kind) {
-    const QString name = AskReportFile(this, kind, folder_);
+    const QString name =
+        AskReportFile(this, kind, folder_, ReportFileName(TextOf(horoscope_->state.birth.ChartName)));
     if (name.isEmpty()) {
         return;
     }

@@ -2,23 +2,22 @@
 
 #include "report/ReportFile.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/ShownText.h"
 
 #include <QDir>
 #include <QFileDialog>
-#include <QMimeDatabase>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 namespace kelvaro {
 
 namespace {
 
-/// The file name as given, with the ending of its kind where it has none. What follows a dot is an ending
-/// only where the system knows it: "K. Raman" and "14.07.1965" have none.
+/// The file name as given, with the ending of its kind where it has another one or none: what follows a dot
+/// may be part of a name, as in "Kumar.M" and "14.07.1965".
 QString WithEnding(const QString &name, const ReportFileKind &kind) {
     const QString ending = QString::fromLatin1(kind.ending);
-    const bool hasEnding = name.isEmpty() || name.endsWith(ending, Qt::CaseInsensitive) ||
-                           !QMimeDatabase().suffixForFileName(name).isEmpty();
-    return hasEnding ? name : name + ending;
+    return name.isEmpty() || name.endsWith(ending, Qt::CaseInsensitive) ? name : name + ending;
 }
 
 bool MayReplace(QWidget *parent, const QString &title, const QString &name) {
@@ -32,12 +31,27 @@ bool MayReplace(QWidget *parent, const QString &title, const QString &name) {
 const ReportFileKind textFile{"Text Files (*.Txt)", ".Txt", TextFileContent};
 const ReportFileKind htmlFile{"HTML Files (*.HTML)", ".HTML", HtmlFileContent};
 
-QString AskReportFile(QWidget *parent, const ReportFileKind &kind, const QString &folder) {
+QString ReportFileName(const QString &chartName) {
+    constexpr qsizetype mostCharacters = 60;
+    // Of all file systems that a report may be carried to.
+    static const QRegularExpression refused(QStringLiteral(R"([/\\:*?"<>|])"));
+    static const QRegularExpression ends(QStringLiteral(R"(^[\s.]+|[\s.]+$)"));
+    QString name = chartName.left(mostCharacters);
+    if (!name.isEmpty() && name.back().isHighSurrogate()) {
+        name.chop(1);
+    }
+    name = OneLine(name, mostCharacters).replace(refused, QStringLiteral("_")).remove(ends);
+    return name.isEmpty() ? QStringLiteral("Horoscope") : name;
+}
+
+QString AskReportFile(QWidget *parent, const ReportFileKind &kind, const QString &folder,
+                      const QString &suggestedName) {
     QFileDialog CD(parent, QString(), folder, QString::fromLatin1(kind.filter));
     CD.setObjectName(QStringLiteral("CD"));
     CD.setAcceptMode(QFileDialog::AcceptSave);
     // The question is not left to the dialog, as not every desktop's own knows of the ending that is added.
     CD.setOption(QFileDialog::DontConfirmOverwrite);
+    CD.selectFile(WithEnding(suggestedName, kind));
     while (CD.exec() == QDialog::Accepted) {
         QString name = WithEnding(CD.selectedFiles().value(0), kind);
         if (!QFileInfo::exists(name) || MayReplace(parent, CD.windowTitle(), name)) {

@@ -229,7 +229,7 @@ void MDILight::RunFailed(std::string_view step, std::string_view cause) {
 }
 
 void MDILight::RunRemarked(std::string_view remark) {
-    statusBar()->showMessage(TextOf(remark));
+    statusBar()->showMessage(OneLine(TextOf(remark)));
 }
 
 void MDILight::closeEvent(QCloseEvent *event) {

@@ -5,6 +5,7 @@
 #include "horoscope/NoDisplay.h"
 #include "horoscope/StatusDisplay.h"
 #include "report/ReportFile.h"
+#include "shell/print/ReportFileChoice.h"
 #include "shell/print/ReportPrinter.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
@@ -105,6 +106,7 @@ private slots:
     void init();
     void FirstPressAsksForAShortTextAndShowsIt();
     void FilesHoldTheReport();
+    void SuggestedNamesSuitEveryFileSystem();
     void ExistingFileIsReplacedAfterAQuestionOnly();
     void CancelAndFailureLeaveTheReportShown();
     void AnotherHoroscopeTakesTheReportAway();
@@ -182,6 +184,7 @@ void PrintViewTest::FirstPressAsksForAShortTextAndShowsIt() {
     QVERIFY(Te()->toPlainText().isEmpty());
     Press({[&](QDialog &dialog) {
         QCOMPARE(dynamic_cast<QFileDialog &>(dialog).nameFilters(), QStringList("Text Files (*.Txt)"));
+        QCOMPARE(dialog.findChild<QLineEdit *>("fileNameEdit")->text(), QStringLiteral("Velnesh.Txt"));
         Cancel(dialog);
     }});
     QCOMPARE(view_->Report(), Composed(AntraSection::Without));
@@ -199,7 +202,7 @@ void PrintViewTest::FilesHoldTheReport() {
     const struct {
         const char *antra, *kind, *chart, *typed, *written;
     } rows[] = {
-        {"Op2", "Op4", "A & B", "chart.log", "chart.log"},
+        {"Op2", "Op4", "A & B", "Kumar.M", "Kumar.M.Txt"},
         {"Op1", "Op4", "Zoë Владимир", "Рождение", "Рождение.Txt"},
         {"Op2", "Op3", "A & B <C>", "K. Raman", "K. Raman.HTML"},
         {"Op1", "Op3", "Zoë", "zoë.html", "zoë.html"},
@@ -218,6 +221,24 @@ void PrintViewTest::FilesHoldTheReport() {
         QVERIFY(view_->findChild<QLabel *>("outcome")->text().contains(written));
         QVERIFY(QFile::remove(Path(written)));
         QVERIFY(QDir(folder_->path()).isEmpty());
+    }
+}
+
+void PrintViewTest::SuggestedNamesSuitEveryFileSystem() {
+    const struct {
+        QString chart, file;
+    } rows[] = {
+        {"Zoë Владимир", "Zoë Владимир"},
+        {"Kumar.M", "Kumar.M"},
+        {"../a\\b:c*d?e\"f<g>h|i", "_a_b_c_d_e_f_g_h_i"},
+        {" . A\n\tB ..", "A  B"},
+        {"...", "Horoscope"},
+        {"", "Horoscope"},
+        {QString(1000000, u'x'), QString(60, u'x')},
+        {QString(59, u'x') + QStringLiteral("😀"), QString(59, u'x')},
+    };
+    for (const auto &[chart, file] : rows) {
+        QCOMPARE(ReportFileName(chart), file);
     }
 }
 
