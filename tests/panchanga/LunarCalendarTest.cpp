@@ -142,6 +142,15 @@ TEST(TithiSearch, CountsInTheSignOfTheLastOneFound) {
     }
 }
 
+// "Amavashya" began on 15 June 2015 between 7:55 and 8:55 PM, two of the hours counted from 11:55 PM.
+TEST(TithiSearch, CountsWholeHoursFromFiveMinutesToMidnight) {
+    Almanac almanac;
+    const TithiCount count = Counted(almanac, "Amavashya", "25/7/2015");
+    TithiSearch sky = almanac.SearchAround(MomentOf({2015, 6, 15}));
+    sky.LookAt(MomentOf({2015, 6, 15}, {19, 55, 0}));
+    EXPECT_EQ(count.sun, sky.Sun());
+}
+
 // Walks of one birth share the hours that they come to. What the planet object is left with must not tell
 // the difference: an unknown ayanamsa goes on from it.
 TEST(TithiSearch, LeavesTheSameAyanamsaWhetherItsHoursWereSharedOrNot) {

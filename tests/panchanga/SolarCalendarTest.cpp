@@ -72,6 +72,15 @@ TEST(SolarCalendar, YearStarts) {
     }
 }
 
+// In 2024 the year opens at sunrise of 14 April, 5:58, with 0.5908 of a day. The 186 days and 0.9017 of
+// Asvina make it 187 days and 0.4925: 11 hours and 19 minutes, half an hour before the sunset of 18 October.
+TEST(SolarCalendar, AMonthOpensByItsFractionOfADay) {
+    Almanac almanac;
+    const SolarDate &date = Found(almanac, "18/10/2024 12:00");
+    EXPECT_EQ(date.month, "Asvina");
+    EXPECT_EQ(date.day, 1);
+}
+
 // 12 to 16 April 2021 run from Monday to Friday, and the table is made to ask for a Sunday. From the start
 // of 2020 the year then opens at 0.7609 days after sunrise, which is after sunset.
 TEST(SolarCalendar, AYearWithoutAFittingWeekdayGoesOnFromTheStartBefore) {
