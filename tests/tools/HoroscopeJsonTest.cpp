@@ -112,6 +112,7 @@ TEST(HoroscopeJson, RefusesBadLinesAndGoesOn) {
         {without("TimeDiff"), "TimeDiff is missing"},
         {with("ChartName", 5), "ChartName must be a text"},
         {with("Ayanamsa", nullptr), "Ayanamsa must be a text"},
+        {with("BirthCity", std::string(256, 'x')), "BirthCity must have at most 255 characters"},
         {SampleWith({{"Ayanamsa", "Custom"}, {"CustomYear", 2004}}).dump(), "a zero year from 0 to 2003"},
         {SampleWith({{"Ayanamsa", "Custom"}, {"CustomProgress", 1e10}}).dump(),
          "a progression from 0 to 1000"},

@@ -151,11 +151,16 @@ void ReadText(const json &birth, const TextKey<Part> &wanted, const std::string 
     const auto found = birth.find(wanted.key);
     if (found == birth.end()) {
         part.*wanted.field = missing;
-    } else if (found->is_string()) {
-        part.*wanted.field = found->template get<std::string>();
-    } else {
+        return;
+    }
+    if (!found->is_string()) {
         Refuse(wanted.key, "must be a text");
     }
+    const auto &text = found->template get_ref<const std::string &>();
+    if (CharactersIn(text) > longestName) {
+        Refuse(wanted.key, "must have at most " + std::to_string(longestName) + " characters");
+    }
+    part.*wanted.field = text;
 }
 
 void ReadSide(const json &birth, const SideKey &wanted, Site &site) {
