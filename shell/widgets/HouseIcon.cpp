@@ -75,7 +75,7 @@ struct ButtonIcon {
     const char *icon;
 };
 
-constexpr std::array<ButtonIcon, 15> usualButtons{{{"cmdSave", "save"},
+constexpr std::array<ButtonIcon, 16> usualButtons{{{"cmdSave", "save"},
                                                    {"cmdAddSave", "save"},
                                                    {"cmdEditUpdate", "accept"},
                                                    {"cmdFind", "find"},
@@ -85,6 +85,7 @@ constexpr std::array<ButtonIcon, 15> usualButtons{{{"cmdSave", "save"},
                                                    {"Cmd_Submit", "open"},
                                                    {"cmdadd", "add"},
                                                    {"cmdTimeZoneHelp", "zone"},
+                                                   {"cmdBringBack", "undo"},
                                                    {"CMDCANCEl", "close"},
                                                    {"cmdAddCLose", "close"},
                                                    {"cmdAddCLose1", "close"},
