@@ -173,6 +173,14 @@ std::string MonthNameDateText(Moment moment) {
     return text;
 }
 
+std::string LongDateText(Moment moment) {
+    const CivilDate date = Split(moment).date;
+    std::string text(WeekdayName(WeekdayOf(moment)));
+    text.append(" ").append(std::to_string(date.day)).append(" ");
+    text.append(monthNames.at(static_cast<std::size_t>(date.month - 1)));
+    return text + " " + std::to_string(date.year);
+}
+
 std::string ClockText(Moment moment) {
     const CivilClock clock = Split(moment).clock;
     std::string text(clock.hour < 12 ? "00:00 AM" : "00:00 PM");

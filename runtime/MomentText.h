@@ -26,6 +26,9 @@ std::string DateText(Moment moment);
 /// "14/Jul/1965"
 std::string MonthNameDateText(Moment moment);
 
+/// "Wednesday 14 July 1965"
+std::string LongDateText(Moment moment);
+
 /// "02:15 PM"; midnight is "12:00 AM" and noon "12:00 PM". Seconds are left out.
 std::string ClockText(Moment moment);
 

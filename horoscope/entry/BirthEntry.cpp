@@ -6,9 +6,28 @@
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 
+#include <tuple>
+
 namespace kelvaro {
 
-/// The last three keep a typed text that names no row from going with the place or the offset of another one.
+namespace {
+
+/// "11 N 32"
+std::string AngleText(double degrees, const std::string &letter, double minutes) {
+    return NumberText(degrees) + " " + letter + " " + NumberText(minutes);
+}
+
+/// The place of a city must not stay behind when the city has gone.
+void EmptyPlace(BirthFields &fields) {
+    TakePlace({}, fields);
+    fields.txtLatDetails.clear();
+    fields.txtLonDetails.clear();
+}
+
+} // namespace
+
+/// Country, city and zone have two rules each. The second keeps a typed text that names no row from going
+/// with the place or the offset of another one, and is told before what depends on the field.
 constexpr std::array<Rule<BirthFields>, 16> birthRules{{
     {LacksText<&BirthFields::Txt_VC_ChartName>, "Enter Name", "Txt_VC_ChartName"},
     {LacksText<&BirthFields::txt_Date>, "Enter Date of Birth", "txt_Date"},
@@ -19,16 +38,19 @@ constexpr std::array<Rule<BirthFields>, 16> birthRules{{
     {LacksText<&BirthFields::cbHour>, "Enter Correct Time", "cbHour"},
     {LacksText<&BirthFields::cbMins>, "Enter Correct Time", "cbMins"},
     // Hours of a 24-hour clock pass, though the hour is one of twelve.
-    {[](const BirthFields &f) { return IsOutside(f.cbHour, 24); }, "Enter Correct Time", "cbHour"},
-    {[](const BirthFields &f) { return IsOutside(f.cbMins, 59); }, "Enter Correct Time", "cbMins"},
+    {[](const BirthFields &f) { return IsOutside("Hour", f.cbHour, 24); }, "Enter Correct Time", "cbHour"},
+    {[](const BirthFields &f) { return IsOutside("Minute", f.cbMins, 59); }, "Enter Correct Time", "cbMins"},
     {LacksText<&BirthFields::txt_VC_Country>, "Select Country", "txt_VC_Country"},
-    {LacksText<&BirthFields::txt_VC_City>, "Select City", "txt_VC_City"},
-    {LacksText<&BirthFields::cbTimeZone>, "Select Timezone", "cbTimeZone"},
     {[](const BirthFields &f) { return f.txt_VC_Country != f.chosen.country; }, "Select Country",
      "txt_VC_Country"},
+    {LacksText<&BirthFields::txt_VC_City>, "Select City", "txt_VC_City"},
     {[](const BirthFields &f) { return f.txt_VC_City != f.chosen.city; }, "Select City", "txt_VC_City"},
+    {LacksText<&BirthFields::cbTimeZone>, "Select Timezone", "cbTimeZone"},
     {[](const BirthFields &f) { return f.cbTimeZone != f.chosen.zone; }, "Select Timezone", "cbTimeZone"},
 }};
+
+constexpr std::span<const Rule<BirthFields>> dateRules = std::span(birthRules).subspan(1, 5);
+constexpr std::span<const Rule<BirthFields>> timeRules = std::span(birthRules).subspan(6, 4);
 
 void TakePlace(const store::Place &place, BirthFields &fields) {
     fields.txt_VC_LatDeg = place.latDeg;
@@ -37,8 +59,8 @@ void TakePlace(const store::Place &place, BirthFields &fields) {
     fields.txt_VC_LonDeg = place.lonDeg;
     fields.txt_VC_LonMin = place.lonMin;
     fields.txt_VC_LonEW = place.lonEW;
-    fields.txtLatDetails = NumberText(place.latDeg) + " " + place.latNS + " " + NumberText(place.latMin);
-    fields.txtLonDetails = NumberText(place.lonDeg) + " " + place.lonEW + " " + NumberText(place.lonMin);
+    fields.txtLatDetails = AngleText(place.latDeg, place.latNS, place.latMin);
+    fields.txtLonDetails = AngleText(place.lonDeg, place.lonEW, place.lonMin);
     fields.chosen.city = fields.txt_VC_City;
 }
 
@@ -64,6 +86,14 @@ BirthFields FieldsAtLoad(Moment present) {
     return fields;
 }
 
+bool HaveSameTexts(const BirthFields &one, const BirthFields &other) {
+    const auto texts = [](const BirthFields &f) {
+        return std::tie(f.Txt_VC_ChartName, f.cbGender, f.txt_Date, f.txt_Month, f.txt_Year, f.cbHour,
+                        f.cbMins, f.Opt_PM, f.txt_VC_Country, f.txt_VC_City, f.cbTimeZone);
+    };
+    return texts(one) == texts(other);
+}
+
 void ClearFields(BirthFields &fields) {
     for (std::string *text :
          {&fields.Txt_VC_ChartName, &fields.cbGender, &fields.txt_Date, &fields.txt_Month, &fields.txt_Year,
@@ -79,16 +109,15 @@ std::string HourText(const BirthFields &fields) {
     if (fields.cbHour == "12") {
         return fields.Opt_PM ? "12" : "0";
     }
-    return fields.Opt_PM ? NumberText(NumberFromText(fields.cbHour) + 12) : fields.cbHour;
+    return fields.Opt_PM ? NumberText(NumberIn("Hour", fields.cbHour) + 12) : fields.cbHour;
+}
+
+std::string TimeTextOf(const BirthFields &fields) {
+    return HourText(fields) + ":" + fields.cbMins + ": 00";
 }
 
 Moment MomentOfBirth(const BirthFields &fields) {
-    return ReadMoment(DateTextOf(fields) + " " + HourText(fields) + ":" + fields.cbMins + ": 00");
-}
-
-std::string RemarkOnTime(const BirthFields &fields) {
-    const bool stillReadsMidnight = fields.isOpenedFromNoon && fields.cbHour == "12" && !fields.Opt_PM;
-    return stillReadsMidnight ? "12 AM stands here. A birth at noon wants PM." : "";
+    return ReadMoment(DateTextOf(fields) + " " + TimeTextOf(fields));
 }
 
 PlaceChoices ChooseCountry(BirthFields &fields, const store::ListItem &country,
@@ -99,6 +128,7 @@ PlaceChoices ChooseCountry(BirthFields &fields, const store::ListItem &country,
     PlaceChoices choices{lists.CitiesOf(country.key), lists.ZonesOf(country.key)};
     fields.txt_VC_Country = country.text;
     fields.txt_VC_City.clear();
+    EmptyPlace(fields);
     fields.cbTimeZone.clear();
     fields.chosen = {country.text, {}, {}, country.key, 0};
     if (choices.zones.size() == 1) {

@@ -8,6 +8,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,7 +33,8 @@ struct BirthFields {
     std::string txt_VC_Country, txt_VC_City, cbTimeZone;
     std::string txtLatDetails, txtLonDetails; ///< "17 N 20", "78 E 30"
 
-    std::int32_t txt_VC_UserId = 0;     ///< number of the saved chart on the form; 0 for one not yet stored
+    std::int32_t txt_VC_UserId = 0; ///< number of the saved chart on the form; 0 for one not yet stored
+    std::string savedAs; ///< name with date under which that chart is stored; empty where it has gone
     std::int32_t txt_VC_TimeDiffId = 0; ///< number of the zone of an opened chart
     double txt_VC_LatDeg = 0, txt_VC_LatMin = 0, txt_VC_LonDeg = 0, txt_VC_LonMin = 0;
     std::string txt_VC_LatNS, txt_VC_LonEW;
@@ -63,6 +65,9 @@ struct PlaceChoices {
 /// The fields at load: the first gender, date and time of the present moment, no place.
 BirthFields FieldsAtLoad(Moment present);
 
+/// Whether a user would see the same in both: the texts that can be typed, and AM or PM.
+bool HaveSameTexts(const BirthFields &one, const BirthFields &other);
+
 /// "New": empties the texts. The chart number stays, so a save that follows changes the chart that stood on
 /// the form.
 void ClearFields(BirthFields &fields);
@@ -71,15 +76,14 @@ void ClearFields(BirthFields &fields);
 /// ConversionError for a PM hour that is no number.
 std::string HourText(const BirthFields &fields);
 
+/// The clock time of the fields with seconds, to stand behind a date. Raises like `HourText`.
+std::string TimeTextOf(const BirthFields &fields);
+
 /// Date and clock of the fields. Raises ConversionError where they do not exist.
 Moment MomentOfBirth(const BirthFields &fields);
 
-/// The words to stand beside the time, without a box: that a birth stored at noon now reads 12 AM. Empty
-/// where there is nothing to say, and so as soon as PM or another hour is chosen.
-std::string RemarkOnTime(const BirthFields &fields);
-
-/// The country's row has been chosen: empties city and zone, gives their new lists, and chooses the zone of
-/// a country that has only one. Does nothing, and gives no lists, for an empty country.
+/// The country's row has been chosen: empties city, place and zone, gives their new lists, and chooses the
+/// zone of a country that has only one. Does nothing, and gives no lists, for an empty country.
 PlaceChoices ChooseCountry(BirthFields &fields, const store::ListItem &country,
                            const store::PlaceLists &lists, const HoroscopeState &state);
 
@@ -100,9 +104,11 @@ void TakeZone(const store::Zone &zone, BirthFields &fields);
 /// The place of the fields and the offset of its zone.
 Site SiteOf(const BirthFields &fields);
 
-/// The rules of the fields, in their order. They raise ConversionError for a year, an hour or a minute that
-/// is no number.
+/// The rules of the fields, in their order. They raise ConversionError, which names the field, for a year, an
+/// hour or a minute that is no number.
 extern const std::array<Rule<BirthFields>, 16> birthRules;
+extern const std::span<const Rule<BirthFields>> dateRules; ///< those of them that the date must keep
+extern const std::span<const Rule<BirthFields>> timeRules; ///< those of them that the clock time must keep
 
 /// Puts the birth in force, without computing. Raises ConversionError, with the record as it was, for a time
 /// that does not exist.

@@ -1,11 +1,12 @@
 #include "horoscope/entry/BirthStorage.h"
 
+#include "horoscope/Horoscope.h"
 #include "horoscope/entry/LastChart.h"
 #include "runtime/MomentText.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Texts.h"
-#include "store/charts/ChartStore.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -25,7 +26,7 @@ store::ChartToSave NewChart(const BirthFields &fields, Moment birth) {
     store::ChartToSave chart;
     chart.Txt_SC_ChartName = fields.Txt_VC_ChartName;
     chart.SC_ChartName = fields.Txt_VC_ChartName;
-    chart.SC_Gender = fields.cbGender == "Male" ? "Male" : "Female";
+    chart.SC_Gender = StoredGender(fields);
     chart.SC_Country = std::to_string(fields.chosen.countryId);
     chart.SC_City = fields.txt_VC_City;
     chart.SC_Date = birth;
@@ -47,7 +48,7 @@ store::StoredChart ChangedChart(const BirthFields &fields, Moment birth) {
     // The date as typed, where the name of a new chart has its number: "04-Jul-1965" beside "4-Jul-1965".
     chart.ChartName =
         store::NameWithDate(fields.Txt_VC_ChartName, fields.txt_Date, fields.txt_Month, fields.txt_Year);
-    chart.Gender = fields.cbGender;
+    chart.Gender = StoredGender(fields);
     chart.Country = fields.chosen.countryId;
     chart.City = fields.txt_VC_City;
     chart.ChartDay = parts.date.day;
@@ -61,31 +62,41 @@ store::StoredChart ChangedChart(const BirthFields &fields, Moment birth) {
     return chart;
 }
 
-Notice InsertBirth(BirthFields &fields, Moment birth, store::Connection &connection,
-                   SettingsStore &settings) {
+store::SavedOrNot InsertBirth(BirthFields &fields, Moment birth, store::Connection &connection,
+                              SettingsStore &settings) {
     store::ChartStore charts(connection);
     store::Transaction transaction(connection);
     store::SavedOrNot outcome = charts.SC_SaveChart(NewChart(fields, birth));
     if (!outcome.isSaved) {
         outcome.notice.focus = nameField;
-        return outcome.notice;
+        return outcome;
     }
     const std::int32_t number = charts.NewestNumber();
+    std::string savedAs = charts.NameOf(number).value_or("");
     transaction.Commit();
     fields.txt_VC_UserId = number;
+    fields.savedAs = std::move(savedAs);
     try {
         KeepLastChart(LastChartOf(fields), settings);
     } catch (const RuntimeError &error) {
         throw RuntimeError(std::string("The chart is saved, but it will not come back at the next start. ") +
                            error.what());
     }
-    return outcome.notice;
+    return outcome;
 }
 
-Notice UpdateBirth(const BirthFields &fields, Moment birth, store::Connection &connection,
-                   SettingsStore &settings) {
+store::SavedOrNot UpdateBirth(BirthFields &fields, Moment birth, store::Connection &connection,
+                              SettingsStore &settings) {
     store::Transaction transaction(connection);
-    store::ChartStore(connection).Update(ChangedChart(fields, birth));
+    store::ChartStore charts(connection);
+    if (!charts.NameOf(fields.txt_VC_UserId)) {
+        fields.savedAs.clear();
+        throw store::StoreError(
+            "The chart to be changed is no longer among the saved charts. To store this "
+            "birth, close the form, open a new one, bring back what was typed, and save.");
+    }
+    const store::StoredChart changed = ChangedChart(fields, birth);
+    charts.Update(changed);
     // The settings come before the row, which stands only with the commit, but not before the database has
     // taken the row's values: a chart that has gone must not become the last chart.
     const LastChart before = LastChartIn(settings);
@@ -96,7 +107,8 @@ Notice UpdateBirth(const BirthFields &fields, Moment birth, store::Connection &c
         KeepLastChart(before, settings);
         throw;
     }
-    return {"Details are Sucessfully Updated", Notice::Icon::None};
+    fields.savedAs = changed.ChartName;
+    return {true, {"Details are Sucessfully Updated", Notice::Icon::None}};
 }
 
 /// Back to a 12-hour clock. Noon, too, becomes twelve with AM; the form says so beside the time.
@@ -113,9 +125,16 @@ void TakeHour(std::int32_t hour, BirthFields &fields) {
 
 } // namespace
 
-Notice SaveBirth(BirthFields &fields, store::Connection &connection, SettingsStore &settings) {
+std::string StoredGender(const BirthFields &fields) {
+    if (fields.txt_VC_UserId != 0) {
+        return fields.cbGender;
+    }
+    return fields.cbGender == "Male" ? "Male" : "Female";
+}
+
+store::SavedOrNot SaveBirth(BirthFields &fields, store::Connection &connection, SettingsStore &settings) {
     if (auto notice = FirstBroken(birthRules, fields)) {
-        return *std::move(notice);
+        return {false, *std::move(notice)};
     }
     const Moment birth = MomentOfBirth(fields);
     return fields.txt_VC_UserId == 0 ? InsertBirth(fields, birth, connection, settings)
@@ -135,6 +154,7 @@ OpenedBirth OpenBirth(const store::ListItem &chart, store::Connection &connectio
     BirthFields &fields = opened.fields;
     fields.Txt_VC_ChartName = store::PersonOf(chart.text);
     fields.txt_VC_UserId = stored.Sno;
+    fields.savedAs = stored.ChartName;
     fields.txt_Date = std::to_string(stored.ChartDay);
     fields.txt_Month =
         monthChoices.at(static_cast<std::size_t>(ReadMonth(std::to_string(stored.ChartMonth))) - 1);
@@ -154,6 +174,27 @@ OpenedBirth OpenBirth(const store::ListItem &chart, store::Connection &connectio
     return opened;
 }
 
+std::int32_t ChartInForce(const BirthFields &fields, const Horoscope &horoscope,
+                          std::span<const store::ListItem> charts) {
+    if (fields.txt_VC_UserId != 0) {
+        return fields.txt_VC_UserId;
+    }
+    if (horoscope.chartNumber != 0) {
+        return horoscope.chartNumber;
+    }
+    const BirthDetails &birth = horoscope.state.birth;
+    const auto nameWithDay = [&birth](const std::string &day) {
+        return store::NameWithDate(birth.ChartName, day, birth.BirthMonth, birth.BirthYear);
+    };
+    // A changed chart is stored with the day as typed, a new one with its number.
+    const std::string asTyped = nameWithDay(birth.BirthDay);
+    const std::string asNumber = nameWithDay(std::to_string(Split(birth.BirthMoment).date.day));
+    const auto found = std::ranges::find_if(charts, [&](const store::ListItem &chart) {
+        return chart.text == asTyped || chart.text == asNumber;
+    });
+    return found == charts.end() ? 0 : found->key;
+}
+
 Notice NoChartChosen() {
     return {"Select Chart Name ", Notice::Icon::Information, "List_VC_ChartName"};
 }
@@ -169,6 +210,7 @@ bool CanDeleteFromToolbar(const BirthFields &fields) {
 Notice DeleteBirth(BirthFields &fields, store::Connection &connection) {
     store::ChartStore(connection).Delete(fields.txt_VC_UserId);
     ClearFields(fields);
+    fields.savedAs.clear();
     return {"Successfully Deleted", Notice::Icon::Information, std::string(nameField)};
 }
 

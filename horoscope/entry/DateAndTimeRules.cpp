@@ -23,13 +23,21 @@ bool IsNoDate(const BirthFields &fields) {
 }
 
 bool IsNoYear(const BirthFields &fields) {
-    const double year = RoundHalfToEven(NumberFromText(fields.txt_Year));
+    const double year = RoundHalfToEven(NumberIn("Year", fields.txt_Year));
     return year < 1800 || year > 3000;
 }
 
-bool IsOutside(const std::string &number, double highest) {
-    const double whole = std::floor(NumberFromText(number));
+bool IsOutside(std::string_view field, const std::string &number, double highest) {
+    const double whole = std::floor(NumberIn(field, number));
     return whole < 0 || whole > highest;
+}
+
+double NumberIn(std::string_view field, const std::string &text) {
+    try {
+        return NumberFromText(text);
+    } catch (const ConversionError &error) {
+        throw ConversionError(std::string(field) + ": " + error.what());
+    }
 }
 
 } // namespace kelvaro

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace kelvaro {
 
@@ -20,6 +21,9 @@ bool IsNoYear(const BirthFields &fields);
 
 /// Whether the whole part of a number is negative or above a bound. Raises ConversionError for a text that is
 /// no number.
-bool IsOutside(const std::string &number, double highest);
+bool IsOutside(std::string_view field, const std::string &number, double highest);
+
+/// The number in a field. Raises ConversionError, which names the field, for a text that is none.
+double NumberIn(std::string_view field, const std::string &text);
 
 } // namespace kelvaro

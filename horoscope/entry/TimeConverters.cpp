@@ -14,7 +14,7 @@ using ConverterRules = std::array<Rule<BirthFields>, 12>;
 using IsBroken = bool (*)(const BirthFields &);
 
 bool IsNoNumberUpTo(const std::string &text, double highest) {
-    return !IsNumber(text) || IsOutside(text, highest);
+    return !IsNumber(text) || IsOutside("Time", text, highest);
 }
 
 bool IsNoTime(const std::string &text) {

@@ -1,12 +1,18 @@
 #include "shell/dialogs/BirthControls.h"
 
+#include "horoscope/entry/BirthRemarks.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/ListedChoice.h"
+#include "shell/widgets/ShownText.h"
 #include "shell/widgets/TextOf.h"
 #include "ui_BirthDialog.h"
 
+#include <QAccessible>
+#include <QGuiApplication>
+
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 
 namespace kelvaro {
 
@@ -15,6 +21,7 @@ namespace {
 using Form = Ui::frm_OpenChart;
 
 constexpr int remarkColumns = 30;
+constexpr QColor warningColour(255, 230, 120);
 
 struct BoxOfField {
     QComboBox *Form::*box;
@@ -32,6 +39,44 @@ constexpr std::array<BoxOfField, 9> boxesOfFields{{
     {&Form::txt_VC_City, &BirthFields::txt_VC_City},
     {&Form::cbTimeZone, &BirthFields::cbTimeZone},
 }};
+
+/// Sets a label off from its surroundings, in a light and in a dark theme.
+void SetOff(QLabel *label, bool isSetOff) {
+    if (label->autoFillBackground() == isSetOff) {
+        return;
+    }
+    QPalette colours = QGuiApplication::palette();
+    if (isSetOff) {
+        colours.setColor(QPalette::Window, warningColour);
+        colours.setColor(QPalette::WindowText, Qt::black);
+    }
+    label->setPalette(colours);
+    label->setAutoFillBackground(isSetOff);
+}
+
+/// Says something beside the fields. Who hears the form instead of seeing it hears a warning at once, and the
+/// other words with the controls that they belong to.
+void Say(QLabel *label, const Remark &remark, std::initializer_list<QWidget *> controls) {
+    const QString text = OneLine(TextOf(remark.text));
+    if (label->text() == text) {
+        return;
+    }
+    label->setText(text);
+    SetOff(label, remark.isWarning);
+    for (QWidget *control : controls) {
+        control->setAccessibleDescription(text);
+    }
+    if (remark.isWarning) {
+        QAccessibleEvent warning(label, QAccessible::Alert);
+        QAccessible::updateAccessibility(&warning);
+    }
+}
+
+/// Whether a box holds a text that is neither a row of its list nor the one that was chosen.
+bool IsUnlisted(const QComboBox *box, const std::string &chosen) {
+    const QString text = box->currentText();
+    return !text.trimmed().isEmpty() && text != TextOf(chosen) && ChosenText(box).isEmpty();
+}
 
 } // namespace
 
@@ -55,12 +100,16 @@ void PrepareControls(const QWidget &window, Form &form) {
     FillList(form.cbGender, TextsOf(genderChoices)); // nothing can be typed into this one
     ListDatesAndTimes({form.txt_Date, form.txt_Month, form.txt_Year, form.cbHour, form.cbMins});
     TakeDigitsOnly(form.txt_Year->lineEdit());
+    LetAltUpClose(form.cbGender);
     for (QComboBox *box : {form.txt_VC_Country, form.txt_VC_City, form.cbTimeZone}) {
-        PrepareList(box, placeColumns);
+        PrepareListWithCandidates(box, placeColumns);
     }
-    // The remark, two lines long, comes and goes without moving anything else.
+    // The remarks, two lines long, come and go without moving anything else.
     const QFontMetrics letters = window.fontMetrics();
-    form.label_remark->setMinimumSize(remarkColumns * letters.averageCharWidth(), 2 * letters.lineSpacing());
+    const int twoLines = 2 * letters.lineSpacing();
+    form.label_remark->setMinimumSize(remarkColumns * letters.averageCharWidth(), twoLines);
+    form.label_chart->setMinimumHeight(twoLines + 2 * form.label_chart->margin());
+    form.label_understood->setMinimumHeight(twoLines);
     QPalette shown = window.palette();
     shown.setColor(QPalette::Base, shown.color(QPalette::Window));
     form.txtLatDetails->setPalette(shown);
@@ -81,19 +130,29 @@ void ShowFields(const BirthFields &fields, Form &form) {
         ShowText(form.*box, fields.*text);
     }
     (fields.Opt_PM ? form.Opt_PM : form.Opt_AM)->setChecked(true);
-    ShowPlace(fields, form);
-    ShowRemark(fields, form);
 }
 
-void ShowRemark(const BirthFields &fields, Form &form) {
+void ShowRemarks(const BirthFields &fields, const DiscardedBirths &discarded, Form &form) {
     BirthFields present = fields;
     ReadControls(form, present);
-    form.label_remark->setText(TextOf(RemarkOnTime(present)));
-}
+    const bool hasCity =
+        present.txt_VC_City == fields.chosen.city && present.txt_VC_Country == fields.chosen.country;
+    form.txtLatDetails->setText(hasCity ? TextOf(fields.txtLatDetails) : QString());
+    form.txtLonDetails->setText(hasCity ? TextOf(fields.txtLonDetails) : QString());
+    const UnlistedPlaces unlisted{IsUnlisted(form.txt_VC_Country, fields.chosen.country),
+                                  IsUnlisted(form.txt_VC_City, fields.chosen.city),
+                                  IsUnlisted(form.cbTimeZone, fields.chosen.zone)};
+    SetOff(form.label_txt_VC_Country, unlisted.country);
+    SetOff(form.label_txt_VC_City, unlisted.city);
+    SetOff(form.label_cbTimeZone, unlisted.zone);
+    Say(form.label_remark, RemarkOnTime(present), {form.cbHour, form.Opt_AM, form.Opt_PM});
+    Say(form.label_chart, RemarkOnChart(present), {form.Txt_VC_ChartName});
+    Say(form.label_understood, {BirthAsUnderstood(present, unlisted)}, {form.cmdSave});
 
-void ShowPlace(const BirthFields &fields, Form &form) {
-    form.txtLatDetails->setText(TextOf(fields.txtLatDetails));
-    form.txtLonDetails->setText(TextOf(fields.txtLonDetails));
+    const BirthFields *next = discarded.Next();
+    form.cmdBringBack->setVisible(next != nullptr);
+    Say(form.label_discarded, {next == nullptr ? "" : "Not saved: " + NameOfBirth(*next)},
+        {form.cmdBringBack});
 }
 
 QWidget *FieldAfter(QWidget *field, const Form &form) {

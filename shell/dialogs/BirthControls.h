@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/entry/BirthEntry.h"
+#include "horoscope/entry/DiscardedBirths.h"
 
 class QComboBox;
 class QWidget;
@@ -31,10 +31,10 @@ void ReadControls(const Ui::frm_OpenChart &form, BirthFields &fields);
 
 void ShowFields(const BirthFields &fields, Ui::frm_OpenChart &form);
 
-/// The remark on the time as it stands in the controls.
-void ShowRemark(const BirthFields &fields, Ui::frm_OpenChart &form);
-
-void ShowPlace(const BirthFields &fields, Ui::frm_OpenChart &form);
+/// What is to be said of the form as it stands in the controls: the place of its city, the remarks on the
+/// time and the saved chart, the birth as it is understood, and the typing that can be brought back. The
+/// fields hold what the form remembers beside the texts.
+void ShowRemarks(const BirthFields &fields, const DiscardedBirths &discarded, Ui::frm_OpenChart &form);
 
 /// Where Enter goes from a field, past the buttons that only the Tab key comes to; null from a control that
 /// is no field.

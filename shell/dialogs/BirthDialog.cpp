@@ -25,9 +25,10 @@
 
 namespace kelvaro {
 
-BirthDialog::BirthDialog(Horoscope &horoscope, SettingsStore &settings, QWidget *parent)
-    : QDialog(parent), horoscope_(horoscope), settings_(settings), fields_(FieldsAtLoad(Now())),
-      controls_(std::make_unique<Ui::frm_OpenChart>()),
+BirthDialog::BirthDialog(Horoscope &horoscope, SettingsStore &settings, DiscardedBirths &discarded,
+                         QWidget *parent)
+    : QDialog(parent), horoscope_(horoscope), settings_(settings), discarded_(discarded),
+      fields_(FieldsAtLoad(Now())), controls_(std::make_unique<Ui::frm_OpenChart>()),
       places_(std::make_unique<BirthPlaces>(*controls_, fields_, horoscope)) {
     controls_->setupUi(this);
     firstField_ = controls_->Txt_VC_ChartName;
@@ -36,11 +37,17 @@ BirthDialog::BirthDialog(Horoscope &horoscope, SettingsStore &settings, QWidget 
     PrepareControls(*this, *controls_);
     NameFields(*this);
     places_->ListAnew();
-    ConnectFields();
     ShowFields(fields_, *controls_);
+    ConnectFields();
+    Settle();
 }
 
-BirthDialog::~BirthDialog() = default;
+BirthDialog::~BirthDialog() {
+    // A form that is still shown is left as it goes, when its fields can no longer be taken.
+    for (const QLineEdit *line : findChildren<QLineEdit *>()) {
+        line->disconnect(this);
+    }
+}
 
 /// An entry of the menu or the toolbar; one without a name separates its neighbours.
 struct BirthDialog::Command {
@@ -58,7 +65,8 @@ void BirthDialog::BuildMenu() {
         {"mnuSave", "&Save", &BirthDialog::Save, Qt::CTRL | Qt::Key_S, "save"},
         {"mnuDelete", "&Delete", &BirthDialog::DeleteFromMenu, {}, "delete"},
         {},
-        {"mnuClose", "&Close", &BirthDialog::reject, Qt::Key_Escape, "close"},
+        // Escape is no key of the menu, which would take it from an open list.
+        {"mnuClose", "&Close", &BirthDialog::reject, {}, "close"},
     }};
     auto *bar = new QMenuBar(this);
     layout()->setMenuBar(bar);
@@ -100,7 +108,10 @@ void BirthDialog::BuildToolbar() {
 /// the text is still being completed.
 void BirthDialog::ConnectFields() {
     const auto on = [this](auto *sender, auto signal, void (BirthPlaces::*take)()) {
-        connect(sender, signal, this, [this, take] { Guard([this, take] { (places_.get()->*take)(); }); });
+        connect(sender, signal, this, [this, take] {
+            Guard([this, take] { (places_.get()->*take)(); });
+            ShowRemarks(fields_, discarded_, *controls_);
+        });
     };
     const auto picked = &QComboBox::activated;
     const auto left = &QLineEdit::editingFinished;
@@ -111,9 +122,13 @@ void BirthDialog::ConnectFields() {
     on(controls_->txt_VC_City->lineEdit(), left, &BirthPlaces::TakeCity);
     on(controls_->cbTimeZone->lineEdit(), left, &BirthPlaces::TakeZone);
 
-    const auto remark = [this] { ShowRemark(fields_, *controls_); };
-    connect(controls_->cbHour, &QComboBox::currentTextChanged, this, remark);
+    const auto remark = [this] { ShowRemarks(fields_, discarded_, *controls_); };
+    for (const QComboBox *box : controls_->page->findChildren<QComboBox *>()) {
+        connect(box, &QComboBox::currentTextChanged, this, remark);
+    }
+    connect(controls_->Txt_VC_ChartName, &QLineEdit::textChanged, this, remark);
     connect(controls_->Opt_PM, &QRadioButton::toggled, this, remark);
+    connect(controls_->cmdBringBack, &QPushButton::clicked, this, &BirthDialog::BringBack);
     connect(controls_->cmdSave, &QPushButton::clicked, this, &BirthDialog::Confirm);
     connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &BirthDialog::reject);
     connect(controls_->cmdadd, &QPushButton::clicked, this,
@@ -123,6 +138,7 @@ void BirthDialog::ConnectFields() {
     secondClick_.setSingleShot(true);
     connect(&secondClick_, &QTimer::timeout, this, [this] { SetDeafToMouse(false); });
     connect(this, &QDialog::rejected, this, [this] {
+        KeepTyping();
         chartList_.reset();
         emit Closed();
     });
@@ -144,9 +160,38 @@ void BirthDialog::Tell(const Notice &notice) {
     }
 }
 
+void BirthDialog::ShowAll() {
+    ShowFields(fields_, *controls_);
+    ShowRemarks(fields_, discarded_, *controls_);
+}
+
 void BirthDialog::Show(const PlaceChoices &choices) {
     places_->List(choices);
-    ShowFields(fields_, *controls_);
+    ShowAll();
+}
+
+/// What stands on the form is stored, or was not typed.
+void BirthDialog::Settle() {
+    ReadControls(*controls_, fields_);
+    settled_ = fields_;
+    ShowRemarks(fields_, discarded_, *controls_);
+}
+
+void BirthDialog::KeepTyping() {
+    ReadControls(*controls_, fields_);
+    if (IsTyped()) {
+        discarded_.Keep(fields_);
+    }
+}
+
+void BirthDialog::BringBack() {
+    Guard([this] {
+        ReadControls(*controls_, fields_);
+        discarded_.BringBack(fields_, IsTyped());
+        places_->ListAnew();
+        ShowAll();
+        FocusOn(controls_->Txt_VC_ChartName);
+    });
 }
 
 /// A command can come from the keyboard while the field with the focus has not been left yet.
@@ -168,9 +213,10 @@ void BirthDialog::Confirm() {
 
 void BirthDialog::New() {
     Guard([this] {
-        ReadControls(*controls_, fields_);
+        KeepTyping();
         ClearFields(fields_);
         Show({});
+        Settle();
         FocusOn(controls_->Txt_VC_ChartName);
     });
 }
@@ -180,8 +226,14 @@ void BirthDialog::Save() {
         TakePlaces();
         // The list that is left over would not have the chart, or have it under its former name.
         chartList_.reset();
-        Tell(SaveBirth(fields_, horoscope_.connection, settings_));
+        const store::SavedOrNot outcome = SaveBirth(fields_, horoscope_.connection, settings_);
+        if (outcome.isSaved) {
+            Settle();
+        }
+        Tell(outcome.notice);
     });
+    // A save that fails can have found that the chart has gone.
+    ShowRemarks(fields_, discarded_, *controls_);
 }
 
 void BirthDialog::OpenList() {
@@ -192,6 +244,7 @@ void BirthDialog::OpenList() {
             connect(list.get(), &ChartListDialog::ChartChosen, this, &BirthDialog::OpenChart);
             chartList_ = std::move(list);
         }
+        chartList_->Choose(ChartInForce(fields_, horoscope_, chartList_->Charts()));
         chartList_->open();
     });
 }
@@ -206,8 +259,10 @@ void BirthDialog::OpenListAnew() {
 void BirthDialog::OpenChart(const store::ListItem &chart) {
     Guard([this, &chart] {
         const OpenedBirth opened = OpenBirth(chart, horoscope_.connection, horoscope_.state);
+        KeepTyping();
         fields_ = opened.fields;
         Show(opened.choices);
+        Settle();
         chartList_->hide();
         PassOverSecondClick();
         FocusOn(controls_->Txt_VC_ChartName);
@@ -249,24 +304,30 @@ void BirthDialog::Delete() {
     if (!IsConfirmed(this, windowTitle(), TextOf(deleteQuestion))) {
         return;
     }
+    const bool isTyped = IsTyped();
+    const BirthFields typed = fields_;
     const Notice notice = DeleteBirth(fields_, horoscope_.connection);
+    if (isTyped) {
+        discarded_.Keep(typed);
+    }
     chartList_.reset();
     Show({});
+    Settle();
     Tell(notice);
 }
 
-void BirthDialog::AskMaster(QWidget *returnTo, void (BirthDialog::*wanted)()) {
+void BirthDialog::AskMaster(QWidget *returnTo, void (BirthDialog::*wanted)(std::int32_t)) {
     Guard([this, returnTo, wanted] {
         TakePlaces();
         firstField_ = returnTo;
         hide();
-        emit(this->*wanted)();
+        emit(this->*wanted)(fields_.chosen.countryId);
     });
 }
 
 void BirthDialog::ReturnFromMaster() {
     Guard([this] { places_->ListAnew(); });
-    ShowFields(fields_, *controls_);
+    ShowAll();
     show();
 }
 

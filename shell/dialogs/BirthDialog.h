@@ -1,6 +1,6 @@
 #pragma once
 
-#include "horoscope/entry/BirthEntry.h"
+#include "horoscope/entry/DiscardedBirths.h"
 
 #include <QDialog>
 #include <QTimer>
@@ -24,9 +24,11 @@ class BirthDialog : public QDialog {
     Q_OBJECT
 
 public:
-    /// Fills the lists and shows the present date and time. Horoscope and settings must outlive the dialog.
+    /// Fills the lists and shows the present date and time. What is typed and leaves the form unsaved is kept
+    /// among the discarded births, which the form offers to bring back. All three must outlive the dialog.
     /// Raises StoreError when the countries cannot be read.
-    BirthDialog(Horoscope &horoscope, SettingsStore &settings, QWidget *parent = nullptr);
+    BirthDialog(Horoscope &horoscope, SettingsStore &settings, DiscardedBirths &discarded,
+                QWidget *parent = nullptr);
     BirthDialog(const BirthDialog &) = delete;
     BirthDialog &operator=(const BirthDialog &) = delete;
     ~BirthDialog() override;
@@ -41,10 +43,11 @@ public:
     void reject() override;
 
 signals:
-    /// The form has hidden itself to make room for the master of cities.
-    void CityMasterWanted();
+    /// The form has hidden itself to make room for the master of cities. The country is that of the form, 0
+    /// for none.
+    void CityMasterWanted(std::int32_t countryId);
     /// The form has hidden itself to make room for the master of time zones.
-    void TimeZoneMasterWanted();
+    void TimeZoneMasterWanted(std::int32_t countryId);
     /// The user is done with the form.
     void Closed();
 
@@ -61,6 +64,11 @@ private:
 
     void Guard(const std::function<void()> &work);
     void Tell(const Notice &notice);
+    void ShowAll();
+    void Settle();
+    bool IsTyped() const { return !HaveSameTexts(fields_, settled_); }
+    void KeepTyping();
+    void BringBack();
     void Show(const PlaceChoices &choices);
     void TakePlaces();
 
@@ -72,11 +80,13 @@ private:
     void DeleteFromMenu();
     void DeleteFromToolbar();
     void Delete();
-    void AskMaster(QWidget *returnTo, void (BirthDialog::*wanted)());
+    void AskMaster(QWidget *returnTo, void (BirthDialog::*wanted)(std::int32_t));
 
     Horoscope &horoscope_;
     SettingsStore &settings_;
+    DiscardedBirths &discarded_;
     BirthFields fields_;
+    BirthFields settled_; ///< the form when nothing of it could be lost: at load, after New, Open and Save
     std::unique_ptr<Ui::frm_OpenChart> controls_;
     std::unique_ptr<BirthPlaces> places_;
     std::unique_ptr<ChartListDialog> chartList_; ///< left over from an earlier opening, hidden

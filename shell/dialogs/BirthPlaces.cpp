@@ -12,9 +12,8 @@ BirthPlaces::BirthPlaces(Ui::frm_OpenChart &form, BirthFields &fields, const Hor
 
 void BirthPlaces::ListAnew() {
     FillList(form_.txt_VC_Country, lists_.Countries());
-    if (const std::int32_t country = fields_.chosen.countryId; country != 0) {
-        List({lists_.CitiesOf(country), lists_.ZonesOf(country)});
-    }
+    const std::int32_t country = fields_.chosen.countryId;
+    List(country == 0 ? PlaceChoices() : PlaceChoices{lists_.CitiesOf(country), lists_.ZonesOf(country)});
 }
 
 void BirthPlaces::List(const PlaceChoices &choices) {
@@ -46,6 +45,7 @@ void BirthPlaces::TakeCountry() {
     }
     List(ChooseCountry(fields_, country, lists_, state_));
     ShowText(form_.txt_VC_Country, fields_.txt_VC_Country);
+    ShowText(form_.txt_VC_City, fields_.txt_VC_City);
     ShowText(form_.cbTimeZone, fields_.cbTimeZone);
 }
 
@@ -57,7 +57,6 @@ void BirthPlaces::TakeCity() {
     fields_.txt_VC_City = city;
     ChooseCity(fields_, lists_);
     ShowText(form_.txt_VC_City, city);
-    ShowPlace(fields_, form_);
 }
 
 void BirthPlaces::TakeZone() {

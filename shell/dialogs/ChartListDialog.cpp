@@ -1,12 +1,16 @@
 #include "shell/dialogs/ChartListDialog.h"
 
+#include "horoscope/entry/BirthRemarks.h"
 #include "horoscope/entry/BirthStorage.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/ShownText.h"
 #include "shell/widgets/TextOf.h"
 #include "store/charts/ChartStore.h"
 #include "ui_ChartListDialog.h"
+
+#include <algorithm>
 
 namespace kelvaro {
 
@@ -14,9 +18,16 @@ ChartListDialog::ChartListDialog(store::Connection &connection, QWidget *parent)
     : QDialog(parent), connection_(connection), controls_(std::make_unique<Ui::Frm_RetriveBirthData>()) {
     controls_->setupUi(this);
     DressButtons(*this);
-    controls_->List_VC_ChartName->installEventFilter(this);
+    QListWidget *list = controls_->List_VC_ChartName;
+    list->installEventFilter(this);
+    list->viewport()->installEventFilter(this);
+    controls_->filter->installEventFilter(this);
+    controls_->chartDetails->setMinimumHeight(2 * fontMetrics().lineSpacing());
+    connect(controls_->filter, &QLineEdit::textChanged, this, &ChartListDialog::Filter);
+    connect(list, &QListWidget::currentItemChanged, this, &ChartListDialog::ShowDetails);
+    connect(list, &QListWidget::itemEntered, this, &ChartListDialog::ShowDetails);
     // The first click of a double click opens the chart already.
-    connect(controls_->List_VC_ChartName, &QListWidget::itemClicked, this, &ChartListDialog::Submit);
+    connect(list, &QListWidget::itemClicked, this, &ChartListDialog::Submit);
     connect(controls_->Cmd_Submit, &QPushButton::clicked, this, &ChartListDialog::Submit);
     connect(controls_->Cmd_Close, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -24,31 +35,89 @@ ChartListDialog::ChartListDialog(store::Connection &connection, QWidget *parent)
 ChartListDialog::~ChartListDialog() = default;
 
 void ChartListDialog::fnFillChart() {
-    const store::ChartList charts = store::ChartStore(connection_).fnFillChart(DataGen);
+    store::ChartList charts = store::ChartStore(connection_).fnFillChart(DataGen);
+    charts_ = std::move(charts.List_VC_ChartName);
     controls_->Lab_Details->setText(TextOf(charts.Lab_Details));
     QListWidget *list = controls_->List_VC_ChartName;
     list->clear();
-    for (const store::ListItem &chart : charts.List_VC_ChartName) {
-        auto *row = new QListWidgetItem(TextOf(chart.text), list);
-        row->setData(Qt::UserRole, chart.key);
+    for (const store::ListItem &chart : charts_) {
+        new QListWidgetItem(OneLine(TextOf(chart.text)), list);
     }
+}
+
+void ChartListDialog::Choose(std::int32_t chartNumber) {
+    controls_->filter->clear();
+    QListWidget *list = controls_->List_VC_ChartName;
+    const auto chart = std::ranges::find(charts_, chartNumber, &store::ListItem::key);
+    list->clearSelection();
+    list->setCurrentItem(chart == charts_.end() ? nullptr
+                                                : list->item(static_cast<int>(chart - charts_.begin())));
+}
+
+/// Hides the charts without that part in their names. Of those that stay, one stays chosen.
+void ChartListDialog::Filter(const QString &part) {
+    QListWidget *list = controls_->List_VC_ChartName;
+    QListWidgetItem *first = nullptr;
+    for (int row = 0; row < list->count(); ++row) {
+        const QString person = TextOf(store::PersonOf(charts_.at(static_cast<std::size_t>(row)).text));
+        const bool isShown = person.contains(part, Qt::CaseInsensitive);
+        list->item(row)->setHidden(!isShown);
+        first = first == nullptr && isShown ? list->item(row) : first;
+    }
+    const QListWidgetItem *selected = Selected();
+    if (!part.isEmpty() && (selected == nullptr || selected->isHidden())) {
+        list->clearSelection();
+        list->setCurrentItem(first);
+    }
+}
+
+/// Below the list, without a box: a row that cannot be read is told when it is opened.
+void ChartListDialog::ShowDetails(const QListWidgetItem *row) {
+    QString details;
+    if (row != nullptr) {
+        const auto place = static_cast<std::size_t>(controls_->List_VC_ChartName->row(row));
+        try {
+            details =
+                OneLine(TextOf(ChartAtAGlance(store::ChartStore(connection_).Read(charts_.at(place).key))));
+        } catch (const std::exception &) {
+            details = tr("This chart is damaged and cannot be read.");
+        }
+    }
+    controls_->chartDetails->setText(details);
+    controls_->List_VC_ChartName->setAccessibleDescription(details);
+}
+
+QListWidgetItem *ChartListDialog::Selected() const {
+    const QList<QListWidgetItem *> selected = controls_->List_VC_ChartName->selectedItems();
+    return selected.isEmpty() ? nullptr : selected.front();
 }
 
 void ChartListDialog::Submit() {
-    const QList<QListWidgetItem *> chosen = controls_->List_VC_ChartName->selectedItems();
-    if (chosen.isEmpty()) {
+    const QListWidgetItem *row = Selected();
+    if (row == nullptr) {
         ShowNotice(this, NoChartChosen());
         return;
     }
-    const QListWidgetItem *row = chosen.front();
-    emit ChartChosen({row->text().toStdString(), row->data(Qt::UserRole).toInt()});
+    emit ChartChosen(charts_.at(static_cast<std::size_t>(controls_->List_VC_ChartName->row(row))));
 }
 
-/// While no row is chosen the list stands before its first row, so the first step down chooses that one.
 bool ChartListDialog::eventFilter(QObject *watched, QEvent *event) {
     QListWidget *list = controls_->List_VC_ChartName;
-    if (watched == list && event->type() == QEvent::KeyPress && list->selectedItems().isEmpty()) {
-        list->setCurrentItem(nullptr);
+    if (event->type() == QEvent::KeyPress) {
+        const auto *key =
+            static_cast<QKeyEvent *>(event); // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast)
+        const bool walksList = key->key() == Qt::Key_Down || key->key() == Qt::Key_Up ||
+                               key->key() == Qt::Key_PageDown || key->key() == Qt::Key_PageUp;
+        if (watched == controls_->filter && walksList) {
+            return QCoreApplication::sendEvent(list, event);
+        }
+        // While no row is chosen the list stands before its first row, so the first step down chooses that
+        // one.
+        if (watched == list && Selected() == nullptr) {
+            list->setCurrentItem(nullptr);
+        }
+    } else if (watched == list->viewport() && event->type() == QEvent::Leave) {
+        ShowDetails(Selected());
     }
     return QDialog::eventFilter(watched, event);
 }
@@ -60,6 +129,14 @@ void ChartListDialog::keyPressEvent(QKeyEvent *event) {
         reject();
     } else {
         Submit();
+    }
+}
+
+void ChartListDialog::showEvent(QShowEvent *event) {
+    QDialog::showEvent(event);
+    controls_->filter->setFocus();
+    if (QListWidgetItem *selected = Selected()) {
+        controls_->List_VC_ChartName->scrollToItem(selected, QAbstractItemView::PositionAtCenter);
     }
 }
 

@@ -4,8 +4,12 @@
 
 #include <QDialog>
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
+
+class QListWidgetItem;
 
 namespace Ui {
 class Frm_RetriveBirthData;
@@ -13,7 +17,8 @@ class Frm_RetriveBirthData;
 
 namespace kelvaro {
 
-/// The list of saved charts. Whoever receives the choice hides the dialog.
+/// The list of saved charts, which a part of a name narrows down; date, time and place of the chart under the
+/// cursor stand below it. Whoever receives the choice hides the dialog.
 class ChartListDialog : public QDialog {
     Q_OBJECT
 
@@ -30,17 +35,28 @@ public:
     /// Reads the list from the database. Raises StoreError when that fails.
     void fnFillChart();
 
+    /// The charts of the list, with their chart numbers.
+    const std::vector<store::ListItem> &Charts() const { return charts_; }
+
+    /// Takes the filter away, selects a chart and brings it in view; a number without a row selects none.
+    void Choose(std::int32_t chartNumber);
+
 signals:
     void ChartChosen(const kelvaro::store::ListItem &chart);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     void Submit();
+    void Filter(const QString &part);
+    void ShowDetails(const QListWidgetItem *row);
+    QListWidgetItem *Selected() const;
 
     store::Connection &connection_;
+    std::vector<store::ListItem> charts_; ///< of the rows, in their order
     std::unique_ptr<Ui::Frm_RetriveBirthData> controls_;
 };
 

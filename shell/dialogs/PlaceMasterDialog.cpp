@@ -27,6 +27,12 @@ void PlaceMasterDialog::Begin(Plan plan, store::Connection &connection) {
     OnChoiceOf(plan_.edited, plan_.showEdited);
 }
 
+void PlaceMasterDialog::StartIn(std::int32_t countryId) {
+    for (const Tab &tab : plan_.tabs) {
+        ChooseKey(tab.country, countryId);
+    }
+}
+
 store::MasterRows PlaceMasterDialog::ShowRows(const Tab &tab) const {
     const std::int32_t country = ChosenKey(tab.country);
     store::MasterRows list = country == 0 ? store::MasterRows() : plan_.rowsOf(country);

@@ -18,6 +18,10 @@ class MasterGrid;
 /// What the dialogs of cities and of time zones share: three tabs, each with the countries to choose from and
 /// the rows of the chosen one in a grid. The first adds a row, the second edits one, the third shows them.
 class PlaceMasterDialog : public MasterDialog {
+public:
+    /// Chooses a country on all tabs; nothing for 0.
+    void StartIn(std::int32_t countryId);
+
 protected:
     struct Tab {
         QComboBox *country;

@@ -1,8 +1,11 @@
 #include "shell/widgets/ListedChoice.h"
 
+#include "shell/widgets/Candidates.h"
 #include "shell/widgets/TextOf.h"
 #include "shell/widgets/TypeAhead.h"
 
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QListView>
 
 #include <memory>
@@ -10,6 +13,8 @@
 namespace kelvaro {
 
 namespace {
+
+constexpr int longestName = 255; // characters
 
 int ChosenRow(const QComboBox *box) {
     const QString text = box->currentText();
@@ -29,11 +34,31 @@ void ChooseRow(QComboBox *box, int row) {
     }
 }
 
-} // namespace
+/// Watches the keys of an open list, which come to its view.
+class ListCloser : public QObject {
+public:
+    explicit ListCloser(QComboBox *box) : QObject(box), box_(box) { box->view()->installEventFilter(this); }
 
-void PrepareList(QComboBox *box, int columns) {
+    bool eventFilter(QObject *watched, QEvent *event) override {
+        if (event->type() == QEvent::KeyPress) {
+            const auto *key =
+                static_cast<QKeyEvent *>(event); // NOLINT(cppcoreguidelines-pro-type-static-cast-downcast)
+            if (key->key() == Qt::Key_Up && (key->modifiers() & Qt::AltModifier) != 0) {
+                box_->hidePopup();
+                return true;
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QComboBox *box_;
+};
+
+TypeAhead *Prepare(QComboBox *box, int columns) {
     constexpr int listedRows = 12;
-    TypeAhead::Serve(box);
+    TypeAhead *typeAhead = TypeAhead::Serve(box);
+    box->lineEdit()->setMaxLength(longestName);
     auto *view = new QListView(box);
     view->setUniformItemSizes(true);
     view->setSpacing(1);
@@ -41,6 +66,22 @@ void PrepareList(QComboBox *box, int columns) {
     box->setMaxVisibleItems(listedRows);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(columns);
+    LetAltUpClose(box);
+    return typeAhead;
+}
+
+} // namespace
+
+void PrepareList(QComboBox *box, int columns) {
+    Prepare(box, columns);
+}
+
+void PrepareListWithCandidates(QComboBox *box, int columns) {
+    Candidates::Serve(box, *Prepare(box, columns));
+}
+
+void LetAltUpClose(QComboBox *box) {
+    new ListCloser(box);
 }
 
 QStringList NumbersFromTo(int first, int last, int width) {

@@ -18,8 +18,14 @@ namespace kelvaro {
 /// typed; a text that names none counts as no choice.
 
 /// Lets a box complete what is typed, at a fixed width of so many characters, whatever stands in its list,
-/// which may be thousands of rows long.
+/// which may be thousands of rows long. A name that is typed has at most 255 characters.
 void PrepareList(QComboBox *box, int columns);
+
+/// The same, and the rows that begin with what is typed show below the box.
+void PrepareListWithCandidates(QComboBox *box, int columns);
+
+/// Alt+Up closes the open list of a box, as Alt+Down does.
+void LetAltUpClose(QComboBox *box);
 
 /// "05" to "12", say: all of one width.
 QStringList NumbersFromTo(int first, int last, int width);

@@ -5,12 +5,15 @@
 
 namespace kelvaro {
 
-void TypeAhead::Serve(QComboBox *box) {
+TypeAhead *TypeAhead::Serve(QComboBox *box) {
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
     // The keys come to the box, which hands them on to its line without passing the line's filters.
-    box->installEventFilter(new TypeAhead(box));
+    auto *typeAhead = new TypeAhead(box);
+    box->installEventFilter(typeAhead);
+    connect(box->lineEdit(), &QLineEdit::textEdited, typeAhead, &TypeAhead::Typed);
+    return typeAhead;
 }
 
 TypeAhead::TypeAhead(QComboBox *box) : QObject(box), box_(box) {}
@@ -40,6 +43,7 @@ bool TypeAhead::Complete(const QString &letter) {
     const QString text = box_->itemText(found);
     line->setText(text);
     line->setSelection(static_cast<int>(typed.size()), static_cast<int>(text.size() - typed.size()));
+    emit Typed(typed);
     return true;
 }
 

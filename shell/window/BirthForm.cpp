@@ -13,11 +13,12 @@ BirthDialog &BirthForm::Show() {
         dialog_->ReturnFromMaster();
         return *dialog_;
     }
-    dialog_ = new BirthDialog(window_.HoroscopeInForce(), settings_, &window_);
+    dialog_ = new BirthDialog(window_.HoroscopeInForce(), settings_, discarded_, &window_);
     dialog_->setModal(true);
-    QObject::connect(dialog_, &BirthDialog::CityMasterWanted, &window_, [this] { ShowMaster<CityDialog>(); });
+    QObject::connect(dialog_, &BirthDialog::CityMasterWanted, &window_,
+                     [this](std::int32_t country) { ShowMaster<CityDialog>(country); });
     QObject::connect(dialog_, &BirthDialog::TimeZoneMasterWanted, &window_,
-                     [this] { ShowMaster<TimeZoneDialog>(); });
+                     [this](std::int32_t country) { ShowMaster<TimeZoneDialog>(country); });
     QObject::connect(dialog_, &BirthDialog::Closed, &window_, [this] { Forget(); });
     dialog_->show();
     return *dialog_;
@@ -29,14 +30,24 @@ void BirthForm::Hide() {
     }
 }
 
+void BirthForm::Close() {
+    if (dialog_ != nullptr) {
+        dialog_->reject();
+    }
+}
+
 void BirthForm::Forget() {
     dialog_->deleteLater();
     dialog_ = nullptr;
     window_.findChild<QAction *>(QStringLiteral("mnuPreferences"))->setEnabled(true);
 }
 
-template <class Master> void BirthForm::ShowMaster() {
-    window_.Guard([this] { Master(window_.HoroscopeInForce().connection, &window_).exec(); });
+template <class Master> void BirthForm::ShowMaster(std::int32_t country) {
+    window_.Guard([this, country] {
+        Master master(window_.HoroscopeInForce().connection, &window_);
+        master.StartIn(country);
+        master.exec();
+    });
     window_.Guard([this] { dialog_->ReturnFromMaster(); });
 }
 

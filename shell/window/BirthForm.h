@@ -1,5 +1,6 @@
 #pragma once
 
+#include "horoscope/entry/DiscardedBirths.h"
 #include "shell/dialogs/BirthDialog.h"
 
 #include <QPointer>
@@ -25,13 +26,17 @@ public:
     BirthDialog &Show();
 
     void Hide();
-    void Forget();
+
+    /// As the user closes it; nothing where there is none.
+    void Close();
 
 private:
-    template <class Master> void ShowMaster();
+    void Forget();
+    template <class Master> void ShowMaster(std::int32_t country);
 
     MDILight &window_;
     SettingsStore &settings_;
+    DiscardedBirths discarded_; ///< what the forms of this run held
     QPointer<BirthDialog> dialog_;
 };
 

@@ -113,6 +113,7 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
         // A database that cannot be written would otherwise be told only when something is to be saved.
         connection_.RequireWritable();
     } catch (const std::exception &error) {
+        startFault_ = error.what();
         ShowError(this, error);
     }
 }
@@ -187,10 +188,16 @@ void MDILight::ChooseView(std::size_t view) {
 }
 
 void MDILight::Guard(const std::function<void()> &work) {
-    if (!connection_.IsOpen() || horoscope_.isCalculating) {
+    if (horoscope_.isCalculating) {
         return;
     }
-    Guarded(this, work);
+    Guarded(this, [this, &work] {
+        if (!connection_.IsOpen()) {
+            throw store::StoreError("There is no database to work with. The start has failed:\n\n" +
+                                    startFault_ + "\n\nMend that and start the program again.");
+        }
+        work();
+    });
 }
 
 void MDILight::OpenStatus() {

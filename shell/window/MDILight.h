@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <string>
 
 namespace kelvaro {
 
@@ -46,8 +47,8 @@ public:
     void ChooseView(std::size_t view);
     std::size_t ViewInForce() const;
 
-    /// Does some work, but not without a database nor in the middle of a run, and shows the error that breaks
-    /// it off.
+    /// Does some work, but not in the middle of a run, and shows the error that breaks it off, or that there
+    /// is no database.
     void Guard(const std::function<void()> &work);
 
     // The owner's letterhead, as it stood at the start.
@@ -84,6 +85,7 @@ private:
     StatusPanel *panel_ = nullptr;
     QLabel *owner_; ///< whose program this is, in the status bar
     MainMenu menu_;
+    std::string startFault_;     ///< what broke off the start; empty after one that came to its end
     bool isCloseWanted_ = false; ///< the window was closed in the middle of a run
 };
 

@@ -69,6 +69,9 @@ void MainMenu::Enable(bool areEnabled) {
     for (const char *name : {"mnuBirthTime", "mnuTools", "mnuBirthDetails"}) {
         window_.findChild<QAction *>(QString::fromLatin1(name))->setEnabled(areEnabled);
     }
+    for (QShortcut *keys : databaseKeys_) {
+        keys->setEnabled(areEnabled);
+    }
 }
 
 /// What an entry does that opens a dialog.
@@ -105,12 +108,16 @@ void MainMenu::BuildMenu() {
 /// The keys that users of desktop programs expect; the menus have no entries for them.
 void MainMenu::BuildShortcuts() {
     const auto onKeys = [this](const QKeySequence &keys, auto chosen) {
-        QObject::connect(new QShortcut(keys, &window_), &QShortcut::activated, &window_,
-                         [this, chosen] { window_.Guard(chosen); });
+        auto *shortcut = new QShortcut(keys, &window_);
+        QObject::connect(shortcut, &QShortcut::activated, &window_, chosen);
+        return shortcut;
     };
-    onKeys(QKeySequence::New, [this] { NewBirth(); });
-    onKeys(QKeySequence::Open, [this] { birthForm_.Show().OpenList(); });
-    onKeys(QKeySequence::Save, [this] { SaveBirth(); });
+    const auto forDatabase = [this, onKeys](const QKeySequence &keys, auto chosen) {
+        databaseKeys_.push_back(onKeys(keys, [this, chosen] { window_.Guard(chosen); }));
+    };
+    forDatabase(QKeySequence::New, [this] { NewBirth(); });
+    forDatabase(QKeySequence::Open, [this] { birthForm_.Show().OpenList(); });
+    forDatabase(QKeySequence::Save, [this] { SaveBirth(); });
     onKeys(QKeySequence::Print, [this] { Print(); });
     for (std::size_t view = 0; view < horoscopeViews.size(); ++view) {
         const auto digit = static_cast<int>((view + 1) % horoscopeViews.size());
@@ -121,9 +128,7 @@ void MainMenu::BuildShortcuts() {
 
 void MainMenu::NewBirth() {
     // "New" on a form that holds a saved chart would go on to change that chart.
-    if (birthForm_.Exists()) {
-        birthForm_.Forget();
-    }
+    birthForm_.Close();
     birthForm_.Show().New();
 }
 
@@ -137,7 +142,10 @@ void MainMenu::SaveBirth() {
 
 void MainMenu::Print() {
     window_.ChooseView(ViewNamed("Print"));
-    window_.findChild<QPushButton *>(QStringLiteral("CoPrt"))->setFocus();
+    // In the middle of a run the view comes at its end.
+    if (auto *print = window_.findChild<QPushButton *>(QStringLiteral("CoPrt"))) {
+        print->setFocus();
+    }
 }
 
 } // namespace kelvaro

@@ -3,6 +3,10 @@
 #include "shell/help/Help.h"
 #include "shell/window/BirthForm.h"
 
+#include <vector>
+
+class QShortcut;
+
 namespace kelvaro {
 
 /// The menus and the keys of the main window, and the windows that they open.
@@ -11,7 +15,7 @@ public:
     /// Window and settings must outlive the object.
     MainMenu(MDILight &window, SettingsStore &settings);
 
-    /// Enables or disables the menus that need a database.
+    /// Enables or disables the menus that need a database, and the keys with them.
     void Enable(bool areEnabled);
 
     void HideBirthForm() { birthForm_.Hide(); }
@@ -27,6 +31,7 @@ private:
     MDILight &window_;
     BirthForm birthForm_;
     Help help_;
+    std::vector<QShortcut *> databaseKeys_; ///< those that need a database
 };
 
 } // namespace kelvaro

@@ -126,6 +126,12 @@ std::int32_t ChartStore::NewestNumber() const {
     return newest.IsNull(std::size_t{0}) ? 0 : newest.Integer(std::size_t{0});
 }
 
+std::optional<std::string> ChartStore::NameOf(std::int32_t number) const {
+    Recordset row;
+    row.Open("Select ChartName From ChartSave where Sno = " + std::to_string(number), connection_);
+    return row.IsEndOfFile() ? std::nullopt : std::optional(row.Text(std::size_t{0}));
+}
+
 StoredChart ChartStore::Read(std::int32_t number) const {
     Recordset row;
     row.Open("Select * From ChartSave where Sno = " + std::to_string(number), connection_);

@@ -78,6 +78,9 @@ public:
     /// The highest chart number; 0 where there is none.
     std::int32_t NewestNumber() const;
 
+    /// The name with its date under which a chart is stored; nothing where there is no such chart.
+    std::optional<std::string> NameOf(std::int32_t number) const;
+
     /// Raises StoreError when there is no such chart.
     StoredChart Read(std::int32_t number) const;
 

@@ -24,7 +24,7 @@ protected:
         return fields;
     }
 
-    Notice Save(BirthFields &fields) { return SaveBirth(fields, connection_, settings_); }
+    Notice Save(BirthFields &fields) { return SaveBirth(fields, connection_, settings_).notice; }
     OpenedBirth Open(const store::ListItem &row) { return OpenBirth(row, connection_, horoscope_.state); }
     std::string HourStored() { return First("select ChartHour from ChartSave"); }
 

@@ -1,5 +1,6 @@
 #include "horoscope/entry/BirthEntry.h"
 
+#include "horoscope/entry/BirthRemarks.h"
 #include "runtime/MomentText.h"
 #include "store/charts/ChartStore.h"
 #include "tests/RuleOrder.h"
@@ -37,12 +38,9 @@ TEST_F(BirthEntryTest, RulesComeInTheirOrder) {
             {"Enter Correct Time@cbMins", &BirthFields::cbMins, {""}},
             {"Enter Correct Time@cbHour", &BirthFields::cbHour, {"25", "-1"}},
             {"Enter Correct Time@cbMins", &BirthFields::cbMins, {"60", "-1"}},
-            {"Select Country@txt_VC_Country", &BirthFields::txt_VC_Country, {""}},
-            {"Select City@txt_VC_City", &BirthFields::txt_VC_City, {""}},
-            {"Select Timezone@cbTimeZone", &BirthFields::cbTimeZone, {""}},
-            {"Select Country@txt_VC_Country", &BirthFields::txt_VC_Country, {"Indi"}},
-            {"Select City@txt_VC_City", &BirthFields::txt_VC_City, {"Delhi"}},
-            {"Select Timezone@cbTimeZone", &BirthFields::cbTimeZone, {"IST"}},
+            {"Select Country@txt_VC_Country", &BirthFields::txt_VC_Country, {"", "Indi"}},
+            {"Select City@txt_VC_City", &BirthFields::txt_VC_City, {"", "Delhi"}},
+            {"Select Timezone@cbTimeZone", &BirthFields::cbTimeZone, {"", "IST"}},
         },
         [this](BirthFields fields) {
             const auto notice = AcceptBirth(fields, horoscope_);
@@ -82,10 +80,17 @@ TEST_F(BirthEntryTest, HourBecomesOneOfTwentyFour) {
             EXPECT_EQ(TimingText(state.birth.BirthMoment), c.clock);
         }
     }
-    for (const auto field : {&BirthFields::txt_Year, &BirthFields::cbHour, &BirthFields::cbMins}) {
+    for (const auto &[field, name] :
+         {std::pair(&BirthFields::txt_Year, "Year"), std::pair(&BirthFields::cbHour, "Hour"),
+          std::pair(&BirthFields::cbMins, "Minute")}) {
         BirthFields fields = Entered();
         fields.*field = "abc";
-        EXPECT_THROW(AcceptBirth(fields, horoscope_), ConversionError);
+        try {
+            AcceptBirth(fields, horoscope_);
+            ADD_FAILURE() << name;
+        } catch (const ConversionError &error) {
+            EXPECT_TRUE(std::string_view(error.what()).starts_with(name)) << error.what();
+        }
     }
     EXPECT_TRUE(settings_.values.empty());
 }
@@ -116,7 +121,8 @@ TEST_F(BirthEntryTest, ChoicesFillTheFields) {
     const PlaceChoices brazil = ChooseCountry(fields, {"Brazil", 29}, lists_, horoscope_.state);
     EXPECT_EQ(brazil.zones.size(), 8U);
     EXPECT_EQ(brazil.cities.size(), lists_.CitiesOf(29).size());
-    EXPECT_EQ(fields.txt_VC_City + fields.cbTimeZone, "");
+    EXPECT_EQ(fields.txt_VC_City + fields.cbTimeZone + fields.txtLatDetails + fields.txtLonDetails, "");
+    EXPECT_EQ(SiteOf(fields).LatDeg + SiteOf(fields).LonDeg, 0);
     fields.txt_VC_City = "sao paulo";
     ChooseCity(fields, lists_);
     ChooseZone(fields, brazil.zones[1].number, lists_, horoscope_.state);
@@ -150,13 +156,13 @@ TEST_F(BirthEntryTest, SavedReopenedChangedAndDeleted) {
     expected.chosen.zoneNumber = 0;
     expected.txt_VC_TimeDiffId = indianZone;
     EXPECT_EQ(opened.fields, expected);
-    EXPECT_NE(RemarkOnTime(opened.fields), "");
+    EXPECT_TRUE(RemarkOnTime(opened.fields).isWarning);
 
     // The settings come first, then the row.
     settings_.atWrite = nullptr;
     BirthFields changed = opened.fields;
     changed.Opt_PM = true;
-    EXPECT_EQ(RemarkOnTime(changed), "");
+    EXPECT_EQ(RemarkOnTime(changed).text, "");
     changed.Txt_VC_ChartName = "O'Brien";
     changed.txt_Date = "05";
     changed.cbHour = "3";
@@ -200,12 +206,12 @@ TEST_F(BirthEntryTest, HoursComeBackOnATwelveHourClock) {
         BirthFields opened = Open({"Velnesh~4-Jul-1965", 1}).fields;
         EXPECT_EQ(opened.cbHour, c.hour);
         EXPECT_EQ(opened.Opt_PM, c.isPm);
-        EXPECT_EQ(RemarkOnTime(opened) != "", c.remarks) << c.stored;
+        EXPECT_EQ(RemarkOnTime(opened).text != "", c.remarks) << c.stored;
         // On the cleared form noon has been stated by nobody.
         ClearFields(opened);
         opened.cbHour = "12";
         opened.Opt_PM = false;
-        EXPECT_EQ(RemarkOnTime(opened), "");
+        EXPECT_EQ(RemarkOnTime(opened).text, "");
         EXPECT_EQ(opened.chosen, BirthFields::Chosen());
     }
 }

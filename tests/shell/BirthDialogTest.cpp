@@ -55,7 +55,12 @@ private slots:
     void KeysAloneStateABirth();
     void FaultyFieldsAreTold();
     void PlacesAreTakenWhenTheFieldIsLeft();
+    void EscapeClosesOnlyTheOpenList();
+    void CandidatesShowWhileACityIsTyped();
+    void FormSaysWhatItUnderstandsAndStandsFor();
+    void DiscardedTypingComesBack();
     void SavedChartIsFoundChangedAndDeleted();
+    void ChartListIsNarrowedDown();
     void RefusedSaveLeavesTheFormAsTyped();
     void MasterComesAndGoes();
     void NothingStartsDuringARun();
@@ -96,6 +101,8 @@ private:
         }
     }
 
+    QString Label(const char *name) const { return Find<QLabel>(name)->text(); }
+
     ChartListDialog *List() const { return form_->findChild<ChartListDialog *>(); }
     QListWidget *Charts() const { return List()->findChild<QListWidget *>(); }
 
@@ -123,6 +130,7 @@ private:
         FormOnly display;
         Horoscope horoscope{connection, display};
         UserSettings settings;
+        DiscardedBirths discarded;
     };
 
     void Start() {
@@ -132,7 +140,7 @@ private:
     }
 
     void OpenForm() {
-        form_ = std::make_unique<BirthDialog>(program_->horoscope, program_->settings);
+        form_ = std::make_unique<BirthDialog>(program_->horoscope, program_->settings, program_->discarded);
         program_->display.form = form_.get();
         form_->setModal(true);
         form_->show();
@@ -249,6 +257,142 @@ void BirthDialogTest::PlacesAreTakenWhenTheFieldIsLeft() {
     QCOMPARE(cities->count() + Combo("cbTimeZone")->count(), 0);
 }
 
+void BirthDialogTest::EscapeClosesOnlyTheOpenList() {
+    EnterBirth();
+    for (QComboBox *box : form_->findChildren<QComboBox *>()) {
+        for (const auto &[key, modifier] :
+             {std::pair(Qt::Key_Escape, Qt::NoModifier), std::pair(Qt::Key_Up, Qt::AltModifier)}) {
+            box->setFocus();
+            QTest::keyClick(box, Qt::Key_Down, Qt::AltModifier);
+            QVERIFY2(box->view()->isVisible(), qPrintable(box->objectName()));
+            // Through the window, where a shortcut would take the key from the list.
+            QTest::keyClick(QApplication::activePopupWidget()->windowHandle(), key, modifier);
+            QTRY_VERIFY2(!box->view()->isVisible(), qPrintable(box->objectName()));
+            QVERIFY2(form_->isVisible(), qPrintable(box->objectName()));
+        }
+    }
+    QTest::keyClick(form_->windowHandle(), Qt::Key_Escape);
+    QVERIFY(!form_->isVisible());
+}
+
+void BirthDialogTest::CandidatesShowWhileACityIsTyped() {
+    const auto *candidates = form_->findChild<QListWidget *>(u"txt_VC_City_candidates"_s);
+    Combo("txt_VC_Country")->setFocus();
+    Enter(*form_, "india");
+    QTest::keyClicks(form_->focusWidget(), u"chennag"_s);
+    QVERIFY(candidates->isVisible());
+    QCOMPARE(candidates->item(0)->text() + u'/' + candidates->currentItem()->text(),
+             u"Chennagiri/Chennagiri"_s);
+    QTest::keyClick(form_->windowHandle(), Qt::Key_Escape);
+    QVERIFY(!candidates->isVisible() && form_->isVisible());
+    Key(Qt::Key_Home);
+    QTest::keyClicks(form_->focusWidget(), u"Hyderabad"_s);
+    QVERIFY(candidates->count() > 1);
+    const QListWidgetItem *second = candidates->item(1);
+    const QString picked = second->text();
+    QTest::mouseClick(candidates->viewport(), Qt::LeftButton, {},
+                      candidates->visualItemRect(second).center());
+    QCOMPARE(Text("txt_VC_City"), picked);
+    QVERIFY(!candidates->isVisible() && !Text("txtLatDetails").isEmpty());
+    // A mistyped text stays, without candidates and without the place of another city.
+    Type(*form_, "txt_VC_City", "Hyderqbad");
+    QVERIFY(!candidates->isVisible());
+    QCOMPARE(Text("txt_VC_City") + Text("txtLatDetails"), u"Hyderqbad"_s);
+    QVERIFY(Label("label_understood").contains(u"no such city in the list"_s));
+    Type(*form_, "txt_VC_City", "chennag");
+    QVERIFY(candidates->isVisible());
+    Key(Qt::Key_Return);
+    QVERIFY(!candidates->isVisible());
+    QCOMPARE(Text("txtLatDetails"), u"11 N 32"_s);
+}
+
+void BirthDialogTest::FormSaysWhatItUnderstandsAndStandsFor() {
+    MessageBoxAnswer answer;
+    EnterBirth();
+    const auto *chart = Find<QLabel>("label_chart");
+    QCOMPARE(Label("label_understood"),
+             u"Wednesday 14 July 1965, 14:15, Hyderabad (A.P) 17 N 20 78 E 30, 5.5 hrs E"_s);
+    QCOMPARE(Find<QPushButton>("cmdSave")->accessibleDescription(), Label("label_understood"));
+    QCOMPARE(chart->text(), u"Not saved yet"_s);
+    Run("mnuSave");
+    QVERIFY(chart->text().startsWith(u"Saved as Velnesh, 14-Jul-1965."_s) && !chart->autoFillBackground());
+    // One digit is completed to a number; it is seen before the field is left.
+    Combo("cbMins")->setFocus();
+    Combo("cbMins")->lineEdit()->selectAll();
+    QTest::keyClicks(form_->focusWidget(), u"4"_s);
+    QVERIFY(Label("label_understood").contains(u" 14:40, "_s));
+    Run("mnu_New");
+    QVERIFY(chart->text().startsWith(u"Save replaces the chart of Velnesh, 14-Jul-1965."_s));
+    QVERIFY(chart->autoFillBackground());
+    QVERIFY(Label("label_understood").contains(u"gender not chosen"_s));
+    Find<QLineEdit>("Txt_VC_ChartName")->setText(u"velnesh "_s);
+    QVERIFY(!chart->autoFillBackground());
+    Find<QLineEdit>("Txt_VC_ChartName")->setText(QString(300, u'a'));
+    QCOMPARE(Text("Txt_VC_ChartName").size(), 255);
+}
+
+void BirthDialogTest::DiscardedTypingComesBack() {
+    const auto *offer = Find<QPushButton>("cmdBringBack");
+    const auto nextForm = [this, &offer](const char *closing) {
+        Find<QPushButton>(closing)->click();
+        OpenForm();
+        offer = Find<QPushButton>("cmdBringBack");
+    };
+    nextForm("CMDCANCEl");
+    Run("mnu_New");
+    nextForm("CMDCANCEl");
+    QVERIFY2(!offer->isVisible(), "nothing was typed");
+
+    EnterBirth("Uma");
+    Run("mnu_New");
+    QVERIFY(offer->isVisible());
+    QCOMPARE(Label("label_discarded"), u"Not saved: Uma, 14 Jul 1965"_s);
+    QTest::keyClicks(form_->focusWidget(), u"Ravi"_s);
+    Key(Qt::Key_B, Qt::AltModifier);
+    QTRY_COMPARE(Text("Txt_VC_ChartName") + Text("txt_VC_City"), u"UmaHyderabad (A.P)"_s);
+    QCOMPARE(Label("label_discarded"), u"Not saved: Ravi"_s);
+    nextForm("CMDCANCEl");
+    QCOMPARE(Text("Txt_VC_ChartName"), QString());
+    Key(Qt::Key_B, Qt::AltModifier);
+    QTRY_COMPARE(Text("Txt_VC_ChartName") + Text("txtLatDetails"), u"Uma17 N 20"_s);
+    QVERIFY(Combo("txt_VC_City")->count() > 1000);
+    // What has been saved is not offered.
+    MessageBoxAnswer answer;
+    Run("mnuSave");
+    QCOMPARE(answer.Text(), u"Chart Successfully Saved"_s);
+    nextForm("CMDCANCEl");
+    QCOMPARE(Label("label_discarded"), u"Not saved: Ravi"_s);
+}
+
+void BirthDialogTest::ChartListIsNarrowedDown() {
+    MessageBoxAnswer answer;
+    for (const char *name : {"Uma Devi", "Jörg", "Velnesh"}) {
+        form_->close();
+        OpenForm();
+        EnterBirth();
+        Put("Txt_VC_ChartName", name);
+        Run("save");
+    }
+    Run("open");
+    QTRY_COMPARE(Charts()->currentItem()->text(), u"Velnesh~14-Jul-1965"_s);
+    auto *filter = List()->findChild<QLineEdit *>(u"filter"_s);
+    QTRY_VERIFY(filter->hasFocus());
+    const auto *details = List()->findChild<QLabel *>(u"chartDetails"_s);
+    filter->setText(u"JÖR"_s);
+    QCOMPARE(Charts()->currentItem()->text(), u"Jörg~14-Jul-1965"_s);
+    QVERIFY(Charts()->item(1)->isHidden() && Charts()->item(2)->isHidden());
+    QCOMPARE(details->text(), u"Wednesday 14 July 1965, 14:15, Hyderabad (A.P) 17 N 20 78 E 30"_s);
+    filter->selectAll();
+    QTest::keyClicks(filter, u"jul"_s); // of the dates, not of a name
+    QTest::keyClick(filter, Qt::Key_Return);
+    QCOMPARE(answer.Text(), u"Select Chart Name "_s);
+    filter->clear();
+    QTest::keyClick(filter, Qt::Key_Down);
+    QTest::keyClick(filter, Qt::Key_Down);
+    QTest::keyClick(filter, Qt::Key_Return);
+    QCOMPARE(Text("Txt_VC_ChartName"), u"Uma Devi"_s);
+}
+
 void BirthDialogTest::SavedChartIsFoundChangedAndDeleted() {
     MessageBoxAnswer answer;
     EnterBirth();
@@ -266,8 +410,7 @@ void BirthDialogTest::SavedChartIsFoundChangedAndDeleted() {
     Run("save");
     const auto *remark = Find<QLabel>("label_remark");
     QCOMPARE(remark->text(), QString());
-    Run("open");
-    QTest::keyClick(Charts(), Qt::Key_Down);
+    Run("open"); // at the chart in force
     List()->findChild<QPushButton *>(u"Cmd_Submit"_s)->click();
     QVERIFY(Find<QRadioButton>("Opt_AM")->isChecked());
     QVERIFY(!remark->text().isEmpty());
@@ -309,6 +452,7 @@ void BirthDialogTest::SavedChartIsFoundChangedAndDeleted() {
     deleteAnswering(QMessageBox::No, "mnuDelete");
     QCOMPARE(First("select count(*) from ChartSave"), u"2"_s);
     deleteAnswering(QMessageBox::Yes, "delete");
+    QVERIFY(Label("label_chart").startsWith(u"The saved chart has gone"_s));
     QCOMPARE(answer.Text(), u"Successfully Deleted"_s);
     QCOMPARE(answer.Count(), told + 1);
     QCOMPARE(First("select group_concat(ChartName) from ChartSave"), u"Uma~14-Jul-1965"_s);
@@ -338,6 +482,7 @@ void BirthDialogTest::MasterComesAndGoes() {
     Find<QPushButton>("cmdadd")->setFocus();
     Key(Qt::Key_Return);
     QCOMPARE(wanted.count(), 1);
+    QCOMPARE(wanted.front().front().toInt(), 101); // the country of the form
     QVERIFY(!form_->isVisible());
     form_->ReturnFromMaster();
     QVERIFY(form_->isVisible());

@@ -414,7 +414,8 @@ void DialogsTest::EveryNoticeNamesAFieldOfItsDialog() {
     };
     Horoscope horoscope(connection_, display_);
     UserSettings settings(folder_->settings);
-    hasField(BirthDialog(horoscope, settings), birthRules);
+    DiscardedBirths discarded;
+    hasField(BirthDialog(horoscope, settings, discarded), birthRules);
     hasField(IshtaGhatiDialog(horoscope), clockTimeRules);
     hasField(BirthTimeDialog(horoscope), ghatiRules);
     const PreferencesDialog preferences(horoscope);

@@ -106,6 +106,19 @@ void MenuTest::MenusWaitForTheDatabase() {
         QVERIFY(!Action(name)->isEnabled());
     }
     QVERIFY(Action("mdiHelpmnu")->isEnabled());
+    // The keys are off with their menus; those of the views are not.
+    window_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(window_.get()));
+    QTest::keyClick(window_.get(), Qt::Key_N, Qt::ControlModifier);
+    QTest::keyClick(window_.get(), Qt::Key_2, Qt::ControlModifier);
+    QVERIFY(Find("frm_OpenChart") == nullptr);
+    QVERIFY(Find("frm_rasi")->isVisible());
+    QTest::keyClick(window_.get(), Qt::Key_P, Qt::ControlModifier);
+    // Whatever asks for the database is told each time.
+    for (int time = 2; time <= 3; ++time) {
+        window_->Guard([] { QFAIL("There is no database."); });
+        QCOMPARE(watch.names.size(), time);
+    }
 }
 
 void MenuTest::EveryEntryOpensItsWindow() {
@@ -172,6 +185,10 @@ void MenuTest::KeysServeTheForms() {
     QCOMPARE(window_->focusWidget()->objectName(), QStringLiteral("CoPrt"));
     QTest::keyClick(window_.get(), Qt::Key_N, Qt::ControlModifier);
     QCOMPARE(QApplication::activeModalWidget()->objectName(), QStringLiteral("frm_OpenChart"));
+    QTest::keyClicks(QApplication::activeModalWidget()->focusWidget(), QStringLiteral("Uma"));
+    QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    QTest::keyClick(window_.get(), Qt::Key_N, Qt::ControlModifier);
+    QVERIFY(QApplication::activeModalWidget()->findChild<QWidget *>("cmdBringBack")->isVisible());
     QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
     {
         // Both the list of charts and the form behind it are left with Escape.
