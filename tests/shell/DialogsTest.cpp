@@ -100,7 +100,8 @@ void DialogsTest::ANewPlaceServesAtOnce() {
     MessageBoxAnswer answer;
     Horoscope horoscope(connection_, display_);
     UserSettings settings(folder_->settings);
-    BirthDialog birth(horoscope, settings);
+    DiscardedBirths discarded;
+    BirthDialog birth(horoscope, settings, discarded);
     const auto countries = Open<CountryDialog>();
     QCOMPARE(countries->windowTitle(), u"Country"_s);
     Type(*countries, "txtAddName", "Cote d'Ivoire");
