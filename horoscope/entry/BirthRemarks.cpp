@@ -124,10 +124,8 @@ Remark RemarkOnChart(const BirthFields &fields) {
         return {"Not saved yet"};
     }
     if (fields.savedAs.empty()) {
-        return {
-            "The saved chart has gone, Save cannot change it. To store a birth: Close, then Ctrl+N; Bring "
-            "Back fetches what is typed here.",
-            true};
+        return {"The saved chart has gone, so Save fails here. Instead: Close, Ctrl+N, Bring Back, Save.",
+                true};
     }
     const std::string_view person = Trimmed(fields.Txt_VC_ChartName);
     const std::string saved = SavedName(fields);

@@ -1,5 +1,6 @@
 #include "shell/widgets/ListedChoice.h"
 
+#include "runtime/Texts.h"
 #include "shell/widgets/Candidates.h"
 #include "shell/widgets/TextOf.h"
 #include "shell/widgets/TypeAhead.h"
@@ -13,8 +14,6 @@
 namespace kelvaro {
 
 namespace {
-
-constexpr int longestName = 255; // characters
 
 int ChosenRow(const QComboBox *box) {
     const QString text = box->currentText();
@@ -58,7 +57,7 @@ private:
 TypeAhead *Prepare(QComboBox *box, int columns) {
     constexpr int listedRows = 12;
     TypeAhead *typeAhead = TypeAhead::Serve(box);
-    box->lineEdit()->setMaxLength(longestName);
+    box->lineEdit()->setMaxLength(static_cast<int>(longestName));
     auto *view = new QListView(box);
     view->setUniformItemSizes(true);
     view->setSpacing(1);

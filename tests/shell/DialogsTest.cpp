@@ -126,6 +126,9 @@ void DialogsTest::ANewPlaceServesAtOnce() {
     QCOMPARE(Cell(Grid(*zones, "mshCity"), 0, 2), u"5.75"_s);
 
     const auto cities = Open<CityDialog>();
+    cities->StartIn(101);
+    QCOMPARE(TextIn(*cities, "cbAddCountry") + TextIn(*cities, "cbEditCountry"), u"IndiaIndia"_s);
+    cities->findChild<QComboBox *>("cbAddCountry")->lineEdit()->selectAll();
     EnterAll(*cities, {"Zub", "Nebelsbad", "47", "8", "n", "15", "36", "E"});
     QCOMPARE(answer.Text(), u"City Details Saved"_s);
     QCOMPARE(FocusIn(*cities), u"txtAddCity"_s);
