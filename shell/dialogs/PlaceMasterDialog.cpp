@@ -7,6 +7,7 @@
 #include "store/masters/CountryMaster.h"
 
 #include <QSignalBlocker>
+#include <QTabWidget>
 
 namespace kelvaro {
 
@@ -28,9 +29,15 @@ void PlaceMasterDialog::Begin(Plan plan, store::Connection &connection) {
 }
 
 void PlaceMasterDialog::StartIn(std::int32_t countryId) {
-    for (const Tab &tab : plan_.tabs) {
-        ChooseKey(tab.country, countryId);
-    }
+    ChooseKey(plan_.tabs.front().country, countryId);
+    // The rows of a large country take their time: the other tabs follow when they are looked at.
+    connect(findChild<QTabWidget *>(), &QTabWidget::currentChanged, this, [this, countryId] {
+        for (const Tab &tab : plan_.tabs) {
+            if (tab.country->isVisible() && tab.country->currentText().isEmpty()) {
+                ChooseKey(tab.country, countryId);
+            }
+        }
+    });
 }
 
 store::MasterRows PlaceMasterDialog::ShowRows(const Tab &tab) const {

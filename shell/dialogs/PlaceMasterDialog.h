@@ -19,7 +19,7 @@ class MasterGrid;
 /// the rows of the chosen one in a grid. The first adds a row, the second edits one, the third shows them.
 class PlaceMasterDialog : public MasterDialog {
 public:
-    /// Chooses a country on all tabs; nothing for 0.
+    /// Chooses a country on all tabs where none is chosen; nothing for 0.
     void StartIn(std::int32_t countryId);
 
 protected:

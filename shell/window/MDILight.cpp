@@ -115,6 +115,8 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
     } catch (const std::exception &error) {
         startFault_ = error.what();
         ShowError(this, error);
+        // Why menus are off stays in sight.
+        statusBar()->showMessage(OneLine(TextOf(startFault_)));
     }
 }
 

@@ -127,7 +127,10 @@ void DialogsTest::ANewPlaceServesAtOnce() {
 
     const auto cities = Open<CityDialog>();
     cities->StartIn(101);
+    cities->findChild<QTabWidget *>()->setCurrentIndex(1);
+    cities->findChild<QTabWidget *>()->setCurrentIndex(0);
     QCOMPARE(TextIn(*cities, "cbAddCountry") + TextIn(*cities, "cbEditCountry"), u"IndiaIndia"_s);
+    cities->findChild<QComboBox *>("cbAddCountry")->setFocus();
     cities->findChild<QComboBox *>("cbAddCountry")->lineEdit()->selectAll();
     EnterAll(*cities, {"Zub", "Nebelsbad", "47", "8", "n", "15", "36", "E"});
     QCOMPARE(answer.Text(), u"City Details Saved"_s);
