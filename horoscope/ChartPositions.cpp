@@ -58,23 +58,24 @@ std::string LackText(Moment date, SunEvents::Lack lack) {
         return {};
     }
     return std::string("The Sun does not ").append(lack == SunEvents::Lack::Sunset ? "set" : "rise") +
-           " at this place on " + MonthNameDateText(date) + ", or for less than two hours.";
+           " here on " + MonthNameDateText(date) + ", or for under two hours.";
 }
 
 /// What stands in the place of a missing sunset.
 std::string CarriedSunset(Moment sunset) {
-    return sunset == Moment() ? "midnight of " + MonthNameDateText(sunset) + ", as no sunset was found before"
+    return sunset == Moment() ? "midnight of " + MonthNameDateText(sunset) + ", no sunset being known"
                               : "the sunset of " + MonthNameMomentText(sunset);
 }
 
 /// Of a date whose sunset, its own or another day's, is `sunset`. Empty where it is its own, as the sunrise.
+/// As short as can be, for a small window's status bar.
 std::string RemarkOn(Moment date, const SunEvents &events, Moment sunset) {
-    std::string taken = events.rises ? "" : "the sunrise of a later day";
+    std::string taken = events.rises ? "" : "a later day's sunrise";
     if (!events.sets) {
         taken.append(taken.empty() ? "" : ", ")
-            .append(events.sunset ? "the sunset of a later day" : CarriedSunset(sunset));
+            .append(events.sunset ? "a later day's sunset" : CarriedSunset(sunset));
     }
-    return taken.empty() ? taken : LackText(date, events.lack) + " Taken instead: " + taken + ".";
+    return taken.empty() ? taken : LackText(date, events.lack) + " Taken: " + taken + ".";
 }
 
 /// The first remark on the dates that the limits of the day were found for.
@@ -86,7 +87,7 @@ std::string SunRemarkOn(Moment birth, const DayOfBirth &day, const Site &site, S
     const Moment next = DateAdd(Interval::Day, 1, day.DayCurrentDate);
     const SunEvents &eventsOfNext = sunTimes.EventsOf(next, site);
     if (remark.empty() && !eventsOfNext.rises) {
-        remark = LackText(next, eventsOfNext.lack) + " Taken instead: the sunrise of a later day.";
+        remark = LackText(next, eventsOfNext.lack) + " Taken: a later day's sunrise.";
     }
     return remark;
 }

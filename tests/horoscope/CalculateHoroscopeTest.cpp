@@ -129,8 +129,7 @@ TEST_F(CalculateHoroscopeTest, TellsWhatStandsInThePlaceOfASunset) {
     EXPECT_EQ(display.failedStep, "Rasi positions");
     EXPECT_EQ(
         display.failure,
-        "The Sun does not set at this place on 16/Jun/1995, or for less than two hours. No sunset near it is "
-        "known.");
+        "The Sun does not set here on 16/Jun/1995, or for under two hours. No sunset near it is known.");
 
     display.failure.clear();
     SetBirth(MomentOf({1995, 6, 14}, {12, 0, 0}));
@@ -139,10 +138,8 @@ TEST_F(CalculateHoroscopeTest, TellsWhatStandsInThePlaceOfASunset) {
     SetBirth(MomentOf({1995, 6, 16}, {12, 0, 0}));
     CalculateHoroscope(horoscope);
     EXPECT_EQ(display.failure, "");
-    EXPECT_EQ(
-        display.remark,
-        "The Sun does not set at this place on 16/Jun/1995, or for less than two hours. Taken instead: the "
-        "sunset of 14/Mar/1996 07:27 PM.");
+    EXPECT_EQ(display.remark, "The Sun does not set here on 16/Jun/1995, or for under two hours. Taken: the "
+                              "sunset of 14/Mar/1996 07:27 PM.");
 }
 
 // Each in a program just started, which has no earlier sunset to go on from.
