@@ -200,8 +200,8 @@ void DasaView::FillSections() {
     }
 }
 
-/// Those of the present date, each with its section and its dates.
-QStringList DasaView::TodaysPeriods() const {
+/// Those of the present date, each with its section and, behind a blank or a line break, its dates.
+QStringList DasaView::TodaysPeriods(QChar space) const {
     struct Level {
         QString name;
         Periods periods;
@@ -221,28 +221,34 @@ QStringList DasaView::TodaysPeriods() const {
                                   ? QString()
                                   : tr(" in %1").arg(QString::fromStdString(
                                         level.grid.sections.at(static_cast<std::size_t>(section)).title));
-        texts << QStringLiteral("%1 %2%3 (%4 \u2013 %5)")
-                     .arg(level.name, QString::fromStdString(period.lordName), where,
+        texts << QStringLiteral("%1 %2%3%4(%5 \u2013 %6)")
+                     .arg(level.name, QString::fromStdString(period.lordName), where, space,
                           QString::fromStdString(MonthNameDateText(period.start)),
                           QString::fromStdString(MonthNameDateText(period.end)));
     }
     return texts;
 }
 
-/// One line where the width allows it, otherwise a line for each period.
+/// One line where the width allows it, otherwise a line for each period, and in a narrow window two.
 QString DasaView::TodayText(int width) const {
     if (form_.dasas.empty()) {
         return {};
     }
     const QString date = QString::fromStdString(MonthNameDateText(today_));
-    QStringList periods = TodaysPeriods();
-    if (periods.isEmpty()) {
+    if (TodaysPeriods(u' ').isEmpty()) {
         return tr("%1 lies outside the periods").arg(date);
     }
-    periods.front().prepend(date + QStringLiteral(":  "));
-    const QString line = periods.join(QStringLiteral("   \u00b7   "));
-    const bool fits = QFontMetrics(todayLine_->font()).horizontalAdvance(line) <= width;
-    return fits ? line : periods.join(u'\n');
+    const auto text = [&](const QString &between, QChar space) {
+        return date + QStringLiteral(":  ") + TodaysPeriods(space).join(between);
+    };
+    const QFontMetrics metrics(todayLine_->font());
+    for (const QString &each :
+         {text(QStringLiteral("   \u00b7   "), u' '), text(QStringLiteral("\n"), u' ')}) {
+        if (metrics.size(0, each).width() <= width) {
+            return each;
+        }
+    }
+    return text(QStringLiteral("\n"), u'\n');
 }
 
 void DasaView::ChooseToday() {
@@ -347,7 +353,9 @@ void DasaView::LayOut() {
     }
     const int word = QFontMetrics(roomy).horizontalAdvance(todayButton_->text());
     todayButton_->setMinimumWidth(qRound(word * buttonWidth));
-    todayLine_->setText(TodayText(width() - 2 * margin));
+    // The scroll bar that a low window has stands beside it.
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    todayLine_->setText(TodayText(scroll_->maximumViewportSize().width() - 2 * margin - bar));
 
     const double points = font().pointSizeF();
     const int before = listsBeside_;

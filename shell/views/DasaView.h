@@ -47,7 +47,7 @@ private:
     void LayOut();
     int LinesOfLists() const { return (listCount + listsBeside_ - 1) / listsBeside_; }
     QSize RoomForLists() const;
-    QStringList TodaysPeriods() const;
+    QStringList TodaysPeriods(QChar space) const;
     QString TodayText(int width) const;
 
     DasaForm form_;

@@ -42,14 +42,14 @@ GridView::GridView(const GridWindow &window, QWidget *parent)
       scroll_(new QScrollArea),
       grids_(NewGrids(window.grids, window.title), GridGroup::Order::Below, fontSizes) {
     setAccessibleName(QString::fromLatin1(window.title));
-    auto *content = new QWidget;
-    auto *rows = new QVBoxLayout(content);
+    auto *rows = new QVBoxLayout(new QWidget);
+    scroll_->setWidget(rows->parentWidget());
     rows->setContentsMargins(margin, margin, margin, margin);
     rows->setSpacing(distance);
-    rows->addWidget(heading_);
+    AddLine(heading_);
     for (std::size_t i = 0; i < window_.grids.size(); ++i) {
         if (*window_.grids.at(i).caption != '\0') {
-            rows->addWidget(CaptionLabel(QString::fromLatin1(window_.grids.at(i).caption)));
+            AddLine(CaptionLabel(QString::fromLatin1(window_.grids.at(i).caption)));
         }
         rows->addWidget(grids_.Grids().at(i), 0, Qt::AlignHCenter);
     }
@@ -57,15 +57,21 @@ GridView::GridView(const GridWindow &window, QWidget *parent)
         auto *note = new QLabel(QString::fromLatin1(window_.note));
         note->setWordWrap(true);
         note->setAlignment(Qt::AlignCenter);
-        rows->addWidget(note);
+        AddLine(note);
     }
     rows->addStretch();
-    scroll_->setWidget(content);
     scroll_->setWidgetResizable(true);
     scroll_->setFrameShape(QFrame::NoFrame);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(scroll_);
+}
+
+/// Adds a line of text. It stays within the window where the grids are wider.
+void GridView::AddLine(QLabel *line) {
+    scroll_->widget()->layout()->addWidget(line);
+    scroll_->widget()->layout()->setAlignment(line, Qt::AlignLeft);
+    lines_.push_back(line);
 }
 
 void GridView::Refresh(const Horoscope &horoscope) {
@@ -82,17 +88,12 @@ void GridView::resizeEvent(QResizeEvent *event) {
 }
 
 QSize GridView::RoomForGrids() const {
-    const QLayout *rows = scroll_->widget()->layout();
     QSize room = scroll_->maximumViewportSize() - QSize(2 * margin, 2 * margin);
-    int others = 0;
-    for (int i = 0; i < rows->count(); ++i) {
-        const QWidget *widget = rows->itemAt(i)->widget();
-        if (widget != nullptr && qobject_cast<const QTableView *>(widget) == nullptr) {
-            others += (widget->hasHeightForWidth() ? widget->heightForWidth(room.width())
-                                                   : widget->sizeHint().height());
-        }
+    for (const QLabel *line : lines_) {
+        room.rheight() -=
+            line->hasHeightForWidth() ? line->heightForWidth(room.width()) : line->sizeHint().height();
     }
-    room.rheight() -= others + rows->count() * distance;
+    room.rheight() -= scroll_->widget()->layout()->count() * distance;
     if (grids_.LeastSize(font().pointSizeF()).height() > room.height()) {
         room.rwidth() -= style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     }
@@ -101,7 +102,11 @@ QSize GridView::RoomForGrids() const {
 
 void GridView::LayOut() {
     scroll_->widget()->setFont(RoomyFont(linesOfContent, lettersOfContent));
-    grids_.LayOut(font().pointSizeF(), RoomForGrids());
+    const QSize room = RoomForGrids();
+    for (QLabel *line : lines_) {
+        line->setFixedWidth(room.width());
+    }
+    grids_.LayOut(font().pointSizeF(), room);
 }
 
 } // namespace kelvaro

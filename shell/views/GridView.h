@@ -36,12 +36,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void AddLine(QLabel *line);
     void LayOut();
     /// Too low a window is scrolled, and the scroll bar takes some of the width.
     QSize RoomForGrids() const;
 
     GridWindow window_;
     ViewHeading *heading_;
+    std::vector<QLabel *> lines_; ///< all texts but the grids
     QScrollArea *scroll_;
     GridGroup grids_;
 };
