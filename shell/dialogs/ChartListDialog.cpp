@@ -6,6 +6,7 @@
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/ShownText.h"
+#include "shell/widgets/SpokenNames.h"
 #include "shell/widgets/TextOf.h"
 #include "store/charts/ChartStore.h"
 #include "ui_ChartListDialog.h"
@@ -18,6 +19,7 @@ ChartListDialog::ChartListDialog(store::Connection &connection, QWidget *parent)
     : QDialog(parent), connection_(connection), controls_(std::make_unique<Ui::Frm_RetriveBirthData>()) {
     controls_->setupUi(this);
     DressButtons(*this);
+    NameFields(*this);
     QListWidget *list = controls_->List_VC_ChartName;
     list->installEventFilter(this);
     list->viewport()->installEventFilter(this);

@@ -1,3 +1,4 @@
+#include "shell/dialogs/ChartListDialog.h"
 #include "shell/window/HoroscopeViews.h"
 #include "tests/shell/MainWindowCase.h"
 
@@ -102,6 +103,8 @@ void ReadAloudTest::EveryFieldOfTheDialogs() {
         QTRY_VERIFY(QApplication::activeModalWidget() == nullptr);
     }
     QCOMPARE(dialogs, 8);
+    const ChartListDialog charts(window_->HoroscopeInForce().connection);
+    ExpectNamedFields(charts);
 }
 
 QTEST_MAIN(ReadAloudTest)
