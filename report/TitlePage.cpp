@@ -112,7 +112,7 @@ void AddOwner(store::Connection &connection, TitleLines &lines) {
     bool startsLine = true;
     for (const OwnerField &field : ownerFields) {
         startsLine = startsLine || field.startsLine;
-        const std::string stored = owner.Text(field.field);
+        const std::string stored = owner.Line(field.field);
         const std::string_view text = Trimmed(stored);
         if (text.empty()) {
             continue;

@@ -6,6 +6,7 @@
 #include "store/database/Dialect.h"
 #include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
+#include "store/database/RowNumbers.h"
 
 #include <algorithm>
 #include <array>
@@ -105,6 +106,7 @@ SavedOrNot ChartStore::SC_SaveChart(const ChartToSave &chart) {
             false,
             {"Chart Name Already Used , Enter Another Name", Notice::Icon::Information, "Txt_SC_ChartName"}};
     }
+    BringNumbersBack("ChartSave", "Sno", connection_);
     connection_.Execute(InsertOf(chart));
     return {true, {"Chart Successfully Saved"}};
 }

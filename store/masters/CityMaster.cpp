@@ -6,6 +6,7 @@
 #include "store/database/Dialect.h"
 #include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
+#include "store/database/RowNumbers.h"
 
 #include <algorithm>
 
@@ -127,6 +128,7 @@ Outcome CityMaster::Add(const CityFields &fields) {
     if (auto notice = FirstBroken(cityAddRanges, fields)) {
         return {false, *notice};
     }
+    BringNumbersBack("City_Master", "CityID", connection_);
     connection_.Execute(InsertOf(fields));
     return {true, {"City Details Saved", Notice::Icon::Information, nameOfNewCity}};
 }

@@ -5,6 +5,7 @@
 #include "store/database/Dialect.h"
 #include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
+#include "store/database/RowNumbers.h"
 
 #include <algorithm>
 #include <string>
@@ -70,6 +71,7 @@ Outcome CountryMaster::Add(std::string_view name) {
     if (auto notice = FirstBroken(countryAddRules, CountryName{connection_, trimmed, {}})) {
         return {false, *notice};
     }
+    BringNumbersBack("Country_Master", "CountryID", connection_);
     connection_.Execute("insert into Country_Master([CountryName],[TimeZoneID]) values (" + Quoted(trimmed) +
                         ",'')");
     return {true, {"Details Saved", Notice::Icon::Information, newName}};

@@ -4,6 +4,7 @@
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
 #include "store/database/Recordset.h"
+#include "store/database/RowNumbers.h"
 
 #include <cmath>
 
@@ -70,6 +71,7 @@ void Insert(const ZoneFields &fields, Connection &connection) {
         Quoted(Trimmed(fields.place)) + "," + NumberText(OffsetOf(fields)) + "," + Quoted(fields.direction);
     // A zone that no country lists could never be chosen.
     Transaction together(connection);
+    BringNumbersBack("TimeZone", "SNo", connection);
     connection.Execute("insert into TimeZone([Place],[TimeDifference],[TimeZone]) values (" + values + ")");
     AppendToCountry(fields.countryId, NewestZone(connection), connection);
     together.Commit();

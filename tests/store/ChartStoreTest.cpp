@@ -55,6 +55,12 @@ TEST_F(ChartStoreTest, ABadRowSpoilsItselfOnly) {
     const std::vector<ListItem> list = charts_.fnFillChart("All").List_VC_ChartName;
     ASSERT_EQ(list.size(), 2U);
     EXPECT_TRUE(told.starts_with("Left out: 1 of the saved charts in the database cannot be read.")) << told;
+    // A chart that is saved beside it gets a number that can be read, and so does that one then.
+    EXPECT_TRUE(charts_.SC_SaveChart(SampleChart("Zubin")).isSaved);
+    EXPECT_EQ(charts_.NewestNumber(), 5);
+    EXPECT_EQ(First("select group_concat(Sno || substr(ChartName, 1, 1), ' ') from (select * from ChartSave "
+                    "order by Sno)"),
+              "10 3V 4U 5Z");
     // The name is shortened, and the date behind it and the chart's number are there.
     EXPECT_EQ(list.front(), (ListItem{std::string(254, '0') + "…~4-Jul-1965", 1}));
     StoredChart chart = charts_.Read(1);
