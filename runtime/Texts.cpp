@@ -43,10 +43,10 @@ std::size_t CharactersIn(std::string_view text) {
     return static_cast<std::size_t>(std::ranges::count_if(text, BeginsCharacter));
 }
 
-std::string OneLine(std::string_view text) {
-    std::string line(text.substr(0, BytesOf(text, longestName)));
+std::string OneLine(std::string_view text, std::size_t most) {
+    std::string line(text.substr(0, BytesOf(text, most)));
     if (line.size() < text.size()) {
-        line.resize(BytesOf(line, longestName - 1));
+        line.resize(BytesOf(line, most - 1));
         line += "…";
     }
     std::ranges::replace_if(

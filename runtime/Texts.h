@@ -27,8 +27,8 @@ inline constexpr std::size_t longestName = 255;
 /// How many characters a text in UTF-8 has.
 std::size_t CharactersIn(std::string_view text);
 
-/// A text as one line for the screen or the page: signs of control are blanks, and of a text that is longer
-/// than a name may be the last character shown is an ellipsis.
-std::string OneLine(std::string_view text);
+/// A text as one line for the screen or the page: signs of control are blanks, and an ellipsis is the last of
+/// the characters that are shown of a longer text.
+std::string OneLine(std::string_view text, std::size_t most = longestName);
 
 } // namespace kelvaro

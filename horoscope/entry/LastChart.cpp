@@ -115,7 +115,7 @@ std::string RestoreLastChart(SettingsStore &settings, HoroscopeState &state) {
     try {
         settings.RequireReadable();
         LastChart chart = LastChartIn(settings);
-        std::ranges::transform(chart, chart.begin(), OneLine);
+        std::ranges::transform(chart, chart.begin(), [](const std::string &text) { return OneLine(text); });
         PutInForce(chart, state);
         return {};
     } catch (const RuntimeError &error) {

@@ -104,7 +104,8 @@ std::string RowIsDamaged(std::string_view statement, const std::filesystem::path
     }
     std::string text = "One of ";
     text.append(subject.rows).append(" in the database is damaged. The others can still be used. ");
-    return WithDetails(text.append(Advice(file)), details);
+    text.append("Enter it anew; a backup copy of the database file ").append(file.string());
+    return WithDetails(text.append(" may have it as it was. "), details);
 }
 
 std::string RowHasGone(std::string_view statement, const std::filesystem::path &file) {

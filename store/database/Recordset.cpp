@@ -283,9 +283,10 @@ void Recordset::FailForTable(const std::string &details) const {
 }
 
 void Recordset::FailForValue(std::size_t field) const {
+    constexpr std::size_t longestQuote = 40;
     const Row &row = PresentRow();
     std::string details =
-        names_[field] + (IsNull(field) ? " is empty" : " is \"" + OneLine(Text(field)) + "\"");
+        names_[field] + (IsNull(field) ? " is empty" : " is \"" + OneLine(Text(field), longestQuote) + "\"");
     if (!table_.empty()) {
         details += " in row " + std::to_string(row.key);
     }

@@ -72,9 +72,9 @@ TEST_F(ChartStoreTest, ABadRowSpoilsItselfOnly) {
     connection_.Execute("update ChartSave set ChartDay = null where Sno = 1");
     EXPECT_EQ(
         ErrorOf([&] { charts_.Read(1); }),
-        "One of the saved charts in the database is damaged. The others can still be used. Put a backup "
-        "copy of the database file " +
-            file_.string() + " in its place. Details: ChartDay is empty in row 1.");
+        "One of the saved charts in the database is damaged. The others can still be used. Enter it anew; a "
+        "backup copy of the database file " +
+            file_.string() + " may have it as it was. Details: ChartDay is empty in row 1.");
     charts_.Delete(1);
     EXPECT_EQ(ErrorOf([&] { charts_.Read(1); }),
               "What is asked for is no longer among the saved charts in the database. Choose it anew.");
