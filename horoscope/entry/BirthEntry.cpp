@@ -28,7 +28,7 @@ void EmptyPlace(BirthFields &fields) {
 
 /// Country, city and zone have two rules each. The second keeps a typed text that names no row from going
 /// with the place or the offset of another one, and is told before what depends on the field.
-constexpr std::array<Rule<BirthFields>, 16> birthRules{{
+constexpr std::array<Rule<BirthFields>, 17> birthRules{{
     {LacksText<&BirthFields::Txt_VC_ChartName>, "Enter Name", "Txt_VC_ChartName"},
     {LacksText<&BirthFields::txt_Date>, "Enter Date of Birth", "txt_Date"},
     {LacksText<&BirthFields::txt_Month>, "Enter Month", "txt_Month"},
@@ -47,6 +47,7 @@ constexpr std::array<Rule<BirthFields>, 16> birthRules{{
     {[](const BirthFields &f) { return f.txt_VC_City != f.chosen.city; }, "Select City", "txt_VC_City"},
     {LacksText<&BirthFields::cbTimeZone>, "Select Timezone", "cbTimeZone"},
     {[](const BirthFields &f) { return f.cbTimeZone != f.chosen.zone; }, "Select Timezone", "cbTimeZone"},
+    {IsTooLong<&BirthFields::Txt_VC_ChartName>, nameTooLong, "Txt_VC_ChartName"},
 }};
 
 constexpr std::span<const Rule<BirthFields>> dateRules = std::span(birthRules).subspan(1, 5);

@@ -106,7 +106,7 @@ Site SiteOf(const BirthFields &fields);
 
 /// The rules of the fields, in their order. They raise ConversionError, which names the field, for a year, an
 /// hour or a minute that is no number.
-extern const std::array<Rule<BirthFields>, 16> birthRules;
+extern const std::array<Rule<BirthFields>, 17> birthRules;
 extern const std::span<const Rule<BirthFields>> dateRules; ///< those of them that the date must keep
 extern const std::span<const Rule<BirthFields>> timeRules; ///< those of them that the clock time must keep
 

@@ -41,6 +41,9 @@ TEST_F(BirthEntryTest, RulesComeInTheirOrder) {
             {"Select Country@txt_VC_Country", &BirthFields::txt_VC_Country, {"", "Indi"}},
             {"Select City@txt_VC_City", &BirthFields::txt_VC_City, {"", "Delhi"}},
             {"Select Timezone@cbTimeZone", &BirthFields::cbTimeZone, {"", "IST"}},
+            {"A name has at most 255 characters.@Txt_VC_ChartName",
+             &BirthFields::Txt_VC_ChartName,
+             {std::string(256, 'x')}},
         },
         [this](BirthFields fields) {
             const auto notice = AcceptBirth(fields, horoscope_);
