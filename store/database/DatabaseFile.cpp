@@ -83,8 +83,11 @@ void CopyDatabase(const fs::path &from, const fs::path &to) {
             throw StoreError("The database file " + from.string() + " is locked by another program.");
         }
     } catch (...) {
-        std::error_code ignored;
-        fs::remove(unfinished, ignored);
+        // A disk too full to undo a change leaves its journal beside the file.
+        for (const char *ending : {"", "-journal"}) {
+            std::error_code ignored;
+            fs::remove(unfinished.string() + ending, ignored);
+        }
         throw;
     }
     fs::rename(unfinished, to);
