@@ -12,6 +12,7 @@ execute_process(
     ".read schema.sql"
     ".import --csv --skip 1 countries.csv Country_Master"
     ".import --csv --skip 1 cities.csv City_Master"
+    ".import --csv --skip 1 city_zones.csv CityZone"
     ".import --csv --skip 1 timezones.csv TimeZone"
     ".import --csv --skip 1 kaliyuga_years.csv KaliyugaYearDetails"
     ".import --csv --skip 1 chartsmaster.csv chartsmaster"

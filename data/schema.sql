@@ -53,6 +53,12 @@ CREATE TABLE City_Master (
 CREATE INDEX City_Master_by_name ON City_Master (CityName);
 CREATE INDEX City_Master_by_country ON City_Master (CountryID, CityName);
 
+-- Which zone of the tz database a city lies in. A city that the user adds has no row.
+CREATE TABLE CityZone (
+    CityID INTEGER PRIMARY KEY,
+    TimeZoneName TEXT -- "Asia/Kolkata"
+) STRICT;
+
 CREATE TABLE TimeZone (
     SNo INTEGER PRIMARY KEY AUTOINCREMENT,
     Place TEXT COLLATE NOCASE,

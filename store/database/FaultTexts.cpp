@@ -23,11 +23,12 @@ constexpr std::string_view chartStays = "The chart on the screen can still be re
 constexpr std::string_view viewsAreRight = "The views that are filled are right. ";
 constexpr std::string_view chartsAreSound = "The saved charts are not touched by this. ";
 
-constexpr std::array<Subject, 11> subjects{{
+constexpr std::array<Subject, 12> subjects{{
     {"ChartSave", "the saved charts", "Births can still be entered and computed. "},
     {"GChartSave", "the saved couples", "Everything else still works. "},
     {"Country_Master", "the countries", chartStays},
     {"City_Master", "the cities", chartStays},
+    {"CityZone", "the clocks of the cities", "Everything else still works. "},
     {"TimeZone", "the time zones", chartStays},
     {"Preference", "the preferences", chartsAreSound, true},
     {"PersonalDetails", "the letterhead", chartsAreSound, true},

@@ -7,6 +7,7 @@
 #include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
 #include "store/database/RowNumbers.h"
+#include "store/masters/CityZones.h"
 
 #include <algorithm>
 
@@ -42,6 +43,15 @@ constexpr std::string_view longitudeRange = "Longitude runs from 0 to 180 degree
 /// A number as it is joined into a statement.
 std::string NumberIn(const std::string &text) {
     return NumberText(NumberFromText(text));
+}
+
+bool HasMoved(const Recordset &row, const CityFields &fields) {
+    return row.Number("LatitudeDegree") != NumberFromText(fields.latDeg) ||
+           row.Number("LatitudeMinute") != NumberFromText(fields.latMin) ||
+           row.Text("Latitude_NS") != fields.latNS ||
+           row.Number("LongitudeDegree") != NumberFromText(fields.lonDeg) ||
+           row.Number("LongitudeMinute") != NumberFromText(fields.lonMin) ||
+           row.Text("Longitude_EW") != fields.lonEW;
 }
 
 std::string InsertOf(const CityFields &fields) {
@@ -164,6 +174,7 @@ Outcome CityMaster::Update(const CityFields &fields) {
     }
     Recordset row;
     row.Open("select * from City_Master where CityID = " + std::to_string(fields.cityId), connection_);
+    const bool hasMoved = HasMoved(row, fields);
     row.Assign("CityName", std::string(Trimmed(fields.city)));
     row.Assign("LatitudeDegree", NumberFromText(fields.latDeg));
     row.Assign("Latitude_NS", fields.latNS);
@@ -171,7 +182,12 @@ Outcome CityMaster::Update(const CityFields &fields) {
     row.Assign("LongitudeDegree", NumberFromText(fields.lonDeg));
     row.Assign("Longitude_EW", fields.lonEW);
     row.Assign("LongitudeMinute", NumberFromText(fields.lonMin));
+    Transaction together(connection_);
     row.Update();
+    if (hasMoved) {
+        CityZones(connection_).Forget(fields.cityId);
+    }
+    together.Commit();
     return {true, {"Successfully Updated"}};
 }
 

@@ -176,7 +176,8 @@ TEST_F(DamagedDatabaseTest, NoneIsOpenedWithoutAllItsTables) {
     EXPECT_EQ(RefusedAfter(""), std::set<std::string>{}) << "the sound one";
     std::string before;
     for (const auto &[table, column] : ColumnsOf(Sound())) {
-        if (table != std::exchange(before, table)) {
+        // A database of an earlier version has no zones of cities.
+        if (table != std::exchange(before, table) && table != "CityZone") {
             EXPECT_EQ(RefusedAfter("alter table " + table + " rename to Kept; create view " + table +
                                    " as select * from Kept")
                           .size(),
