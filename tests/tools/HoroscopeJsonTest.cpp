@@ -254,6 +254,23 @@ std::string Mutated(std::minstd_rand &random) {
 }
 
 // The readers of births are fuzzed besides; here the whole tool must keep to one answer a line.
+TEST(HoroscopeJson, ChecksTheClocksOfBirthplaces) {
+    const json chicago{{"BirthCity", "Chicago"}, {"BirthCountry", "United States"},
+                       {"BirthDay", 4},          {"BirthYear", 1990},
+                       {"TimeDiff", 6},          {"TimeDiffEW", "W"}};
+    std::string births = SampleWith(chicago).dump() + '\n';
+    births += Sample().dump() + "\nno birth\n" + SampleWith({{"BirthCity", "Chicago"}}).dump() + '\n';
+    const auto answers = AnswerLines(births, "--check-zones");
+    ASSERT_EQ(answers.size(), 4U);
+    EXPECT_EQ(answers[0],
+              R"({"zone":"America/Chicago","clock":-5.0,"summer":true,"stated":-6.0,"agrees":false,)"
+              R"("once":true,"sure":true})");
+    EXPECT_EQ(answers[1], R"({"zone":"Asia/Kolkata","clock":5.5,"summer":false,"stated":5.5,"agrees":true,)"
+                          R"("once":true,"sure":false})");
+    EXPECT_TRUE(answers[2].starts_with(R"({"error":"The line is no JSON)"));
+    EXPECT_EQ(answers[3], R"({"error":"There is no city Chicago"})");
+}
+
 TEST(HoroscopeJson, GivesEachMutatedBirthOneAnswer) {
     constexpr std::size_t lineCount = 3000;
     std::minstd_rand random(11); // NOLINT(cert-msc51-cpp): a failure can be repeated

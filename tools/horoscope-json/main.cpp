@@ -1,5 +1,6 @@
 // Reads births as JSON lines and writes the horoscope of each as one JSON line, with "--report" also as the
-// text of the printed report, antras included.
+// text of the printed report, antras included. With "--check-zones" each line tells the clocks of the
+// birthplace beside the offset that was stated.
 
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
@@ -10,6 +11,7 @@
 #include "tools/horoscope-json/BirthReader.h"
 #include "tools/horoscope-json/HoroscopeWriter.h"
 #include "tools/horoscope-json/RunStatus.h"
+#include "tools/horoscope-json/ZoneCheckWriter.h"
 
 #include <nlohmann/json.hpp>
 
@@ -17,6 +19,7 @@
 #include <exception>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -39,23 +42,48 @@ ordered_json AnswerWithReport(const kelvaro::Horoscope &horoscope) {
     return answer;
 }
 
-ordered_json Answer(std::string_view line, bool withReport, kelvaro::Horoscope &horoscope,
+enum class Wanted { Horoscope, Report, ZoneCheck };
+
+ordered_json ZoneCheck(const kelvaro::Horoscope &horoscope) {
+    try {
+        return kelvaro::ZoneCheckJson(horoscope.state, horoscope.connection);
+    } catch (const kelvaro::RuntimeError &error) {
+        return ErrorJson(error.what());
+    }
+}
+
+ordered_json Answer(std::string_view line, Wanted wanted, kelvaro::Horoscope &horoscope,
                     const kelvaro::RunStatus &status) {
     try {
         kelvaro::ReadBirth(line, horoscope.state);
     } catch (const kelvaro::BirthError &error) {
         return ErrorJson(error.what());
     }
+    if (wanted == Wanted::ZoneCheck) {
+        return ZoneCheck(horoscope);
+    }
     kelvaro::CalculateHoroscope(horoscope);
     if (status.Failure()) {
         return ErrorJson(*status.Failure());
     }
-    return withReport ? AnswerWithReport(horoscope) : kelvaro::HoroscopeJson(horoscope);
+    return wanted == Wanted::Report ? AnswerWithReport(horoscope) : kelvaro::HoroscopeJson(horoscope);
+}
+
+/// What the arguments ask for; nothing where they are not understood.
+std::optional<Wanted> WantedBy(int argc, char **argv) {
+    if (argc == 1) {
+        return Wanted::Horoscope;
+    }
+    const std::string_view option = argc == 2 ? argv[1] : "";
+    if (option == "--report") {
+        return Wanted::Report;
+    }
+    return option == "--check-zones" ? std::optional(Wanted::ZoneCheck) : std::nullopt;
 }
 
 /// One program state for the whole stream, as if the births were entered one after another. The database is a
 /// private copy in memory, so that a batch leaves the user's file alone.
-void AnswerStream(const std::filesystem::path &database, bool withReport, std::istream &births,
+void AnswerStream(const std::filesystem::path &database, Wanted wanted, std::istream &births,
                   std::ostream &answers) {
     kelvaro::RunStatus status;
     kelvaro::store::Connection connection;
@@ -71,7 +99,7 @@ void AnswerStream(const std::filesystem::path &database, bool withReport, std::i
         // What a horoscope leaves in the database is undone, so that a batch of any length stays as small.
         const kelvaro::store::Transaction undone(connection);
         // An error may quote bytes of the line that are no UTF-8.
-        answers << Answer(*line, withReport, horoscope, status)
+        answers << Answer(*line, wanted, horoscope, status)
                        .dump(-1, ' ', false, ordered_json::error_handler_t::replace)
                 << '\n';
     }
@@ -81,16 +109,15 @@ void AnswerStream(const std::filesystem::path &database, bool withReport, std::i
 } // namespace
 
 int main(int argc, char **argv) {
-    const bool withReport = argc == 2 && std::string_view(argv[1]) == "--report";
-    if (argc > 1 && !withReport) {
-        std::cerr << "usage: " << argv[0] << " [--report] < births.jsonl > horoscopes.jsonl\n";
+    const auto wanted = WantedBy(argc, argv);
+    if (!wanted) {
+        std::cerr << "usage: " << argv[0] << " [--report | --check-zones] < births.jsonl > answers.jsonl\n";
         return EXIT_FAILURE;
     }
     try {
         std::ios::sync_with_stdio(false);
         const auto program = std::filesystem::canonical("/proc/self/exe");
-        AnswerStream(program.parent_path() / kelvaro::store::databaseFileName, withReport, std::cin,
-                     std::cout);
+        AnswerStream(program.parent_path() / kelvaro::store::databaseFileName, *wanted, std::cin, std::cout);
         if (!std::cout) {
             std::cerr << "horoscope-json: the answers could not be written\n";
             return EXIT_FAILURE;
