@@ -2,6 +2,7 @@
 
 #include "horoscope/entry/BirthRemarks.h"
 #include "shell/widgets/FormKeys.h"
+#include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/ListedChoice.h"
 #include "shell/widgets/ShownText.h"
 #include "shell/widgets/TextOf.h"
@@ -21,6 +22,7 @@ namespace {
 using Form = Ui::frm_OpenChart;
 
 constexpr int remarkColumns = 30;
+constexpr qsizetype longestRemark = 500; // characters
 constexpr QColor warningColour(255, 230, 120);
 
 struct BoxOfField {
@@ -57,7 +59,7 @@ void SetOff(QLabel *label, bool isSetOff) {
 /// Says something beside the fields. Who hears the form instead of seeing it hears a warning at once, and the
 /// other words with the controls that they belong to.
 void Say(QLabel *label, const Remark &remark, std::initializer_list<QWidget *> controls) {
-    const QString text = OneLine(TextOf(remark.text));
+    const QString text = OneLine(TextOf(remark.text), longestRemark);
     if (label->text() == text) {
         return;
     }
@@ -110,6 +112,8 @@ void PrepareControls(const QWidget &window, Form &form) {
     form.label_remark->setMinimumSize(remarkColumns * letters.averageCharWidth(), twoLines);
     form.label_chart->setMinimumHeight(twoLines + 2 * form.label_chart->margin());
     form.label_understood->setMinimumHeight(twoLines);
+    form.label_clock->setMinimumHeight(3 * letters.lineSpacing() + 2 * form.label_clock->margin());
+    form.cmdTakeZone->setIcon(HouseIcon("zone"));
     QPalette shown = window.palette();
     shown.setColor(QPalette::Base, shown.color(QPalette::Window));
     form.txtLatDetails->setPalette(shown);
@@ -153,6 +157,17 @@ void ShowRemarks(const BirthFields &fields, const DiscardedBirths &discarded, Fo
     form.cmdBringBack->setVisible(next != nullptr);
     Say(form.label_discarded, {next == nullptr ? "" : "Not saved: " + NameOfBirth(*next)},
         {form.cmdBringBack});
+}
+
+void ShowClock(const std::optional<ClockAdvice> &advice, Form &form) {
+    const bool hasWayOut = advice && (advice->zoneNumber || advice->newZone);
+    form.cmdTakeZone->setVisible(hasWayOut);
+    if (hasWayOut) {
+        form.cmdTakeZone->setText(advice->zoneNumber ? QObject::tr("&Use This Zone")
+                                                     : QObject::tr("&Add This Zone..."));
+    }
+    Say(form.label_clock, advice ? Remark{advice->text, advice->isWarning} : Remark(),
+        {form.cbTimeZone, form.cmdTakeZone});
 }
 
 QWidget *FieldAfter(QWidget *field, const Form &form) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "horoscope/entry/BirthplaceClock.h"
 #include "horoscope/entry/DiscardedBirths.h"
 
 class QComboBox;
@@ -35,6 +36,10 @@ void ShowFields(const BirthFields &fields, Ui::frm_OpenChart &form);
 /// time and the saved chart, the birth as it is understood, and the typing that can be brought back. The
 /// fields hold what the form remembers beside the texts.
 void ShowRemarks(const BirthFields &fields, const DiscardedBirths &discarded, Ui::frm_OpenChart &form);
+
+/// What the records say of the clock of the birthplace, and the button that takes their advice. Nothing
+/// stands there where there is none.
+void ShowClock(const std::optional<ClockAdvice> &advice, Ui::frm_OpenChart &form);
 
 /// Where Enter goes from a field, past the buttons that only the Tab key comes to; null from a control that
 /// is no field.

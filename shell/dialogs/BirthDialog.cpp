@@ -3,12 +3,14 @@
 #include "horoscope/Horoscope.h"
 #include "horoscope/entry/BirthStorage.h"
 #include "runtime/Now.h"
+#include "runtime/RuntimeError.h"
 #include "shell/dialogs/BirthControls.h"
 #include "shell/dialogs/BirthPlaces.h"
 #include "shell/dialogs/ChartListDialog.h"
 #include "shell/widgets/FieldFocus.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
+#include "shell/widgets/ListedChoice.h"
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/SpokenNames.h"
 #include "shell/widgets/TextOf.h"
@@ -29,7 +31,7 @@ BirthDialog::BirthDialog(Horoscope &horoscope, SettingsStore &settings, Discarde
                          QWidget *parent)
     : QDialog(parent), horoscope_(horoscope), settings_(settings), discarded_(discarded),
       fields_(FieldsAtLoad(Now())), controls_(std::make_unique<Ui::frm_OpenChart>()),
-      places_(std::make_unique<BirthPlaces>(*controls_, fields_, horoscope)) {
+      places_(std::make_unique<BirthPlaces>(*controls_, fields_, horoscope)), clock_(horoscope.connection) {
     controls_->setupUi(this);
     firstField_ = controls_->Txt_VC_ChartName;
     BuildMenu();
@@ -110,7 +112,7 @@ void BirthDialog::ConnectFields() {
     const auto on = [this](auto *sender, auto signal, void (BirthPlaces::*take)()) {
         connect(sender, signal, this, [this, take] {
             Guard([this, take] { (places_.get()->*take)(); });
-            ShowRemarks(fields_, discarded_, *controls_);
+            ShowAllRemarks();
         });
     };
     const auto picked = &QComboBox::activated;
@@ -122,12 +124,13 @@ void BirthDialog::ConnectFields() {
     on(controls_->txt_VC_City->lineEdit(), left, &BirthPlaces::TakeCity);
     on(controls_->cbTimeZone->lineEdit(), left, &BirthPlaces::TakeZone);
 
-    const auto remark = [this] { ShowRemarks(fields_, discarded_, *controls_); };
+    const auto remark = [this] { ShowAllRemarks(); };
     for (const QComboBox *box : controls_->page->findChildren<QComboBox *>()) {
         connect(box, &QComboBox::currentTextChanged, this, remark);
     }
     connect(controls_->Txt_VC_ChartName, &QLineEdit::textChanged, this, remark);
     connect(controls_->Opt_PM, &QRadioButton::toggled, this, remark);
+    connect(controls_->cmdTakeZone, &QPushButton::clicked, this, &BirthDialog::TakeClock);
     connect(controls_->cmdBringBack, &QPushButton::clicked, this, &BirthDialog::BringBack);
     connect(controls_->cmdSave, &QPushButton::clicked, this, &BirthDialog::Confirm);
     connect(controls_->CMDCANCEl, &QPushButton::clicked, this, &BirthDialog::reject);
@@ -162,7 +165,38 @@ void BirthDialog::Tell(const Notice &notice) {
 
 void BirthDialog::ShowAll() {
     ShowFields(fields_, *controls_);
+    ShowAllRemarks();
+}
+
+void BirthDialog::ShowAllRemarks() {
     ShowRemarks(fields_, discarded_, *controls_);
+    BirthFields present = fields_;
+    ReadControls(*controls_, present);
+    try {
+        clockAdvice_ = clock_.Advice(present);
+    } catch (const RuntimeError &error) {
+        // No box: the remark follows every key.
+        clockAdvice_ = ClockAdvice{error.what()};
+    }
+    ShowClock(clockAdvice_, *controls_);
+}
+
+/// The chosen zone gives way to the one of the records only here, at the user's wish.
+void BirthDialog::TakeClock() {
+    Guard([this] {
+        const auto [text, isWarning, zoneNumber, newZone] = clockAdvice_.value_or(ClockAdvice());
+        if (zoneNumber) {
+            ChooseKey(controls_->cbTimeZone, *zoneNumber);
+            places_->PickZone();
+            ShowAllRemarks();
+            FocusOn(controls_->cbTimeZone);
+        } else if (newZone) {
+            TakePlaces();
+            firstField_ = controls_->cbTimeZone;
+            hide();
+            emit NewZoneWanted(*newZone);
+        }
+    });
 }
 
 void BirthDialog::Show(const PlaceChoices &choices) {
@@ -174,7 +208,7 @@ void BirthDialog::Show(const PlaceChoices &choices) {
 void BirthDialog::Settle() {
     ReadControls(*controls_, fields_);
     settled_ = fields_;
-    ShowRemarks(fields_, discarded_, *controls_);
+    ShowAllRemarks();
 }
 
 void BirthDialog::KeepTyping() {
@@ -233,7 +267,7 @@ void BirthDialog::Save() {
         Tell(outcome.notice);
     });
     // A save that fails can have found that the chart has gone.
-    ShowRemarks(fields_, discarded_, *controls_);
+    ShowAllRemarks();
 }
 
 void BirthDialog::OpenList() {
@@ -263,7 +297,9 @@ void BirthDialog::OpenChart(const store::ListItem &chart) {
         fields_ = opened.fields;
         Show(opened.choices);
         Settle();
-        chartList_->hide();
+        if (chartList_ != nullptr) {
+            chartList_->hide();
+        }
         PassOverSecondClick();
         FocusOn(controls_->Txt_VC_ChartName);
     });
@@ -327,6 +363,7 @@ void BirthDialog::AskMaster(QWidget *returnTo, void (BirthDialog::*wanted)(std::
 
 void BirthDialog::ReturnFromMaster() {
     Guard([this] { places_->ListAnew(); });
+    clock_.Forget();
     ShowAll();
     show();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "horoscope/entry/BirthClock.h"
 #include "horoscope/entry/DiscardedBirths.h"
 
 #include <QDialog>
@@ -7,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class frm_OpenChart;
@@ -36,6 +38,8 @@ public:
     void New();
     void OpenList();
     void Save();
+    /// Puts a saved chart onto the form.
+    void OpenChart(const store::ListItem &chart);
 
     /// Shows the form again with what stood on it, and with the lists of places as a master has left them.
     void ReturnFromMaster();
@@ -48,6 +52,8 @@ signals:
     void CityMasterWanted(std::int32_t countryId);
     /// The form has hidden itself to make room for the master of time zones.
     void TimeZoneMasterWanted(std::int32_t countryId);
+    /// The same, to add a zone that the records tell.
+    void NewZoneWanted(const kelvaro::store::ZoneFields &zone);
     /// The user is done with the form.
     void Closed();
 
@@ -65,6 +71,8 @@ private:
     void Guard(const std::function<void()> &work);
     void Tell(const Notice &notice);
     void ShowAll();
+    void ShowAllRemarks();
+    void TakeClock();
     void Settle();
     bool IsTyped() const { return !HaveSameTexts(fields_, settled_); }
     void KeepTyping();
@@ -74,7 +82,6 @@ private:
 
     void Confirm();
     void OpenListAnew();
-    void OpenChart(const store::ListItem &chart);
     void PassOverSecondClick();
     void SetDeafToMouse(bool isDeaf);
     void DeleteFromMenu();
@@ -89,6 +96,8 @@ private:
     BirthFields settled_; ///< the form when nothing of it could be lost: at load, after New, Open and Save
     std::unique_ptr<Ui::frm_OpenChart> controls_;
     std::unique_ptr<BirthPlaces> places_;
+    BirthClock clock_;
+    std::optional<ClockAdvice> clockAdvice_;     ///< as it stands on the form
     std::unique_ptr<ChartListDialog> chartList_; ///< left over from an earlier opening, hidden
     QTimer secondClick_; ///< runs while a click may still be the second one of a double click in the list
     QWidget *firstField_ = nullptr; ///< takes the focus when the form is shown

@@ -36,15 +36,26 @@ TimeZoneDialog::TimeZoneDialog(store::Connection &connection, QWidget *parent)
 
 TimeZoneDialog::~TimeZoneDialog() = default;
 
+void TimeZoneDialog::Propose(const store::ZoneFields &zone) {
+    StartIn(zone.countryId);
+    Fill(add_, zone);
+    add_.place->setFocus();
+    add_.place->selectAll();
+}
+
+void TimeZoneDialog::Fill(const Entry &entry, const store::ZoneFields &zone) {
+    entry.place->setText(TextOf(zone.place));
+    entry.hours->setText(TextOf(zone.hours));
+    entry.minutes->setText(TextOf(zone.minutes));
+    entry.direction->setCurrentText(TextOf(zone.direction));
+}
+
 void TimeZoneDialog::ShowZone() {
     store::ZoneFields fields;
     if (const std::int32_t chosen = ChosenKey(edit_.zone); chosen != 0) {
         master_.Show(chosen, fields);
     }
-    edit_.place->setText(TextOf(fields.place));
-    edit_.hours->setText(TextOf(fields.hours));
-    edit_.minutes->setText(TextOf(fields.minutes));
-    edit_.direction->setCurrentText(TextOf(fields.direction));
+    Fill(edit_, fields);
 }
 
 store::ZoneFields TimeZoneDialog::FieldsOf(const Entry &entry) {

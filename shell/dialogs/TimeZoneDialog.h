@@ -23,6 +23,9 @@ public:
     TimeZoneDialog &operator=(const TimeZoneDialog &) = delete;
     ~TimeZoneDialog() override;
 
+    /// Fills in a zone to add, for the user to look at and save.
+    void Propose(const store::ZoneFields &zone);
+
 private:
     /// The fields of the tab that adds or of the one that edits.
     struct Entry {
@@ -33,6 +36,7 @@ private:
     };
 
     void ShowZone();
+    static void Fill(const Entry &entry, const store::ZoneFields &zone);
     static store::ZoneFields FieldsOf(const Entry &entry);
 
     store::TimeZoneMaster master_;

@@ -1,6 +1,9 @@
 #include "shell/help/AboutBox.h"
 
+#include "clock/ZoneClock.h"
 #include "shell/widgets/HouseIcon.h"
+#include "shell/widgets/ShownText.h"
+#include "shell/widgets/TextOf.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -13,6 +16,20 @@ namespace {
 
 constexpr int textWidth = 440;
 constexpr int margin = 20;
+constexpr qsizetype longestRelease = 20; // characters
+
+/// Where the form's remark on the clocks of the birthplace comes from.
+QString RecordsOfClocks() {
+    if (!HasZoneRecords()) {
+        return QObject::tr(
+            "This machine has no tz database, so the form cannot say what the clocks of a birthplace "
+            "stood at. The package tzdata brings it.");
+    }
+    const QString release = OneLine(TextOf(ZoneRecordsRelease()), longestRelease);
+    return release.isEmpty() ? QObject::tr("the tz database of this machine, public domain.")
+                             : QObject::tr("the tz database of this machine, release %1, public domain.")
+                                   .arg(release.toHtmlEscaped());
+}
 
 } // namespace
 
@@ -28,7 +45,9 @@ AboutBox::AboutBox(QWidget *parent) : QDialog(parent) {
            "(https://creativecommons.org/licenses/by/4.0/); names shortened and made unique, positions "
            "rounded "
            "to minutes.</p>"
-           "<p><b>Zone offsets:</b> the tz database, release 2025b, public domain.</p>"));
+           "<p><b>Zone offsets:</b> the tz database, release 2025b, public domain.</p>"
+           "<p><b>Clocks of birthplaces:</b> %1</p>")
+            .arg(RecordsOfClocks()));
     text->setWordWrap(true);
     text->setTextInteractionFlags(Qt::TextBrowserInteraction);
     text->setFixedWidth(textWidth);

@@ -15,10 +15,15 @@ BirthDialog &BirthForm::Show() {
     }
     dialog_ = new BirthDialog(window_.HoroscopeInForce(), settings_, discarded_, &window_);
     dialog_->setModal(true);
-    QObject::connect(dialog_, &BirthDialog::CityMasterWanted, &window_,
-                     [this](std::int32_t country) { ShowMaster<CityDialog>(country); });
-    QObject::connect(dialog_, &BirthDialog::TimeZoneMasterWanted, &window_,
-                     [this](std::int32_t country) { ShowMaster<TimeZoneDialog>(country); });
+    QObject::connect(dialog_, &BirthDialog::CityMasterWanted, &window_, [this](std::int32_t country) {
+        ShowMaster<CityDialog>([country](CityDialog &master) { master.StartIn(country); });
+    });
+    QObject::connect(dialog_, &BirthDialog::TimeZoneMasterWanted, &window_, [this](std::int32_t country) {
+        ShowMaster<TimeZoneDialog>([country](TimeZoneDialog &master) { master.StartIn(country); });
+    });
+    QObject::connect(dialog_, &BirthDialog::NewZoneWanted, &window_, [this](const store::ZoneFields &zone) {
+        ShowMaster<TimeZoneDialog>([&zone](TimeZoneDialog &master) { master.Propose(zone); });
+    });
     QObject::connect(dialog_, &BirthDialog::Closed, &window_, [this] { Forget(); });
     dialog_->show();
     return *dialog_;
@@ -42,10 +47,10 @@ void BirthForm::Forget() {
     window_.findChild<QAction *>(QStringLiteral("mnuPreferences"))->setEnabled(true);
 }
 
-template <class Master> void BirthForm::ShowMaster(std::int32_t country) {
-    window_.Guard([this, country] {
+template <class Master> void BirthForm::ShowMaster(const std::function<void(Master &)> &begin) {
+    window_.Guard([this, &begin] {
         Master master(window_.HoroscopeInForce().connection, &window_);
-        master.StartIn(country);
+        begin(master);
         master.exec();
     });
     window_.Guard([this] { dialog_->ReturnFromMaster(); });

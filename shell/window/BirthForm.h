@@ -5,6 +5,8 @@
 
 #include <QPointer>
 
+#include <functional>
+
 namespace kelvaro {
 
 class MDILight;
@@ -32,7 +34,8 @@ public:
 
 private:
     void Forget();
-    template <class Master> void ShowMaster(std::int32_t country);
+    /// `begin` says where the master starts.
+    template <class Master> void ShowMaster(const std::function<void(Master &)> &begin);
 
     MDILight &window_;
     SettingsStore &settings_;

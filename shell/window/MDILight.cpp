@@ -12,6 +12,7 @@
 #include "shell/window/StatusPanel.h"
 #include "shell/window/ViewArea.h"
 #include "store/database/DatabaseFile.h"
+#include "store/masters/CityZones.h"
 #include "store/masters/PersonalDetails.h"
 
 #include <QCloseEvent>
@@ -112,6 +113,7 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
         ShowFirstHoroscope();
         // A database that cannot be written would otherwise be told only when something is to be saved.
         connection_.RequireWritable();
+        store::CityZones(connection_).BringFrom(programFolder / store::databaseFileName);
     } catch (const std::exception &error) {
         startFault_ = error.what();
         ShowError(this, error);

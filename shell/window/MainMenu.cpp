@@ -1,6 +1,7 @@
 #include "shell/window/MainMenu.h"
 
 #include "shell/dialogs/CityDialog.h"
+#include "shell/dialogs/ClockSurveyDialog.h"
 #include "shell/dialogs/CountryDialog.h"
 #include "shell/dialogs/PersonalInfoDialog.h"
 #include "shell/dialogs/PreferencesDialog.h"
@@ -92,7 +93,10 @@ void MainMenu::BuildMenu() {
              {"MDI_ADD_TimeZone", "Time &Zone Master", "zone", Opens<TimeZoneDialog>(connection)},
              {},
              {"mnudetails", "Edit Personal &Info", "person", Opens<PersonalInfoDialog>(connection)},
-             {"mnuPreferences", "&Preferences", "preferences", Opens<PreferencesDialog>(horoscope)}});
+             {"mnuPreferences", "&Preferences", "preferences", Opens<PreferencesDialog>(horoscope)},
+             {},
+             {"mnuClockSurvey", "Check Time Zones of &Saved Charts...", "find",
+              [this] { window_.Guard([this] { CheckZonesOfCharts(); }); }}});
     AddMenu(
         bar, "mnuBirthTime", "&Time Converter",
         {{"Mnu_IshtaGhatika", "&BirthTime To  IshtaGhatika", "ghati", Opens<IshtaGhatiDialog>(horoscope)},
@@ -137,6 +141,14 @@ void MainMenu::SaveBirth() {
     BirthDialog &form = birthForm_.Show();
     if (isStated) {
         form.Save();
+    }
+}
+
+void MainMenu::CheckZonesOfCharts() {
+    ClockSurveyDialog survey(window_.HoroscopeInForce().connection, &window_);
+    survey.exec();
+    if (const store::ListItem *chart = survey.Chosen()) {
+        birthForm_.Show().OpenChart(*chart);
     }
 }
 

@@ -26,6 +26,7 @@ private:
     void NewBirth();
     void SaveBirth();
     void Print();
+    void CheckZonesOfCharts();
     template <class Dialog, class Subject> std::function<void()> Opens(Subject &subject);
 
     MDILight &window_;

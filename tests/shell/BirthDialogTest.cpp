@@ -63,6 +63,7 @@ private slots:
     void ChartListIsNarrowedDown();
     void RefusedSaveLeavesTheFormAsTyped();
     void MasterComesAndGoes();
+    void ClockOfTheBirthplaceIsTold();
     void NothingStartsDuringARun();
     void SettingsAreKeptTogetherOrNotAtAll();
 
@@ -488,6 +489,54 @@ void BirthDialogTest::MasterComesAndGoes() {
     QVERIFY(form_->isVisible());
     QCOMPARE(Focus(), u"txt_VC_City"_s);
     QCOMPARE(Text("Txt_VC_ChartName") + Text("txt_VC_City") + Text("cbMins"), u"VelneshHyderabad (A.P)15"_s);
+}
+
+void BirthDialogTest::ClockOfTheBirthplaceIsTold() {
+    EnterBirth();
+    const auto state = [this](const char *field, const char *keys) {
+        Type(*form_, field, keys);
+        Key(Qt::Key_Return);
+    };
+    QCOMPARE(Label("label_clock"),
+             u"Clocks in Hyderabad (A.P) stood at 5.5 hrs E on 14 Jul 1965. Records from before "
+             "1970 are less certain."_s);
+    const auto *button = Find<QPushButton>("cmdTakeZone");
+    QVERIFY(!button->isVisible());
+
+    // The records know the zone, and still none is chosen unasked.
+    state("txt_VC_Country", "united states");
+    state("txt_VC_City", "chicago");
+    state("txt_Year", "1990");
+    QCOMPARE(Label("label_clock"), u"Clocks in Chicago stood at 5 hrs W on 14 Jul 1990, summer time."_s);
+    QCOMPARE(Text("cbTimeZone"), QString());
+    QVERIFY(button->isVisible());
+    {
+        MessageBoxAnswer answer;
+        Press(*form_, "cmdSave");
+        QCOMPARE(answer.Text(), u"Select Timezone"_s);
+    }
+    form_->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(form_.get()));
+    state("cbTimeZone", "central s");
+    QVERIFY(Label("label_clock")
+                .contains(u"; the chosen zone says 6 hrs W: an hour changes the Lagna by half a sign."));
+    QVERIFY(Find<QLabel>("label_clock")->autoFillBackground());
+    Key(Qt::Key_U, Qt::AltModifier);
+    QTRY_COMPARE(Text("cbTimeZone"), u"Central Daylight Time (USA)  (5 hrs W)"_s);
+    QVERIFY(!button->isVisible() && !Find<QLabel>("label_clock")->autoFillBackground());
+    QCOMPARE(Label("label_clock"), u"Clocks in Chicago stood at 5 hrs W on 14 Jul 1990, summer time."_s);
+
+    // An offset that the list lacks goes to the master of time zones.
+    QSignalSpy wanted(form_.get(), &BirthDialog::NewZoneWanted);
+    state("txt_Year", "1850");
+    QVERIFY(
+        Label("label_clock").contains(u"5 hours 50 minutes 36 seconds W on 14 Jul 1850, local mean time"));
+    Key(Qt::Key_A, Qt::AltModifier);
+    QTRY_COMPARE(wanted.count(), 1);
+    QVERIFY(!form_->isVisible());
+    form_->ReturnFromMaster();
+    state("txt_Year", "185");
+    QCOMPARE(Label("label_clock"), QString());
 }
 
 void BirthDialogTest::NothingStartsDuringARun() {

@@ -54,6 +54,7 @@ private slots:
     void FaultIsToldByTheBirthForm();
     void HelpOpensAtTheSubjectInFront();
     void KeysServeTheForms();
+    void ChartWithADoubtfulZoneOpensFromTheSurvey();
     void WindowComesBackWhereItWas();
     void WindowBeyondTheScreensIsBroughtBack();
     void IconsFollowTheTheme();
@@ -93,7 +94,8 @@ void MenuTest::MenusStandInTheirOrder() {
     }
     QCOMPARE(captions.join(u'|'),
              QStringLiteral("&Enter Birth Details|&Tools|&Country Master|Cit&y Master|Time &Zone Master|-|"
-                            "Edit Personal &Info|&Preferences|&Time Converter|&BirthTime To  IshtaGhatika|-|"
+                            "Edit Personal &Info|&Preferences|-|Check Time Zones of &Saved Charts...|&Time "
+                            "Converter|&BirthTime To  IshtaGhatika|-|"
                             "Ishta&Ghatika To BirthTime|Help|&Help|-|&About Us|E&xit"));
 }
 
@@ -196,6 +198,34 @@ void MenuTest::KeysServeTheForms() {
         QTest::keyClick(window_.get(), Qt::Key_O, Qt::ControlModifier);
         QTRY_COMPARE(watch.names, (QStringList{"Frm_RetriveBirthData", "frm_OpenChart"}));
     }
+}
+
+void MenuTest::ChartWithADoubtfulZoneOpensFromTheSurvey() {
+    Start();
+    window_->HoroscopeInForce().connection.Execute(
+        "insert into ChartSave select null, 'Wrong~4-Jul-1990', 'Male', CountryID, CityName, 4, 7, 1990, 8, "
+        "15, 0, "
+        "LatitudeDegree, Latitude_NS, LatitudeMinute, LongitudeDegree, Longitude_EW, LongitudeMinute, SNo "
+        "from City_Master, TimeZone where CityName = 'Chicago' and Place = 'Central Standard Time (USA)'");
+    QString summary;
+    QTimer::singleShot(100, window_.get(), [&summary] {
+        QWidget *survey = QApplication::activeModalWidget();
+        for (const QLabel *label : survey->findChildren<QLabel *>()) {
+            summary += label->text() + u'|';
+        }
+        QTest::keyClick(survey, Qt::Key_Return);
+    });
+    Choose("mnuTools", "mnuClockSurvey");
+    QVERIFY(summary.startsWith(
+        u"Saved charts: 1. Agreeing with the records: 0, differing: 1, not to be checked: 0.|"));
+    QVERIFY(summary.contains(u"; the chosen zone says 6 hrs W"));
+    auto *form = Find("frm_OpenChart");
+    QVERIFY(form->isVisible());
+    QCOMPARE(form->findChild<QLineEdit *>(QStringLiteral("Txt_VC_ChartName"))->text(),
+             QStringLiteral("Wrong"));
+    QVERIFY(form->findChild<QLabel *>(QStringLiteral("label_clock"))
+                ->text()
+                .contains(u"summer time; the chosen"));
 }
 
 void MenuTest::WindowComesBackWhereItWas() {
