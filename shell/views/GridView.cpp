@@ -24,6 +24,10 @@ QLabel *CaptionLabel(const QString &text) {
     return label;
 }
 
+int HeightOf(const QLabel &line, int width) {
+    return line.hasHeightForWidth() ? line.heightForWidth(width) : line.sizeHint().height();
+}
+
 std::vector<TextGridView *> NewGrids(const std::vector<GridOfWindow> &described, const char *title) {
     std::vector<TextGridView *> grids;
     for (const GridOfWindow &each : described) {
@@ -90,8 +94,7 @@ void GridView::resizeEvent(QResizeEvent *event) {
 QSize GridView::RoomForGrids() const {
     QSize room = scroll_->maximumViewportSize() - QSize(2 * margin, 2 * margin);
     for (const QLabel *line : lines_) {
-        room.rheight() -=
-            line->hasHeightForWidth() ? line->heightForWidth(room.width()) : line->sizeHint().height();
+        room.rheight() -= HeightOf(*line, room.width());
     }
     room.rheight() -= scroll_->widget()->layout()->count() * distance;
     if (grids_.LeastSize(font().pointSizeF()).height() > room.height()) {
@@ -102,9 +105,13 @@ QSize GridView::RoomForGrids() const {
 
 void GridView::LayOut() {
     scroll_->widget()->setFont(RoomyFont(linesOfContent, lettersOfContent));
+    for (QLabel *line : lines_) {
+        line->setMinimumWidth(0); // a label measures itself no narrower than this
+    }
     const QSize room = RoomForGrids();
     for (QLabel *line : lines_) {
-        line->setFixedWidth(room.width());
+        // The layout would measure it as wide as the grids, which may be wider than the window.
+        line->setFixedSize(room.width(), HeightOf(*line, room.width()));
     }
     grids_.LayOut(font().pointSizeF(), room);
 }

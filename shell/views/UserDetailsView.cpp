@@ -6,6 +6,7 @@
 #include "shell/widgets/TextOf.h"
 
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -185,8 +186,7 @@ void UserDetailsView::resizeEvent(QResizeEvent *event) {
     const QFont roomy = RoomyFont(linesOfContent, lettersOfContent);
     const QFontMetrics metrics(roomy);
     content_->setFont(roomy);
-    content_->setMaximumSize(qRound(metrics.averageCharWidth() * widestInLetters),
-                             qRound(metrics.height() * linesAtMost));
+    content_->setMaximumWidth(qRound(metrics.averageCharWidth() * widestInLetters));
     PlaceAlmanac();
     int labelWidth = 0;
     for (const FieldGroup *group : groups_) {
@@ -195,6 +195,16 @@ void UserDetailsView::resizeEvent(QResizeEvent *event) {
     for (FieldGroup *group : groups_) {
         group->LayOut(labelWidth);
     }
+    LimitHeight();
+}
+
+/// Keeps the summary from being spread over a high window. It may always be as high as its texts need, beside
+/// the scroll bar that it then has.
+void UserDetailsView::LimitHeight() {
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const int narrowest = std::min(width() - bar, content_->maximumWidth());
+    const int spread = qRound(QFontMetrics(content_->font()).height() * linesAtMost);
+    content_->setMaximumHeight(std::max(spread, content_->heightForWidth(narrowest)));
 }
 
 void UserDetailsView::Refresh(const Horoscope &horoscope) {
@@ -207,6 +217,7 @@ void UserDetailsView::Refresh(const Horoscope &horoscope) {
         texts_.at(i)->setAccessibleName(
             QStringLiteral("%1: %2").arg(QString::fromLatin1(fields.at(i).label), text));
     }
+    LimitHeight();
 }
 
 } // namespace kelvaro

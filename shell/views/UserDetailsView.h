@@ -25,6 +25,7 @@ protected:
 
 private:
     void PlaceAlmanac();
+    void LimitHeight();
 
     ViewHeading *heading_;
     QWidget *content_ = nullptr;

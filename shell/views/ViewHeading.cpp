@@ -35,7 +35,10 @@ ViewHeading::ViewHeading(QString title, QWidget *parent) : QLabel(parent), title
 
 void ViewHeading::Show(const HoroscopeState &state) {
     const ChartHeading heading = HeadingOf(state, title_);
-    QStringList whose{heading.name, heading.moment, heading.place};
+    // Lines break between words and behind a stroke; a date is to stay whole.
+    QString moment = heading.moment;
+    moment.replace(u'/', QStringLiteral("/\u2060")).replace(QStringLiteral("  "), QStringLiteral("\u00a0"));
+    QStringList whose{heading.name, moment, heading.place};
     whose.removeAll(QString());
     for (QString &part : whose) {
         part = part.toHtmlEscaped();
