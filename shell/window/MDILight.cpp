@@ -88,8 +88,10 @@ MDILight::MDILight(const QString &settingsFile)
     owner_->setContentsMargins(splitterWidth, 0, splitterWidth, 0);
     statusBar()->addPermanentWidget(owner_);
     // A bar too short for a message shows all of it under the mouse.
-    connect(statusBar(), &QStatusBar::messageChanged, this,
-            [this](const QString &message) { statusBar()->setToolTip(ToolTipText(message)); });
+    connect(statusBar(), &QStatusBar::messageChanged, this, [this](const QString &message) {
+        statusBar()->setToolTip(ToolTipText(message));
+        MakeRoomForMessage();
+    });
     connection_.OnRowsLeftOut(
         [this](const std::string &remark) { statusBar()->showMessage(OneLine(TextOf(remark))); });
     connect(tree_, &MainHoroscope::ViewChosen, this, &MDILight::ChooseView);
@@ -243,6 +245,14 @@ void MDILight::RunRemarked(std::string_view remark) {
     statusBar()->showMessage(OneLine(TextOf(remark)));
 }
 
+/// The owner's name gives way to a message that has no room beside it.
+void MDILight::MakeRoomForMessage() {
+    constexpr int distances = 24; // of the bar's ends and between the two
+    const QString message = statusBar()->currentMessage();
+    const int both = fontMetrics().horizontalAdvance(message) + owner_->sizeHint().width() + distances;
+    owner_->setVisible(message.isEmpty() || both <= width());
+}
+
 void MDILight::closeEvent(QCloseEvent *event) {
     // A run must come to its end before what it works on goes away.
     isCloseWanted_ = horoscope_.isCalculating;
@@ -254,6 +264,7 @@ void MDILight::closeEvent(QCloseEvent *event) {
 
 void MDILight::resizeEvent(QResizeEvent *event) {
     QMainWindow::resizeEvent(event);
+    MakeRoomForMessage();
     if (panel_->isVisible()) {
         panel_->Span(centralWidget()->geometry());
     }

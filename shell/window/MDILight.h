@@ -70,6 +70,7 @@ private:
     void RunRemarked(std::string_view remark) override;
 
     void ReadLetterhead();
+    void MakeRoomForMessage();
     void ShowFirstHoroscope();
     void FNInitialize();
     void FnEnable() { menu_.Enable(true); }

@@ -262,6 +262,17 @@ void MainWindowTest::ViewsShownAgainHaveTheSizeOfTheWindow() {
     visitAll([](const QWidget * /*view*/) {});
     window_->resize(1000, 620);
     visitAll([&](const QWidget *view) { QCOMPARE(view->geometry(), area->viewport()->rect()); });
+    // Texts that wrap have their height in a window that is narrower than the tables.
+    window_->resize(520, 380);
+    visitAll([](const QWidget *view) {
+        for (const QLabel *text : view->findChildren<QLabel *>()) {
+            const auto isWhole = [&] {
+                return !text->isVisible() || !text->wordWrap() ||
+                       text->height() >= text->heightForWidth(text->width());
+            };
+            QTRY_VERIFY2(isWhole(), qPrintable(view->objectName() + u' ' + text->text()));
+        }
+    });
     // Where a chart would become too small to read, it is scrolled.
     ClickNode(rasiNode);
     window_->resize(420, 260);
