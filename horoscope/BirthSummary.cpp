@@ -75,11 +75,12 @@ void FillDay(Horoscope &horoscope, UserDetailsForm &form) {
     form.txtVedic = WeekdayName(WeekdayOf(vedic));
 }
 
-/// Empty for a birth that no solar year holds: the date that the calendar keeps is then another birth's.
+/// Empty for a birth that no solar year holds, or none of the table: what the calendar keeps is then another
+/// birth's.
 std::string SolarDateText(bool isFound, const SolarDate &date) {
-    return isFound ? std::to_string(date.day) + std::string(betweenParts) + date.month +
-                         std::string(betweenParts) + date.yearName
-                   : std::string();
+    return isFound && !date.yearName.empty() ? std::to_string(date.day) + std::string(betweenParts) +
+                                                   date.month + std::string(betweenParts) + date.yearName
+                                             : std::string();
 }
 
 std::string LunarDateText(const LunarDate &date) {

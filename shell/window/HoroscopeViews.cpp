@@ -63,7 +63,7 @@ HoroscopeView *MakeAshtakavargaView() {
         {"Ashta Vargas",
          {{"mshAshtaVarga", "", "lccccccccccc",
            [](const Forms &forms) -> const TextGrid & { return forms.Frm_AVargas.mshAshtaVarga; }}},
-         "* Asc and Rahu stand beside the classical seven; only the last column counts them."});
+         "* These columns stand beside the classical seven; only the last column counts them."});
 }
 
 HoroscopeView *MakeDasaView() {
