@@ -28,6 +28,10 @@ Candidates::Candidates(QComboBox *box) : QListWidget(box->window()), box_(box) {
 }
 
 bool Candidates::eventFilter(QObject *watched, QEvent *event) {
+    // The list watches its own scroll bars, too, which hide when fewer rows are left.
+    if (watched != box_) {
+        return QListWidget::eventFilter(watched, event);
+    }
     if (event->type() == QEvent::FocusOut || event->type() == QEvent::Hide) {
         hide();
     } else if (event->type() == QEvent::KeyPress && isVisible()) {
