@@ -5,6 +5,7 @@
 #include "runtime/MomentText.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Texts.h"
+#include "store/database/Recordset.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -111,6 +112,21 @@ store::SavedOrNot UpdateBirth(BirthFields &fields, Moment birth, store::Connecti
     return {true, {"Details are Sucessfully Updated", Notice::Icon::None}};
 }
 
+/// A chart whose place cannot be found any more. What the list of charts shows of it is sound all the same.
+store::StoreError NotOpened(const std::string &what) {
+    return store::StoreError("This chart cannot be opened: " + what +
+                             ". The other charts can. Date, time and place of this one stand below the "
+                             "list of charts: enter the birth anew from them.");
+}
+
+store::Zone ZoneOf(std::int32_t number, const store::PlaceLists &lists) {
+    try {
+        return lists.ZoneNumbered(number);
+    } catch (const store::RowGone &) {
+        throw NotOpened("its time zone, number " + std::to_string(number) + ", is not in the database");
+    }
+}
+
 /// Back to a 12-hour clock. Noon, too, becomes twelve with AM; the form says so beside the time.
 void TakeHour(std::int32_t hour, BirthFields &fields) {
     fields.Opt_PM = hour > 12;
@@ -147,8 +163,8 @@ OpenedBirth OpenBirth(const store::ListItem &chart, store::Connection &connectio
     const store::PlaceLists lists(connection);
     const std::vector<store::ListItem> countries = lists.Countries();
     if (stored.Country < 1 || static_cast<std::size_t>(stored.Country) > countries.size()) {
-        throw store::StoreError("There is no country number " + std::to_string(stored.Country) +
-                                " in the list of countries.");
+        throw NotOpened("there is no country number " + std::to_string(stored.Country) +
+                        " in the list of countries");
     }
     OpenedBirth opened;
     BirthFields &fields = opened.fields;
@@ -167,7 +183,7 @@ OpenedBirth OpenBirth(const store::ListItem &chart, store::Connection &connectio
     fields.txt_VC_City = stored.City;
     TakePlace(stored.place, fields);
     if (stored.TimeDifference) {
-        TakeZone(lists.ZoneNumbered(*stored.TimeDifference), fields);
+        TakeZone(ZoneOf(*stored.TimeDifference, lists), fields);
         fields.chosen.zoneNumber = 0;
         fields.txt_VC_TimeDiffId = *stored.TimeDifference;
     }

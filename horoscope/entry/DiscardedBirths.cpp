@@ -7,11 +7,15 @@ namespace kelvaro {
 
 void DiscardedBirths::Keep(const BirthFields &typed) {
     constexpr std::size_t mostKept = 20;
-    std::erase_if(births_, [&typed](const BirthFields &kept) { return HaveSameTexts(kept, typed); });
+    Forget(typed);
     births_.push_back(typed);
     if (births_.size() > mostKept) {
         births_.pop_front();
     }
+}
+
+void DiscardedBirths::Forget(const BirthFields &saved) {
+    std::erase_if(births_, [&saved](const BirthFields &kept) { return HaveSameTexts(kept, saved); });
 }
 
 void DiscardedBirths::BringBack(BirthFields &form, bool isTyped) {

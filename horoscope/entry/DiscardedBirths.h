@@ -12,6 +12,9 @@ public:
     /// The oldest are dropped beyond a bound. What looks the same as one kept before takes its place.
     void Keep(const BirthFields &typed);
 
+    /// A birth has been saved: what looks the same is no longer kept.
+    void Forget(const BirthFields &saved);
+
     /// The one that comes back next; null where there is none.
     const BirthFields *Next() const { return births_.empty() ? nullptr : &births_.back(); }
 

@@ -63,7 +63,8 @@ std::string LetterOf(const std::string &text, std::string_view choices) {
 double NumberWithin(const std::string &text, double highest) {
     const double number = NumberFromText(text);
     if (number < 0 || number > highest) {
-        throw ConversionError("Overflow: " + OneLine(text) + " is not within 0 and " + NumberText(highest));
+        throw ConversionError("A number of its place, " + OneLine(text) + ", is not within 0 and " +
+                              NumberText(highest) + ".");
     }
     return number;
 }
@@ -72,8 +73,8 @@ double NumberWithin(const std::string &text, double highest) {
 void RequireAngle(double degrees, double minutes, double highest) {
     constexpr double minutesOfDegree = 60;
     if (minutes >= minutesOfDegree || degrees + minutes / minutesOfDegree > highest) {
-        throw ConversionError("Overflow: there is no place at " + NumberText(degrees) + " degrees " +
-                              NumberText(minutes) + " minutes");
+        throw ConversionError("There is no place at " + NumberText(degrees) + " degrees " +
+                              NumberText(minutes) + " minutes.");
     }
 }
 

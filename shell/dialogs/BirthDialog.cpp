@@ -262,6 +262,7 @@ void BirthDialog::Save() {
         chartList_.reset();
         const store::SavedOrNot outcome = SaveBirth(fields_, horoscope_.connection, settings_);
         if (outcome.isSaved) {
+            discarded_.Forget(fields_);
             Settle();
         }
         Tell(outcome.notice);
@@ -357,7 +358,8 @@ void BirthDialog::AskMaster(QWidget *returnTo, void (BirthDialog::*wanted)(std::
         TakePlaces();
         firstField_ = returnTo;
         hide();
-        emit(this->*wanted)(fields_.chosen.countryId);
+        const bool isCountryChosen = fields_.txt_VC_Country == fields_.chosen.country;
+        emit(this->*wanted)(isCountryChosen ? fields_.chosen.countryId : 0);
     });
 }
 

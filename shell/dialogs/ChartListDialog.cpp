@@ -82,7 +82,7 @@ void ChartListDialog::ShowDetails(const QListWidgetItem *row) {
             details =
                 OneLine(TextOf(ChartAtAGlance(store::ChartStore(connection_).Read(charts_.at(place).key))));
         } catch (const std::exception &) {
-            details = tr("This chart is damaged and cannot be read.");
+            details = tr("This chart is damaged. Open it to see what is left of it.");
         }
     }
     controls_->chartDetails->setText(details);

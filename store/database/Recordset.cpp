@@ -270,7 +270,7 @@ const Value &Recordset::ValueAt(std::size_t field) const {
 const Recordset::Row &Recordset::PresentRow() const {
     RequireOpen();
     if (rows_.empty()) {
-        throw StoreError(RowHasGone(statement_, connection_->file_));
+        throw RowGone(RowHasGone(statement_, connection_->file_));
     }
     if (position_ >= rows_.size()) {
         throw StoreError("All rows have been read of: " + statement_);

@@ -16,12 +16,19 @@ namespace kelvaro::store {
 /// A field's value: null, a whole number, a number or a text.
 using Value = std::variant<std::monostate, std::int64_t, double, std::string>;
 
+/// The row that is asked for is not there.
+class RowGone : public StoreError {
+public:
+    using StoreError::StoreError;
+};
+
 /// The rows that a statement finds, walked one after another; fields are read by name without regard to case.
 ///
 /// The rows are taken when the recordset is opened. An object may be opened again and again; an open one must
 /// be closed first, so callers test `IsOpen` before each use. Raises StoreError for a statement that fails,
 /// for a field that does not exist, for reading past the end and for any use but `Open`, `IsOpen` and `Close`
-/// while closed, and DamagedRow for a field that is not of the type asked for.
+/// while closed, RowGone for reading where nothing was found, and DamagedRow for a field that is not of the
+/// type asked for.
 class Recordset {
 public:
     /// The connection must outlive the recordset. A recordset that fails to open stays closed.

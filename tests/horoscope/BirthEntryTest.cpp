@@ -292,9 +292,16 @@ TEST_F(BirthEntryTest, CountryIsThePositionInTheList) {
     Save(fields);
     connection_.Execute("delete from Country_Master where CountryID = 5");
     EXPECT_EQ(Open({"Velnesh~4-Jul-1965", 1}).fields.chosen.countryId, 102) << "a gap moves the countries up";
-    connection_.Execute("update ChartSave set Country = 247");
-    EXPECT_THROW(Open({"Velnesh~4-Jul-1965", 1}), store::StoreError);
     EXPECT_THROW(Open({"Velnesh~4-Jul-1965", 2}), store::StoreError);
+    for (const char *gone : {"Country = 247", "Country = 5, TimeDifference = 9999"}) {
+        connection_.Execute(std::string("update ChartSave set ") + gone);
+        try {
+            Open({"Velnesh~4-Jul-1965", 1});
+            FAIL() << gone;
+        } catch (const store::StoreError &error) {
+            EXPECT_TRUE(std::string_view(error.what()).starts_with("This chart cannot be opened")) << gone;
+        }
+    }
 }
 
 } // namespace

@@ -110,6 +110,11 @@ TEST_F(BirthRemarksTest, DiscardedBirthsComeBackOneAfterTheOther) {
         EXPECT_EQ(form.Txt_VC_ChartName, name);
         EXPECT_EQ(form.txt_VC_UserId, 1) << "the form stands for the chart that it stood for";
     }
+    // What has been saved is not offered as lost, however it was typed.
+    discarded.Keep(velnesh);
+    discarded.Forget(Entered());
+    ASSERT_NE(discarded.Next(), nullptr);
+    EXPECT_EQ(discarded.Next()->Txt_VC_ChartName, "Uma");
     // A zone that came with an opened chart is stored with a new one, too.
     discarded = {};
     discarded.Keep(Open({"Anil~4-Jul-1965", 1}).fields);
