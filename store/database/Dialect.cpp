@@ -64,8 +64,7 @@ std::string TableOf(std::string_view statement) {
 
 std::string Quoted(std::string_view text) {
     if (text.find('\'') != std::string_view::npos) {
-        throw StoreError("Syntax error: the quote in " + OneLine(text) +
-                         " ends the text of the statement. Leave it out.");
+        throw StoreError("The quote in " + OneLine(text) + " cannot go into the database. Leave it out.");
     }
     std::string quoted = "'";
     quoted.append(text).append("'");

@@ -66,7 +66,7 @@ template <typename Work> std::string ErrorOf(Work work) {
 
 /// Whether some work refuses a text for its quote, before any statement is run.
 template <typename Work> bool RefusesQuote(Work work) {
-    return ErrorOf(work).starts_with("Syntax error: the quote in");
+    return ErrorOf(work).starts_with("The quote in");
 }
 
 inline std::string FirstText(std::string_view statement, Connection &connection) {
