@@ -2,6 +2,7 @@
 
 #include "horoscope/entry/BirthEntry.h"
 #include "runtime/Numbers.h"
+#include "runtime/Texts.h"
 
 #include <algorithm>
 #include <array>
@@ -13,6 +14,7 @@ namespace kelvaro {
 namespace {
 
 constexpr double secondsOfHour = 3600;
+constexpr std::size_t longestCity = 48; // characters, so that the words around it can be seen
 
 double HoursOf(const ClockOffset &offset) {
     return static_cast<double>(offset.fromGreenwich.count()) / secondsOfHour;
@@ -65,7 +67,7 @@ std::string OffsetAndKind(const ClockOffset &offset) {
 
 std::string RecordText(const ClockReading &reading, const CivilMoment &shown, const std::string &city) {
     std::string text = "Clocks in ";
-    text.append(city);
+    text.append(OneLine(city, longestCity));
     if (reading.shown == ClockReading::Shown::Once) {
         text.append(" stood at ")
             .append(OffsetText(reading.offset))

@@ -95,8 +95,9 @@ void CopyDatabase(const fs::path &from, const fs::path &to) {
 
 /// Why the copy cannot be made, and what to do.
 StoreError NotCopied(const fs::path &userFolder, const std::string &cause, const std::string &advice) {
-    return StoreError("The database cannot be copied into the folder " + userFolder.string() + ": " + cause +
-                      ". " + advice + ", then start the program again.");
+    StoreError error("The database cannot be copied into the folder " + userFolder.string() + ": " + cause +
+                     ". " + advice + ", then start the program again.");
+    return error;
 }
 
 StoreError NotCopied(const fs::path &userFolder, const std::error_code &error) {
@@ -114,8 +115,10 @@ StoreError NotCopied(const fs::path &userFolder, const SQLite::Exception &error,
     case SQLITE_IOERR: // a quota too
         return NotCopied(userFolder, "the disk of that folder is full or fails", "Make room");
     case SQLITE_CORRUPT:
-    case SQLITE_NOTADB:
-        return StoreError(InWords(error, programFile));
+    case SQLITE_NOTADB: {
+        StoreError damaged(InWords(error, programFile));
+        return damaged;
+    }
     default:
         return NotCopied(userFolder, "it cannot be written", "Let it be written");
     }
