@@ -10,8 +10,8 @@
 
 namespace kelvaro {
 
-/// What the records of clocks say of the birth on the form. The place that was asked about last is remembered,
-/// so that a remark can follow every key.
+/// What the records of clocks say of the birth on the form. The place that was asked about last is
+/// remembered, so that a remark can follow every key.
 class BirthClock {
 public:
     /// The connection must outlive the object.
