@@ -114,9 +114,11 @@ store::SavedOrNot UpdateBirth(BirthFields &fields, Moment birth, store::Connecti
 
 /// A chart whose place cannot be found any more. What the list of charts shows of it is sound all the same.
 store::StoreError NotOpened(const std::string &what) {
-    return store::StoreError("This chart cannot be opened: " + what +
-                             ". The other charts can. Date, time and place of this one stand below the "
-                             "list of charts: enter the birth anew from them.");
+    store::StoreError error(
+        "This chart cannot be opened: " + what +
+        ". The other charts can. Date, time and place of this one stand below the list of "
+        "charts: enter the birth anew from them.");
+    return error;
 }
 
 store::Zone ZoneOf(std::int32_t number, const store::PlaceLists &lists) {
