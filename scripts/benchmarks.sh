@@ -18,6 +18,7 @@ subjects=(
     "BM_WholeHoroscope|A whole horoscope without a window"
     "BM_ComposeReport/antra:0|The text of its report, without antras"
     "BM_ComposeReport/antra:1|The text of its report, with antras"
+    "BM_CheckClock|What the clocks of a birthplace stood at"
     "BM_ChartList/20000|The list of 20,000 saved charts"
 )
 
