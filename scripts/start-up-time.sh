@@ -15,6 +15,12 @@ if [ "${1:-}" = --on ]; then
     shift 2
     now() { echo $((${EPOCHREALTIME/[.,]/} / 1000)); }
     picture() { md5sum <"$screen"; }
+    # A display shows its pointer from its first program on: what it shows behind that one is the empty screen.
+    "${!#}" >/dev/null 2>&1 &
+    program=$!
+    sleep 1
+    kill "$program" && wait "$program" || true
+    sleep 0.5
     empty=$(picture)
     for _ in $(seq "$rounds"); do
         for place in $(seq $#); do
