@@ -121,8 +121,7 @@ TEST_F(FullDiskTest, AFirstStartWithoutRoomLeavesNothing) {
                 LimitFileSize(limit);
                 const std::string refusal =
                     store::ErrorOf([&] { store::FindDatabaseFile(folder_.Path(), user / "kelvaro"); });
-                Require(refusal.find("the disk of that folder is full") != std::string::npos,
-                        refusal);
+                Require(refusal.find("the disk of that folder is full") != std::string::npos, refusal);
                 Require(refusal.find(user.string()) != std::string::npos, refusal);
                 Require(!fs::exists(user), "nothing is left");
                 _exit(0);
