@@ -25,11 +25,6 @@ std::optional<CivilMoment> ClockOf(const BirthFields &fields) {
     }
 }
 
-store::Place PlaceIn(const BirthFields &fields) {
-    return {fields.txt_VC_LatDeg, fields.txt_VC_LatMin, fields.txt_VC_LatNS,
-            fields.txt_VC_LonDeg, fields.txt_VC_LonMin, fields.txt_VC_LonEW};
-}
-
 } // namespace
 
 std::optional<ClockAdvice> BirthClock::Advice(const BirthFields &fields) {
@@ -49,7 +44,7 @@ const std::string &BirthClock::ZoneOf(const BirthFields &fields) {
     const std::int32_t countryId = fields.chosen.countryId;
     if (!known_ || known_->city != city || known_->countryId != countryId) {
         known_ = KnownPlace{city, countryId,
-                            store::CityZones(connection_).ZoneOfBirthplace(city, PlaceIn(fields), countryId),
+                            store::CityZones(connection_).ZoneOfBirthplace(city, PlaceOf(fields), countryId),
                             store::PlaceLists(connection_).ZonesOf(countryId)};
     }
     return known_->zone;

@@ -154,6 +154,11 @@ void ChooseZone(BirthFields &fields, std::int32_t zoneNumber, const store::Place
     fields.txt_VC_Ayanamsa = state.preferences.AyanamsaName;
 }
 
+store::Place PlaceOf(const BirthFields &fields) {
+    return {fields.txt_VC_LatDeg, fields.txt_VC_LatMin, fields.txt_VC_LatNS,
+            fields.txt_VC_LonDeg, fields.txt_VC_LonMin, fields.txt_VC_LonEW};
+}
+
 Site SiteOf(const BirthFields &fields) {
     return {fields.txt_VC_LatDeg, fields.txt_VC_LatMin, fields.txt_VC_LatNS,    fields.txt_VC_LonDeg,
             fields.txt_VC_LonMin, fields.txt_VC_LonEW,  fields.txt_VC_TimeDiff, fields.txt_VC_TimeDiffEW};

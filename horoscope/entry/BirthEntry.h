@@ -101,6 +101,9 @@ void TakePlace(const store::Place &place, BirthFields &fields);
 /// Takes text, offset and direction of a zone over.
 void TakeZone(const store::Zone &zone, BirthFields &fields);
 
+/// The place that the fields stand for.
+store::Place PlaceOf(const BirthFields &fields);
+
 /// The place of the fields and the offset of its zone.
 Site SiteOf(const BirthFields &fields);
 

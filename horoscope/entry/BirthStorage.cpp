@@ -18,11 +18,6 @@ namespace {
 /// Of the rule that asks for a name.
 const std::string_view nameField = birthRules.front().focus;
 
-store::Place PlaceOf(const BirthFields &fields) {
-    return {fields.txt_VC_LatDeg, fields.txt_VC_LatMin, fields.txt_VC_LatNS,
-            fields.txt_VC_LonDeg, fields.txt_VC_LonMin, fields.txt_VC_LonEW};
-}
-
 store::ChartToSave NewChart(const BirthFields &fields, Moment birth) {
     store::ChartToSave chart;
     chart.Txt_SC_ChartName = fields.Txt_VC_ChartName;

@@ -149,8 +149,7 @@ StoredChart ChartStore::Read(std::int32_t number) const {
     chart.ChartHour = row.Integer("ChartHour");
     chart.ChartMinute = row.Integer("ChartMinute");
     chart.ChartSecond = row.Integer("ChartSecond");
-    chart.place = {row.Number("LatitudeDegree"),  row.Number("LatitudeMinute"),  row.Line("Latitude_NS"),
-                   row.Number("LongitudeDegree"), row.Number("LongitudeMinute"), row.Line("Longitude_EW")};
+    chart.place = PlaceIn(row);
     if (!row.IsNull("Timedifference")) {
         chart.TimeDifference = row.Integer("Timedifference");
     }

@@ -37,11 +37,6 @@ double Nearness(const Direction &a, const Direction &b) {
            std::cos(a.latitude) * std::cos(b.latitude) * std::cos(a.longitude - b.longitude);
 }
 
-Place PlaceIn(const Recordset &row) {
-    return {row.Number("LatitudeDegree"),  row.Number("LatitudeMinute"),  row.Text("Latitude_NS"),
-            row.Number("LongitudeDegree"), row.Number("LongitudeMinute"), row.Text("Longitude_EW")};
-}
-
 bool HasTable(std::string_view schema, Connection &connection) {
     Recordset tables;
     tables.Open("select name from " + std::string(schema) +

@@ -49,6 +49,11 @@ std::vector<std::string> SplitAtCommas(std::string_view text) {
 
 } // namespace
 
+Place PlaceIn(const Recordset &row) {
+    return {row.Number("LatitudeDegree"),  row.Number("LatitudeMinute"),  row.Line("Latitude_NS"),
+            row.Number("LongitudeDegree"), row.Number("LongitudeMinute"), row.Line("Longitude_EW")};
+}
+
 std::vector<ListItem> PlaceLists::Countries() const {
     return ItemsOf(Opened("Select * From country_master ", connection_), "CountryName", "CountryID");
 }
@@ -89,8 +94,7 @@ std::optional<Place> PlaceLists::PlaceOfCity(std::string_view cityName) const {
     if (row.IsEndOfFile()) {
         return std::nullopt;
     }
-    return Place{row.Number("LatitudeDegree"),  row.Number("LatitudeMinute"),  row.Line("Latitude_NS"),
-                 row.Number("LongitudeDegree"), row.Number("LongitudeMinute"), row.Line("Longitude_EW")};
+    return PlaceIn(row);
 }
 
 Zone PlaceLists::ZoneNumbered(std::int32_t number) const {

@@ -10,6 +10,8 @@
 
 namespace kelvaro::store {
 
+class Recordset;
+
 /// A row of a list: the text that it shows and the key that it carries along.
 struct ListItem {
     std::string text;
@@ -27,6 +29,10 @@ struct Place {
     double lonMin = 0;
     std::string lonEW; ///< "E" or "W"
 };
+
+/// The place in the present row of a table of places or charts. Raises like the recordset for a field that
+/// cannot be read.
+Place PlaceIn(const Recordset &row);
 
 struct Zone {
     std::string place; ///< "Indian Standard Time"
