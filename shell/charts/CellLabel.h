@@ -1,34 +1,33 @@
 #pragma once
 
-#include "shell/charts/PolygonText.h"
+#include "drawing/ChartDrawing.h"
 
 #include <QLabel>
 
+#include <cstddef>
+
 namespace kelvaro {
 
-/// The label of one cell of a chart. It keeps the cell's text as it was filled and draws it as it was placed.
+/// The label of one cell of a chart. It keeps the cell's text as it was filled and draws it as the drawing
+/// has placed it.
 class CellLabel : public QLabel {
 public:
-    explicit CellLabel(QWidget *parent);
+    using Part = void (ChartDrawing::*)(QPainter &painter, std::size_t cell, const QRectF &square) const;
 
-    /// Covers a part of the parent and draws text there. The text is in units of a square that starts at
-    /// `origin` and has the side `side`, both in pixels of the parent.
-    void SetPlacedText(const QRect &area, const PlacedText &text, QPointF origin, double side);
+    /// Draws a part of the drawing, which must outlive the label.
+    CellLabel(const ChartDrawing &drawing, std::size_t cell, Part part, QWidget *parent);
 
-    void SetChartFont(const ChartFont &font) { font_ = font; }
-
-    /// Draws names in this colour instead of their own.
-    void SetNameColour(const QColor &colour) { nameColour_ = colour; }
+    /// Covers an area of the parent, on which the drawing has that square.
+    void Cover(const QRect &area, const QRectF &square);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    QColor ColourOf(Tone tone) const;
-
-    ChartFont font_;
-    QColor nameColour_;
-    PlacedText text_; ///< in pixels of this label
+    const ChartDrawing &drawing_;
+    std::size_t cell_;
+    Part part_;
+    QRectF square_; ///< in pixels of this label
 };
 
 } // namespace kelvaro

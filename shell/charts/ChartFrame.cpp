@@ -1,7 +1,6 @@
 #include "shell/charts/ChartFrame.h"
 
-#include "shell/charts/ChartGeometry.h"
-#include "shell/widgets/ChartColours.h"
+#include "drawing/TextOf.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -14,61 +13,7 @@ namespace kelvaro {
 
 namespace {
 
-// Sizes in sides of the square.
-constexpr double usualTextSize = 0.0285;
-constexpr double leastCommonTextSize = 0.023; // a cell that needs smaller text shrinks alone
-constexpr double cellMargin = 0.009;
-constexpr double signNumberSize = 0.0205;
-constexpr double signNumberMargin = 0.009;
-constexpr double outerMargin = 0.03;
-constexpr double headingHeight = 0.13; // above a drawing that has no open centre
-constexpr double headingGap = 0.022;
-constexpr double diagonalLineWidth = 1.15; // smoothed lines look thinner than those on whole dots
-
-/// A border across the corner of a North cell that keeps the bodies away from the sign number.
-CellEdge BorderAtNumber(const PlacedText &number, const ChartFont &font, QPointF corner, QPointF cellMiddle) {
-    const PlacedRun &run = number.runs.front();
-    const QRectF box(run.baseline - QPointF(0, font.Ascent() * number.size),
-                     QSizeF(font.Width(run.text, run.tone), font.Ascent()) * number.size);
-    QPointF normal = corner - cellMiddle;
-    normal /= std::hypot(normal.x(), normal.y());
-    double offset = 1e9;
-    for (const QPointF &point : {box.topLeft(), box.topRight(), box.bottomLeft(), box.bottomRight()}) {
-        offset = std::min(offset, QPointF::dotProduct(normal, point));
-    }
-    return {normal, offset};
-}
-
-QPointF MiddleOf(const QPolygonF &outline) {
-    QPointF sum;
-    for (const QPointF &corner : outline) {
-        sum += corner;
-    }
-    return sum / static_cast<double>(outline.size());
-}
-
-/// The size shared by the cells: what the fullest of them needs, those left out that would make all others
-/// tiny.
-double CommonTextSize(const std::array<double, 12> &largest) {
-    double size = usualTextSize;
-    for (const double each : largest) {
-        if (each >= leastCommonTextSize) {
-            size = std::min(size, each);
-        }
-    }
-    return size;
-}
-
-CellText TextOf(const std::vector<CellBody> &bodies, const ChartForm &form) {
-    CellText text;
-    text.isListed = form.breaksLines;
-    text.runsOn = form.runsOn;
-    for (const CellBody &body : bodies) {
-        text.entries.push_back({QString::fromStdString(body.name), QString::fromStdString(body.degrees),
-                                body.IsLagna() ? Tone::Lagna : Tone::Name});
-    }
-    return text;
-}
+constexpr double outerMargin = 0.03; // in sides of the square
 
 /// The bodies as they are read aloud.
 QString SpokenText(const CellText &text) {
@@ -82,101 +27,52 @@ QString SpokenText(const CellText &text) {
 } // namespace
 
 ChartFrame::ChartFrame(const StyleOfChart &style, const QString &labelArray, QWidget *parent)
-    : QWidget(parent), style_(style.style), labels_(style.cells), outlines_(CellOutlines(style.style)),
-      font_(font()) {
+    : QWidget(parent), labels_(style.cells), drawing_({style.style, {}, {}, {}}, ChartFont(font())) {
     for (std::size_t index = 0; index < cells_.size(); ++index) {
-        cells_.at(index) = new CellLabel(this);
+        cells_.at(index) = new CellLabel(drawing_, index, &ChartDrawing::PaintCell, this);
         cells_.at(index)->setObjectName(
             QStringLiteral("%1_%2").arg(labelArray).arg(static_cast<int>(index) + style.firstIndex));
-        if (HasSignNumbers()) {
-            numbers_.at(index) = new CellLabel(this);
+        if (style.style == ChartStyle::North) {
+            numbers_.at(index) = new CellLabel(drawing_, index, &ChartDrawing::PaintNumber, this);
             numbers_.at(index)->setObjectName(QStringLiteral("Lab_NHouseNo_%1").arg(index + 1));
-            numbers_.at(index)->SetNameColour(figureColour);
         }
     }
 }
 
-void ChartFrame::SetHeading(const ChartHeading &heading) {
-    heading_ = heading;
+void ChartFrame::Show(const ChartForm &form, const ChartHeading &heading,
+                      const std::array<std::string, 12> &signNames) {
+    drawing_ = ChartDrawing(ContentOf(form, drawing_.Content().style, heading), ChartFont(font()));
     setAccessibleName(
         QStringList{heading.title, heading.name, heading.moment, heading.place}.join(QStringLiteral(", ")));
-    update();
-}
-
-void ChartFrame::SetCells(const ChartForm &form, const std::array<std::string, 12> &signNames) {
-    const bool isShown = form.VisibleFrame == style_;
     for (std::size_t index = 0; index < cells_.size(); ++index) {
-        texts_.at(index) = isShown ? TextOf(form.bodies.at(index), form) : CellText{};
-        cells_.at(index)->setText(QString::fromStdString((form.*labels_).at(index)));
+        cells_.at(index)->setText(TextOf((form.*labels_).at(index)));
         QString place;
         std::size_t sign = index;
-        if (HasSignNumbers()) {
-            numbers_.at(index)->setText(QString::fromStdString(form.Lab_NHouseNo.at(index)));
+        if (numbers_.at(index) != nullptr) {
+            numbers_.at(index)->setText(drawing_.Content().numbers.at(index));
             place = tr("House %1, ").arg(index + 1);
             sign = static_cast<std::size_t>(std::max<int>(form.NorthRasiOfHouse.at(index), 1) - 1);
         }
         cells_.at(index)->setAccessibleName(
             QStringLiteral("%1%2: %3")
-                .arg(place, QString::fromStdString(signNames.at(sign)), SpokenText(texts_.at(index))));
+                .arg(place, TextOf(signNames.at(sign)), SpokenText(drawing_.Content().cells.at(index))));
     }
-    FitCells();
     LayOut();
 }
 
 QPolygonF ChartFrame::CellOutline(std::size_t cell) const {
-    QPolygonF outline = outlines_.at(cell);
+    QPolygonF outline = drawing_.CellOutline(cell);
     for (QPointF &corner : outline) {
         corner = square_.topLeft() + corner * square_.width();
     }
     return outline;
 }
 
-PlacedText ChartFrame::PlacedNumber(std::size_t house) const {
-    const QString text = numbers_.at(house)->text();
-    if (text.isEmpty()) {
-        return {};
-    }
-    const double width = font_.Width(text, Tone::Name) * signNumberSize;
-    const double height = font_.Ascent() * signNumberSize;
-    // Two borders meet at the corner at a right angle, so a box as wide as two digits clears both of them
-    // at half its width and height from the corner.
-    const double widest = font_.Width(QStringLiteral("12"), Tone::Name) * signNumberSize;
-    const QPointF corner = NumberCorner(house);
-    QPointF inward = MiddleOf(outlines_.at(house)) - corner;
-    inward /= std::hypot(inward.x(), inward.y());
-    const QPointF middle = corner + inward * ((widest + height) / 2 + signNumberMargin);
-    return {signNumberSize, {{text, Tone::Name, middle + QPointF(-width / 2, height / 2)}}};
-}
-
-std::vector<CellEdge> ChartFrame::TextEdges(std::size_t cell) const {
-    std::vector<CellEdge> edges = EdgesOf(outlines_.at(cell));
-    if (HasSignNumbers() && !numbers_.at(cell)->text().isEmpty()) {
-        edges.push_back(
-            BorderAtNumber(PlacedNumber(cell), font_, NumberCorner(cell), MiddleOf(outlines_.at(cell))));
-    }
-    return edges;
-}
-
-void ChartFrame::FitCells() {
-    std::vector<CellFitter> fitters;
-    std::array<double, 12> largest{};
-    for (std::size_t index = 0; index < cells_.size(); ++index) {
-        fitters.emplace_back(texts_.at(index), TextEdges(index), font_);
-        largest.at(index) = fitters.back().IsEmpty() ? usualTextSize : fitters.back().LargestSize(cellMargin);
-    }
-    const double common = CommonTextSize(largest);
-    for (std::size_t index = 0; index < cells_.size(); ++index) {
-        placed_.at(index) = fitters[index].IsEmpty()
-                                ? PlacedText{}
-                                : fitters[index].Place(std::min(common, largest.at(index)), cellMargin);
-    }
-}
-
 void ChartFrame::LayOut() {
     // Lines are sharp where cell borders fall on whole device pixels: sides are multiples of 12 of them,
     // since the grids have 3 and 4 fields.
     const double ratio = devicePixelRatioF();
-    const double heading = HasSignNumbers() ? headingHeight : 0;
+    const double heading = drawing_.HeadingHeight();
     const double room = std::min(width() / (1 + 2 * outerMargin), height() / (1 + 2 * outerMargin + heading));
     const double side = std::max(std::floor(room * ratio / 12), 1.0) * 12 / ratio;
     const double lineDots = std::max(std::round(side * ratio * 0.0019), 1.0);
@@ -188,11 +84,10 @@ void ChartFrame::LayOut() {
 
     for (std::size_t index = 0; index < cells_.size(); ++index) {
         const QRect area = CellOutline(index).boundingRect().toAlignedRect();
-        cells_.at(index)->SetChartFont(font_);
-        cells_.at(index)->SetPlacedText(area, placed_.at(index), square_.topLeft(), side);
-        if (HasSignNumbers()) {
-            numbers_.at(index)->SetChartFont(font_);
-            numbers_.at(index)->SetPlacedText(area, PlacedNumber(index), square_.topLeft(), side);
+        for (CellLabel *label : {cells_.at(index), numbers_.at(index)}) {
+            if (label != nullptr) {
+                label->Cover(area, square_);
+            }
         }
     }
     update();
@@ -205,37 +100,14 @@ void ChartFrame::resizeEvent(QResizeEvent * /*event*/) {
 void ChartFrame::changeEvent(QEvent *event) {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::FontChange) {
-        font_ = ChartFont(font());
-        FitCells();
+        drawing_ = ChartDrawing(drawing_.Content(), ChartFont(font()));
         LayOut();
     }
 }
 
 void ChartFrame::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    for (const QLineF &line : InnerLines(style_)) {
-        const bool isDiagonal = line.dx() != 0 && line.dy() != 0;
-        painter.setPen(QPen(lineColour, lineWidth_ * (isDiagonal ? diagonalLineWidth : 1), Qt::SolidLine,
-                            Qt::FlatCap, Qt::MiterJoin));
-        painter.drawLine(square_.topLeft() + line.p1() * square_.width(),
-                         square_.topLeft() + line.p2() * square_.width());
-    }
-    painter.setPen(QPen(lineColour, 2 * lineWidth_, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    painter.drawRect(square_);
-    DrawHeading(painter, heading_, HasSignNumbers() ? HeadingShape::Band : HeadingShape::Block, HeadingArea(),
-                square_.width(), font_);
-}
-
-QRectF ChartFrame::HeadingArea() const {
-    const double side = square_.width();
-    if (HasSignNumbers()) {
-        return {square_.left(), square_.top() - headingHeight * side, side,
-                (headingHeight - headingGap) * side};
-    }
-    const QRectF centre = OpenCentre(style_);
-    const QRectF area(square_.topLeft() + centre.topLeft() * side, centre.size() * side);
-    return area.marginsRemoved(QMarginsF(1, 1, 1, 1) * (0.02 * side));
+    drawing_.PaintFrame(painter, square_, lineWidth_);
 }
 
 } // namespace kelvaro

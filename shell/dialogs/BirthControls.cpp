@@ -1,11 +1,11 @@
 #include "shell/dialogs/BirthControls.h"
 
+#include "drawing/ShownText.h"
+#include "drawing/TextOf.h"
 #include "horoscope/entry/BirthRemarks.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/ListedChoice.h"
-#include "shell/widgets/ShownText.h"
-#include "shell/widgets/TextOf.h"
 #include "ui_BirthDialog.h"
 
 #include <QAccessible>

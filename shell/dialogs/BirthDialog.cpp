@@ -1,5 +1,6 @@
 #include "shell/dialogs/BirthDialog.h"
 
+#include "drawing/TextOf.h"
 #include "horoscope/Horoscope.h"
 #include "horoscope/entry/BirthStorage.h"
 #include "runtime/Now.h"
@@ -13,7 +14,6 @@
 #include "shell/widgets/ListedChoice.h"
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/SpokenNames.h"
-#include "shell/widgets/TextOf.h"
 #include "ui_BirthDialog.h"
 
 #include <QGuiApplication>

@@ -1,13 +1,13 @@
 #include "shell/dialogs/ChartListDialog.h"
 
+#include "drawing/ShownText.h"
+#include "drawing/TextOf.h"
 #include "horoscope/entry/BirthRemarks.h"
 #include "horoscope/entry/BirthStorage.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
-#include "shell/widgets/ShownText.h"
 #include "shell/widgets/SpokenNames.h"
-#include "shell/widgets/TextOf.h"
 #include "store/charts/ChartStore.h"
 #include "ui_ChartListDialog.h"
 

@@ -1,7 +1,7 @@
 #include "shell/dialogs/CityDialog.h"
 
+#include "drawing/TextOf.h"
 #include "shell/widgets/ListedChoice.h"
-#include "shell/widgets/TextOf.h"
 #include "ui_CityDialog.h"
 
 namespace kelvaro {

@@ -1,7 +1,7 @@
 #include "shell/dialogs/CountryDialog.h"
 
+#include "drawing/TextOf.h"
 #include "shell/widgets/FormKeys.h"
-#include "shell/widgets/TextOf.h"
 #include "ui_CountryDialog.h"
 
 namespace kelvaro {

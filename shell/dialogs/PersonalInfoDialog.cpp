@@ -1,6 +1,6 @@
 #include "shell/dialogs/PersonalInfoDialog.h"
 
-#include "shell/widgets/TextOf.h"
+#include "drawing/TextOf.h"
 #include "ui_PersonalInfoDialog.h"
 
 #include <array>

@@ -1,11 +1,11 @@
 #include "shell/dialogs/PreferencesDialog.h"
 
+#include "drawing/TextOf.h"
 #include "horoscope/Horoscope.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/SpokenNames.h"
-#include "shell/widgets/TextOf.h"
 #include "shell/widgets/TypeAhead.h"
 #include "ui_PreferencesDialog.h"
 

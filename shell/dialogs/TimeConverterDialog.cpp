@@ -1,11 +1,11 @@
 #include "shell/dialogs/TimeConverterDialog.h"
 
+#include "drawing/TextOf.h"
 #include "horoscope/Horoscope.h"
 #include "runtime/Now.h"
 #include "shell/dialogs/BirthControls.h"
 #include "shell/widgets/FieldFocus.h"
 #include "shell/widgets/ListedChoice.h"
-#include "shell/widgets/TextOf.h"
 #include "ui_TimeConverterDialog.h"
 
 namespace kelvaro {

@@ -1,9 +1,9 @@
 #include "shell/help/AboutBox.h"
 
 #include "clock/ZoneClock.h"
+#include "drawing/ShownText.h"
+#include "drawing/TextOf.h"
 #include "shell/widgets/HouseIcon.h"
-#include "shell/widgets/ShownText.h"
-#include "shell/widgets/TextOf.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>

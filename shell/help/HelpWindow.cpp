@@ -1,6 +1,7 @@
 #include "shell/help/HelpWindow.h"
 
-#include "shell/widgets/ChartColours.h"
+#include "drawing/ChartColours.h"
+#include "shell/widgets/ParchmentPalette.h"
 
 #include <QFile>
 #include <QScrollBar>

@@ -1,16 +1,16 @@
 #include "shell/print/PrintView.h"
 
+#include "drawing/ChartColours.h"
+#include "drawing/ShownText.h"
+#include "drawing/TextOf.h"
 #include "horoscope/Horoscope.h"
 #include "report/ReportFile.h"
 #include "shell/print/DirectPrint.h"
 #include "shell/print/ReportBox.h"
 #include "shell/print/ReportFileChoice.h"
-#include "shell/widgets/ChartColours.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
-#include "shell/widgets/ShownText.h"
-#include "shell/widgets/TextOf.h"
 
 #include <QFile>
 #include <QFileInfo>

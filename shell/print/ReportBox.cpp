@@ -1,11 +1,12 @@
 #include "shell/print/ReportBox.h"
 
+#include "drawing/ChartColours.h"
+#include "drawing/TextOf.h"
 #include "report/ReportFile.h"
 #include "report/TextLayout.h"
 #include "shell/print/ReportPrinter.h"
 #include "shell/views/HoroscopeView.h"
-#include "shell/widgets/ChartColours.h"
-#include "shell/widgets/TextOf.h"
+#include "shell/widgets/ParchmentPalette.h"
 
 #include <QFontMetricsF>
 #include <QScrollBar>

@@ -1,8 +1,8 @@
 #include "shell/print/ReportFileChoice.h"
 
+#include "drawing/ShownText.h"
 #include "report/ReportFile.h"
 #include "shell/widgets/MessageBoxes.h"
-#include "shell/widgets/ShownText.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,8 +1,8 @@
 #include "shell/print/ReportPrinter.h"
 
+#include "drawing/TextOf.h"
 #include "report/ReportFile.h"
 #include "report/TextLayout.h"
-#include "shell/widgets/TextOf.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "shell/views/ChartView.h"
 
+#include "drawing/ChartHeading.h"
 #include "horoscope/Horoscope.h"
-#include "shell/views/ViewHeading.h"
 
 #include <QVBoxLayout>
 
@@ -26,8 +26,7 @@ void ChartView::Refresh(const Horoscope &horoscope) {
     const ChartHeading heading = HeadingOf(horoscope.state, title_);
     for (const StyleOfChart &style : chartStyles) {
         ChartFrame &frame = Frame(style.style);
-        frame.SetHeading(heading);
-        frame.SetCells(form, horoscope.state.names.RasiNames);
+        frame.Show(form, heading, horoscope.state.names.RasiNames);
         frame.setVisible(form.VisibleFrame == style.style);
     }
 }

@@ -1,10 +1,11 @@
 #include "shell/views/DasaView.h"
 
+#include "drawing/ChartColours.h"
 #include "horoscope/Horoscope.h"
 #include "runtime/MomentText.h"
 #include "runtime/Now.h"
-#include "shell/widgets/ChartColours.h"
 #include "shell/widgets/HouseIcon.h"
+#include "shell/widgets/ParchmentPalette.h"
 #include "shell/widgets/SpokenNames.h"
 
 #include <QScopedValueRollback>

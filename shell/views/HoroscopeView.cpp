@@ -1,6 +1,6 @@
 #include "shell/views/HoroscopeView.h"
 
-#include "shell/widgets/ChartColours.h"
+#include "shell/widgets/ParchmentPalette.h"
 
 #include <QEvent>
 

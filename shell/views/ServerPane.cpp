@@ -1,9 +1,10 @@
 #include "shell/views/ServerPane.h"
 
+#include "drawing/ChartColours.h"
+#include "drawing/ShownText.h"
 #include "shell/views/PageText.h"
-#include "shell/widgets/ChartColours.h"
 #include "shell/widgets/HouseIcon.h"
-#include "shell/widgets/ShownText.h"
+#include "shell/widgets/ParchmentPalette.h"
 
 #include <QDesktopServices>
 #include <QPushButton>

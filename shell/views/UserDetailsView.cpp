@@ -1,9 +1,10 @@
 #include "shell/views/UserDetailsView.h"
 
+#include "drawing/ChartColours.h"
+#include "drawing/ShownText.h"
+#include "drawing/TextOf.h"
 #include "horoscope/Horoscope.h"
-#include "shell/widgets/ChartColours.h"
-#include "shell/widgets/ShownText.h"
-#include "shell/widgets/TextOf.h"
+#include "shell/widgets/ParchmentPalette.h"
 
 #include <QScrollArea>
 #include <QStyle>

@@ -1,31 +1,11 @@
 #include "shell/views/ViewHeading.h"
 
-#include "shell/widgets/ChartColours.h"
-#include "shell/widgets/ShownText.h"
-#include "shell/widgets/TextOf.h"
+#include "drawing/ChartColours.h"
+#include "drawing/ChartHeading.h"
 
 #include <utility>
 
 namespace kelvaro {
-
-namespace {
-
-constexpr qsizetype longestPart = 60; // letters of a name or a place
-
-} // namespace
-
-ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
-    const auto text = [](const std::string &field) { return Breakable(OneLine(TextOf(field), longestPart)); };
-    const auto twoDigits = [&](const std::string &field) { return text(field).rightJustified(2, u'0'); };
-    QStringList place{text(state.birth.BirthCity), text(state.birth.BirthCountry)};
-    place.removeAll(QString());
-    return {title, text(state.birth.ChartName),
-            QStringLiteral("%1/%2/%3  %4:%5")
-                .arg(twoDigits(state.birth.BirthDay), text(state.birth.BirthMonth),
-                     text(state.birth.BirthYear), twoDigits(state.birth.BirthHour),
-                     twoDigits(state.birth.BirthMinute)),
-            place.join(QStringLiteral(", "))};
-}
 
 ViewHeading::ViewHeading(QString title, QWidget *parent) : QLabel(parent), title_(std::move(title)) {
     setTextFormat(Qt::RichText);

@@ -1,16 +1,12 @@
 #pragma once
 
 #include "horoscope/record/HoroscopeState.h"
-#include "shell/charts/ChartHeading.h"
 
 #include <QLabel>
 
 namespace kelvaro {
 
-/// The heading of a view: its title, and whose horoscope it is. Long names are shortened.
-ChartHeading HeadingOf(const HoroscopeState &state, const QString &title);
-
-/// The same as a line of text above a table.
+/// The heading of a view as a line of text above a table: its title, and whose horoscope it is.
 class ViewHeading : public QLabel {
 public:
     explicit ViewHeading(QString title, QWidget *parent = nullptr);

@@ -1,8 +1,8 @@
 #include "shell/widgets/ListedChoice.h"
 
+#include "drawing/TextOf.h"
 #include "runtime/Texts.h"
 #include "shell/widgets/Candidates.h"
-#include "shell/widgets/TextOf.h"
 #include "shell/widgets/TypeAhead.h"
 
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
 #include "shell/widgets/MessageBoxes.h"
 
+#include "drawing/ShownText.h"
+#include "drawing/TextOf.h"
 #include "shell/widgets/HouseIcon.h"
-#include "shell/widgets/ShownText.h"
-#include "shell/widgets/TextOf.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>

@@ -1,7 +1,8 @@
 #include "shell/widgets/TextGridView.h"
 
-#include "shell/widgets/ChartColours.h"
-#include "shell/widgets/TextOf.h"
+#include "drawing/ChartColours.h"
+#include "drawing/TextOf.h"
+#include "shell/widgets/ParchmentPalette.h"
 
 #include <QApplication>
 #include <QClipboard>

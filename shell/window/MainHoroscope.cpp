@@ -1,6 +1,7 @@
 #include "shell/window/MainHoroscope.h"
 
-#include "shell/widgets/ChartColours.h"
+#include "drawing/ChartColours.h"
+#include "shell/widgets/ParchmentPalette.h"
 #include "shell/window/HoroscopeViews.h"
 
 #include <QHeaderView>

@@ -1,6 +1,6 @@
 #include "shell/window/StatusPanel.h"
 
-#include "shell/widgets/ChartColours.h"
+#include "drawing/ChartColours.h"
 
 #include <QCoreApplication>
 #include <QHBoxLayout>

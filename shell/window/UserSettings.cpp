@@ -1,7 +1,7 @@
 #include "shell/window/UserSettings.h"
 
+#include "drawing/TextOf.h"
 #include "runtime/RuntimeError.h"
-#include "shell/widgets/TextOf.h"
 
 #include <utility>
 

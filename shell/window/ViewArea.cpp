@@ -1,7 +1,7 @@
 #include "shell/window/ViewArea.h"
 
 #include "shell/views/ViewWithPanes.h"
-#include "shell/widgets/ChartColours.h"
+#include "shell/widgets/ParchmentPalette.h"
 
 #include <QVBoxLayout>
 

@@ -1,6 +1,6 @@
+#include "drawing/ChartGeometry.h"
+#include "drawing/PolygonText.h"
 #include "shell/charts/ChartFrame.h"
-#include "shell/charts/ChartGeometry.h"
-#include "shell/charts/PolygonText.h"
 
 #include <QImage>
 #include <QPainter>
@@ -184,7 +184,7 @@ void ChartViewTest::TextKeepsInsideItsCell() {
         for (const std::size_t count : {1U, 4U, 8U, 12U}) {
             form.bodies.fill(BodiesOf(count, figure));
             ChartFrame frame(drawing, QStringLiteral("Cell"), nullptr);
-            frame.SetCells(form, {});
+            frame.Show(form, {}, {});
             for (const QSize size : {QSize(200, 230), QSize(331, 300), QSize(1090, 740), QSize(2000, 2000)}) {
                 frame.resize(size);
                 frame.grab(QRect(0, 0, 1, 1)); // a hidden widget hears of its size when it is drawn
@@ -206,7 +206,7 @@ void ChartViewTest::OnlyAFullCellShrinksAlone() {
         form.bodies.at(0) = {{Body::Ketu, "Ket", "12.5"}};
         form.bodies.at(1) = BodiesOf(bodiesBeside, "29.60");
         ChartFrame frame(chartStyles.front(), QStringLiteral("Cell"), nullptr);
-        frame.SetCells(form, {});
+        frame.Show(form, {}, {});
         frame.resize(700, 700);
         frame.grab(QRect(0, 0, 1, 1));
         const auto ink = InkOf(*frame.findChild<QWidget *>(QStringLiteral("Cell_0")));
@@ -267,8 +267,7 @@ void ChartViewTest::NoNameSpreadsOverTheCells() {
         ChartForm form;
         form.VisibleFrame = style;
         ChartFrame frame(chartStyles.at(static_cast<std::size_t>(style)), QStringLiteral("Cell"), nullptr);
-        frame.SetCells(form, {});
-        frame.SetHeading({QStringLiteral("Rasi"), name, QStringLiteral("14/Jul/1965"), name});
+        frame.Show(form, {QStringLiteral("Rasi"), name, QStringLiteral("14/Jul/1965"), name}, {});
         frame.resize(420, 420);
         const QImage image = frame.grab().toImage();
         const QRect square = frame.Square().toAlignedRect().adjusted(2, 2, -2, -2);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/widgets/TextOf.h"
+#include "drawing/TextOf.h"
 #include "store/database/DatabaseFile.h"
 
 #include <QComboBox>

@@ -1,4 +1,6 @@
-#include "shell/widgets/ChartColours.h"
+#include "shell/widgets/ParchmentPalette.h"
+
+#include "drawing/ChartColours.h"
 
 namespace kelvaro {
 

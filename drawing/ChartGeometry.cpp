@@ -1,4 +1,4 @@
-#include "shell/charts/ChartGeometry.h"
+#include "drawing/ChartGeometry.h"
 
 #include <span>
 

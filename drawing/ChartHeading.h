@@ -1,19 +1,23 @@
 #pragma once
 
-#include "shell/charts/PolygonText.h"
+#include "drawing/PolygonText.h"
+#include "horoscope/record/HoroscopeState.h"
 
 #include <QPainter>
 #include <QString>
 
 namespace kelvaro {
 
-/// What stands in the middle of a chart, or above it: which chart it is, and whose.
+/// What stands in the middle of a chart, or above it: which chart it is, and whose. Empty parts are left out.
 struct ChartHeading {
     QString title;
     QString name;
     QString moment;
     QString place;
 };
+
+/// The heading of a horoscope's chart or table. Long names are shortened.
+ChartHeading HeadingOf(const HoroscopeState &state, const QString &title);
 
 enum class HeadingShape {
     Block, ///< every item on its own line

@@ -1,4 +1,4 @@
-#include "shell/charts/PolygonText.h"
+#include "drawing/PolygonText.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "shell/widgets/ShownText.h"
+#include "drawing/ShownText.h"
 
 #include <QTextBoundaryFinder>
 #include <QTextDocument>

@@ -1,0 +1,130 @@
+#include "drawing/ChartHeading.h"
+
+#include "drawing/ChartColours.h"
+#include "drawing/PutText.h"
+#include "drawing/ShownText.h"
+#include "drawing/TextLines.h"
+#include "drawing/TextOf.h"
+
+#include <QColor>
+#include <QPaintDevice>
+#include <QStringList>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr qsizetype longestPart = 60; // letters of a name or a place
+constexpr double lineGap = 0.42;      // in font sizes
+constexpr double leastScale = 0.4;
+constexpr double scaleStep = 0.05;
+
+struct HeadingLine {
+    QString text;
+    double size = 0; ///< in sides of the chart
+    bool isBold = false;
+    QColor colour;
+};
+
+std::vector<HeadingLine> LinesOf(const ChartHeading &heading, HeadingShape shape) {
+    std::vector<HeadingLine> lines{{heading.title, 0.046, true, lineColour}};
+    if (shape == HeadingShape::Block) {
+        lines.push_back({heading.name, 0.0285, false, nameColour});
+        lines.push_back({heading.moment, 0.0225, false, figureColour});
+        lines.push_back({heading.place, 0.0225, false, figureColour});
+    } else {
+        QStringList rest{heading.name, heading.moment, heading.place};
+        rest.removeAll(QString());
+        lines.push_back({rest.join(QStringLiteral("   \u00b7   ")), 0.0235, false, nameColour});
+    }
+    std::erase_if(lines, [](const HeadingLine &line) { return line.text.isEmpty(); });
+    return lines;
+}
+
+/// The lines at one size, measured for an area.
+class SetHeading {
+public:
+    SetHeading(const std::vector<HeadingLine> &lines, const QRectF &area, double side, const ChartFont &font,
+               const QPaintDevice &device)
+        : area_(area) {
+        for (const HeadingLine &line : lines) {
+            const double size = line.size * side;
+            Part part{font.AtSize(size, device.logicalDpiY(), line.isBold),
+                      line.colour,
+                      {},
+                      0,
+                      parts_.empty() ? 0 : lineGap * size};
+            part.lines = TextLines(line.text, part.font, device, area.width());
+            part.lineHeight = QFontMetricsF(part.font, &device).height();
+            for (const TextLine &each : part.lines) {
+                width_ = std::max(width_, each.width);
+            }
+            height_ += part.gap + part.lineHeight * static_cast<double>(part.lines.size());
+            parts_.push_back(std::move(part));
+        }
+    }
+
+    bool Fits() const { return width_ <= area_.width() && height_ <= area_.height(); }
+
+    void Draw(QPainter &painter) const {
+        double top = area_.center().y() - height_ / 2;
+        for (const Part &part : parts_) {
+            const double ascent = QFontMetricsF(part.font, painter.device()).ascent();
+            painter.setPen(part.colour);
+            top += part.gap;
+            for (const TextLine &line : part.lines) {
+                PutText(painter, {area_.center().x() - line.width / 2, top + ascent}, line.text, part.font);
+                top += part.lineHeight;
+            }
+        }
+    }
+
+private:
+    struct Part {
+        QFont font;
+        QColor colour;
+        std::vector<TextLine> lines;
+        double lineHeight;
+        double gap; ///< above the part
+    };
+
+    std::vector<Part> parts_;
+    QRectF area_;
+    double width_ = 0;
+    double height_ = 0;
+};
+
+} // namespace
+
+ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
+    const auto text = [](const std::string &field) { return Breakable(OneLine(TextOf(field), longestPart)); };
+    const auto twoDigits = [&](const std::string &field) { return text(field).rightJustified(2, u'0'); };
+    QStringList place{text(state.birth.BirthCity), text(state.birth.BirthCountry)};
+    place.removeAll(QString());
+    return {title, text(state.birth.ChartName),
+            QStringLiteral("%1/%2/%3  %4:%5")
+                .arg(twoDigits(state.birth.BirthDay), text(state.birth.BirthMonth),
+                     text(state.birth.BirthYear), twoDigits(state.birth.BirthHour),
+                     twoDigits(state.birth.BirthMinute)),
+            place.join(QStringLiteral(", "))};
+}
+
+void DrawHeading(QPainter &painter, const ChartHeading &heading, HeadingShape shape, const QRectF &area,
+                 double side, const ChartFont &font) {
+    const std::vector<HeadingLine> lines = LinesOf(heading, shape);
+    double scale = 1;
+    for (;;) {
+        const SetHeading set(lines, area, side * scale, font, *painter.device());
+        if (set.Fits() || scale <= leastScale) {
+            set.Draw(painter);
+            return;
+        }
+        scale -= scaleStep;
+    }
+}
+
+} // namespace kelvaro

@@ -1,0 +1,30 @@
+#include "drawing/TextLines.h"
+
+#include <QTextLayout>
+
+namespace kelvaro {
+
+std::vector<TextLine> TextLines(const QString &text, const QFont &font, const QPaintDevice &device,
+                                double width) {
+    if (text.isEmpty()) {
+        return {};
+    }
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QTextLayout layout(text, QFont(font, &device));
+    layout.setTextOption(option);
+    layout.beginLayout();
+    std::vector<TextLine> lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        QString piece = text.mid(line.textStart(), line.textLength());
+        while (piece.endsWith(u' ')) {
+            piece.chop(1);
+        }
+        lines.push_back({piece, line.naturalTextWidth()});
+    }
+    layout.endLayout();
+    return lines;
+}
+
+} // namespace kelvaro
