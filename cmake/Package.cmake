@@ -24,7 +24,7 @@ foreach(size 16 22 24 32)
     DESTINATION share/icons/hicolor/${size}x${size}/apps RENAME kelvaro-basic.png)
 endforeach()
 install(FILES packaging/kelvaro-basic.desktop DESTINATION share/applications)
-install(FILES packaging/copyright docs/guide.md DESTINATION ${documents_folder})
+install(FILES packaging/copyright drawing/fonts/OFL-1.1.txt docs/guide.md DESTINATION ${documents_folder})
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME kelvaro-basic)
