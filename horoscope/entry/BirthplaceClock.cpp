@@ -20,6 +20,11 @@ double HoursOf(const ClockOffset &offset) {
     return static_cast<double>(offset.fromGreenwich.count()) / secondsOfHour;
 }
 
+/// The nearest whole minute, which is what a zone of the tables can state.
+std::chrono::minutes NearestMinute(const ClockOffset &offset) {
+    return std::chrono::round<std::chrono::minutes>(offset.fromGreenwich);
+}
+
 std::string Counted(std::int64_t count, std::string_view what) {
     std::string text = std::to_string(count);
     return text.append(" ").append(what).append(count == 1 ? " " : "s ");
@@ -113,8 +118,7 @@ std::optional<std::int32_t> RowFor(const ClockOffset &offset, const std::vector<
 /// The form of a zone to add, to the minute, which is what it can state.
 store::ZoneFields NewZone(const ClockOffset &offset, const std::string &city, std::int32_t countryId) {
     constexpr int hour = 60;
-    const auto minutes =
-        std::chrono::round<std::chrono::minutes>(std::chrono::abs(offset.fromGreenwich)).count();
+    const auto minutes = std::chrono::abs(NearestMinute(offset)).count();
     store::ZoneFields zone;
     zone.countryId = countryId;
     zone.place = city + (offset.isLocalMeanTime ? " Local Mean Time"
@@ -135,7 +139,10 @@ double SignedHours(double hours, std::string_view direction) {
 bool AreHoursOf(const ClockOffset &offset, double hours) {
     constexpr double halfOfLastPlace = 0.005;
     constexpr double roundingOfNumbers = 1e-9;
-    return std::abs(HoursOf(offset) - hours) <= halfOfLastPlace + roundingOfNumbers;
+    const auto isStated = [hours](const ClockOffset &stood) {
+        return std::abs(HoursOf(stood) - hours) <= halfOfLastPlace + roundingOfNumbers;
+    };
+    return isStated(offset) || isStated({NearestMinute(offset)});
 }
 
 std::optional<ClockCheck> CheckClock(const StatedClock &stated) {

@@ -28,7 +28,8 @@ struct StatedClock {
 /// Hours from Greenwich, East positive, of an offset with its letter.
 double SignedHours(double hours, std::string_view direction);
 
-/// Whether stated hours, which the tables keep with two places, are an offset of the records.
+/// Whether stated hours, which the tables take to the minute and keep with two places, are an offset of the
+/// records.
 bool AreHoursOf(const ClockOffset &offset, double hours);
 
 /// What the records say of a stated clock.

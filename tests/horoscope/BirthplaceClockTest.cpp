@@ -141,6 +141,26 @@ TEST_F(BirthplaceClockTest, OffersAZoneThatTheListLacks) {
               (store::ZoneFields{CountryNamed("India"), 0, "Chennai Local Mean Time", "5", "53", "E"}));
 }
 
+/// Local mean time has seconds, of which a zone that is added keeps none.
+TEST_F(BirthplaceClockTest, TakesTheZoneThatItOfferedToAdd) {
+    store::TimeZoneMaster master(connection_);
+    const struct {
+        const char *city, *country;
+    } places[]{
+        {"Chicago", "United States"}, {"Chennai", "India"}, {"Paris", "France"}, {"Lisbon", "Portugal"}};
+    for (const auto &[city, country] : places) {
+        SCOPED_TRACE(city);
+        const CivilMoment birth{{1850, 1, 1}, {6, 0, 0}};
+        const auto offered = Advice(city, country, birth, std::nullopt);
+        ASSERT_TRUE(offered && offered->newZone);
+        ASSERT_TRUE(master.Add(*offered->newZone, [](const Notice &) {}).isStored);
+        const auto taken = Advice(city, country, birth, std::nullopt);
+        ASSERT_EQ(RowTaken(*taken), offered->newZone->place);
+        const store::Zone row = lists_.ZoneNumbered(*taken->zoneNumber);
+        EXPECT_FALSE(Advice(city, country, birth, SignedHours(row.hours, row.direction))->isWarning);
+    }
+}
+
 TEST_F(BirthplaceClockTest, IsSilentBeyondTheRecords) {
     EXPECT_FALSE(Advice("Chicago", "United States", {{2038, 7, 4}, {8, 15, 0}}, -6.0));
     EXPECT_FALSE(ReadClock("America/Nowhere", {{1990, 7, 4}, {8, 15, 0}}));
