@@ -46,13 +46,15 @@ bool IsBetweenWinters(const date::time_zone &zone, const date::sys_info &period)
            isWinter(zone.get_info(period.end));
 }
 
-/// Whether a marked period is put back and not forward: a neighbour that is not marked is ahead of it.
+/// Whether a marked period is put back and not forward: it lies between two that are ahead of it, of which
+/// the records mark one at most. Clocks that came from another standard or went to one are ahead on one side
+/// only.
 bool IsPutBack(const date::time_zone &zone, const date::sys_info &period) {
-    const auto isAheadStandard = [&period](const date::sys_info &other) {
-        return other.save == std::chrono::minutes{0} && other.offset > period.offset;
-    };
-    return isAheadStandard(zone.get_info(period.begin - std::chrono::seconds{1})) ||
-           isAheadStandard(zone.get_info(period.end));
+    const date::sys_info before = zone.get_info(period.begin - std::chrono::seconds{1});
+    const date::sys_info after = zone.get_info(period.end);
+    const bool isStandardBeside =
+        before.save == std::chrono::minutes{0} || after.save == std::chrono::minutes{0};
+    return isStandardBeside && before.offset > period.offset && after.offset > period.offset;
 }
 
 bool IsSummer(const date::time_zone &zone, const date::sys_info &period) {

@@ -67,7 +67,9 @@ ClockSurvey SurveyClocks(store::Connection &connection) {
         try {
             const auto advice = surveyor.AdviceOn(charts.Read(listed.key));
             if (!advice) {
-                survey.unknown.push_back({listed, "There are no records for this place and year."});
+                survey.unknown.push_back({listed, HasZoneRecords()
+                                                      ? "There are no records for this place and year."
+                                                      : "This machine has no records of time zones."});
             } else if (advice->isWarning) {
                 survey.differing.push_back({listed, advice->text});
             } else {
