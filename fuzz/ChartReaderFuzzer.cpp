@@ -7,8 +7,8 @@
 #include "store/charts/ChartStore.h"
 #include "store/database/Recordset.h"
 #include "tests/horoscope/MemorySettings.h"
-#include "tools/horoscope-json/BirthReader.h"
-#include "tools/horoscope-json/RunStatus.h"
+#include "tools/births/BirthReader.h"
+#include "tools/births/RunStatus.h"
 
 #include <fuzzer/FuzzedDataProvider.h>
 

@@ -1,6 +1,7 @@
 #include "shell/print/PrintView.h"
 
 #include "drawing/ChartColours.h"
+#include "drawing/FileName.h"
 #include "drawing/ShownText.h"
 #include "drawing/TextOf.h"
 #include "horoscope/Horoscope.h"
@@ -146,7 +147,7 @@ void PrintView::Compose() {
 
 void PrintView::SaveAs(const ReportFileKind &kind) {
     const QString name =
-        AskReportFile(this, kind, folder_, ReportFileName(TextOf(horoscope_->state.birth.ChartName)));
+        AskReportFile(this, kind, folder_, FileNameOf(TextOf(horoscope_->state.birth.ChartName)));
     if (name.isEmpty()) {
         return;
     }

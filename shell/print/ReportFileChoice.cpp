@@ -1,12 +1,10 @@
 #include "shell/print/ReportFileChoice.h"
 
-#include "drawing/ShownText.h"
 #include "report/ReportFile.h"
 #include "shell/widgets/MessageBoxes.h"
 
 #include <QDir>
 #include <QFileDialog>
-#include <QRegularExpression>
 #include <QStandardPaths>
 
 namespace kelvaro {
@@ -30,19 +28,6 @@ bool MayReplace(QWidget *parent, const QString &title, const QString &name) {
 
 const ReportFileKind textFile{"Text Files (*.Txt)", ".Txt", TextFileContent};
 const ReportFileKind htmlFile{"HTML Files (*.HTML)", ".HTML", HtmlFileContent};
-
-QString ReportFileName(const QString &chartName) {
-    constexpr qsizetype mostCharacters = 60;
-    // Of all file systems that a report may be carried to.
-    static const QRegularExpression refused(QStringLiteral(R"([/\\:*?"<>|])"));
-    static const QRegularExpression ends(QStringLiteral(R"(^[\s.]+|[\s.]+$)"));
-    QString name = chartName.left(mostCharacters);
-    if (!name.isEmpty() && name.back().isHighSurrogate()) {
-        name.chop(1);
-    }
-    name = OneLine(name, mostCharacters).replace(refused, QStringLiteral("_")).remove(ends);
-    return name.isEmpty() ? QStringLiteral("Horoscope") : name;
-}
 
 QString AskReportFile(QWidget *parent, const ReportFileKind &kind, const QString &folder,
                       const QString &suggestedName) {

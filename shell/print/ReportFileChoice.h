@@ -17,10 +17,6 @@ struct ReportFileKind {
 extern const ReportFileKind textFile;
 extern const ReportFileKind htmlFile;
 
-/// A name for the file of a chart, without an ending: that of the chart as far as every file system takes it,
-/// up to 60 characters of it.
-QString ReportFileName(const QString &chartName);
-
 /// Asks for the name of the file to be written, which ends as those of its kind do; empty when the user gives
 /// none. The dialog begins with a name that is suggested. An existing file is named only after the user has
 /// agreed to replace it.

@@ -238,7 +238,7 @@ void PrintViewTest::SuggestedNamesSuitEveryFileSystem() {
         {QString(59, u'x') + QStringLiteral("😀"), QString(59, u'x')},
     };
     for (const auto &[chart, file] : rows) {
-        QCOMPARE(ReportFileName(chart), file);
+        QCOMPARE(FileNameOf(chart), file);
     }
 }
 

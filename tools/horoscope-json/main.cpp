@@ -2,15 +2,13 @@
 // text of the printed report, antras included. With "--check-zones" each line tells the clocks of the
 // birthplace beside the offset that was stated.
 
-#include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
 #include "report/HoroscopeReport.h"
 #include "runtime/RuntimeError.h"
 #include "store/database/DatabaseFile.h"
-#include "tools/horoscope-json/BirthLines.h"
-#include "tools/horoscope-json/BirthReader.h"
+#include "tools/births/BirthReader.h"
+#include "tools/births/BirthStream.h"
 #include "tools/horoscope-json/HoroscopeWriter.h"
-#include "tools/horoscope-json/RunStatus.h"
 #include "tools/horoscope-json/ZoneCheckWriter.h"
 
 #include <nlohmann/json.hpp>
@@ -44,9 +42,12 @@ ordered_json AnswerWithReport(const kelvaro::Horoscope &horoscope) {
 
 enum class Wanted { Horoscope, Report, ZoneCheck };
 
-ordered_json ZoneCheck(const kelvaro::Horoscope &horoscope) {
+ordered_json ZoneCheck(std::string_view line, kelvaro::Horoscope &horoscope) {
     try {
+        kelvaro::ReadBirth(line, horoscope.state);
         return kelvaro::ZoneCheckJson(horoscope.state, horoscope.connection);
+    } catch (const kelvaro::BirthError &error) {
+        return ErrorJson(error.what());
     } catch (const kelvaro::RuntimeError &error) {
         return ErrorJson(error.what());
     }
@@ -54,17 +55,11 @@ ordered_json ZoneCheck(const kelvaro::Horoscope &horoscope) {
 
 ordered_json Answer(std::string_view line, Wanted wanted, kelvaro::Horoscope &horoscope,
                     const kelvaro::RunStatus &status) {
-    try {
-        kelvaro::ReadBirth(line, horoscope.state);
-    } catch (const kelvaro::BirthError &error) {
-        return ErrorJson(error.what());
-    }
     if (wanted == Wanted::ZoneCheck) {
-        return ZoneCheck(horoscope);
+        return ZoneCheck(line, horoscope);
     }
-    kelvaro::CalculateHoroscope(horoscope);
-    if (status.Failure()) {
-        return ErrorJson(*status.Failure());
+    if (const auto cause = kelvaro::ComputeBirth(line, horoscope, status)) {
+        return ErrorJson(*cause);
     }
     return wanted == Wanted::Report ? AnswerWithReport(horoscope) : kelvaro::HoroscopeJson(horoscope);
 }
@@ -81,28 +76,17 @@ std::optional<Wanted> WantedBy(int argc, char **argv) {
     return option == "--check-zones" ? std::optional(Wanted::ZoneCheck) : std::nullopt;
 }
 
-/// One program state for the whole stream, as if the births were entered one after another. The database is a
-/// private copy in memory, so that a batch leaves the user's file alone.
 void AnswerStream(const std::filesystem::path &database, Wanted wanted, std::istream &births,
                   std::ostream &answers) {
-    kelvaro::RunStatus status;
-    kelvaro::store::Connection connection;
-    connection.OpenCopyInMemory(database);
-    kelvaro::Horoscope horoscope(connection, status);
-    births.exceptions(std::ios::badbit); // a stream that cannot be read must not pass for one that has ended
-    kelvaro::BirthLines lines(births);
-    while (answers) {
-        const auto line = lines.Next();
-        if (!line) {
-            break;
-        }
-        // What a horoscope leaves in the database is undone, so that a batch of any length stays as small.
-        const kelvaro::store::Transaction undone(connection);
+    const auto answer = [&](std::string_view line, kelvaro::Horoscope &horoscope,
+                            const kelvaro::RunStatus &status) {
         // An error may quote bytes of the line that are no UTF-8.
-        answers << Answer(*line, wanted, horoscope, status)
+        answers << Answer(line, wanted, horoscope, status)
                        .dump(-1, ' ', false, ordered_json::error_handler_t::replace)
                 << '\n';
-    }
+        return static_cast<bool>(answers);
+    };
+    kelvaro::ForEachBirth(database, births, answer);
     answers.flush();
 }
 

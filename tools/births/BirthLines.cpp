@@ -1,4 +1,4 @@
-#include "tools/horoscope-json/BirthLines.h"
+#include "tools/births/BirthLines.h"
 
 #include <limits>
 

@@ -1,10 +1,10 @@
-#include "tools/horoscope-json/BirthReader.h"
+#include "tools/births/BirthReader.h"
 
 #include "runtime/MomentText.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
 #include "runtime/Texts.h"
-#include "tools/horoscope-json/BirthLines.h"
+#include "tools/births/BirthLines.h"
 
 #include <nlohmann/json.hpp>
 
