@@ -18,7 +18,7 @@ tool_packages=(
     nlohmann-json3-dev
 )
 test_packages=(
-    libgtest-dev
+    libgtest-dev poppler-utils
 )
 benchmark_packages=(
     libbenchmark-dev

@@ -1,5 +1,6 @@
 #include "shell/print/PrintView.h"
 
+#include "drawing/FileName.h"
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/Horoscope.h"
 #include "horoscope/NoDisplay.h"

@@ -1,0 +1,205 @@
+// Runs the tool HOROSCOPE_PDF on streams of births and reads its pages back with pdftotext. What stands on
+// them is held against the grids that HOROSCOPE_JSON tells for the same births.
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+using Words = std::vector<std::string>;
+
+json Birth(const json &changes = json::object()) {
+    json birth = json::parse(
+        R"birth({"ChartName": "Velnesh", "BirthGender": "Male", "BirthDay": "14", "BirthMonth": "Jul",
+        "BirthYear": "1965", "BirthHour": "14", "BirthMinute": "15", "BirthCity": "Hyderabad (A.P)",
+        "BirthCountry": "India", "LatDeg": 17, "LatMin": 20, "LatNS": "N", "LonDeg": 78, "LonMin": 30, "LonEW": "E",
+        "TimeDiff": 5.5, "TimeDiffEW": "E"})birth");
+    birth.update(changes);
+    return birth;
+}
+
+std::string LinesOf(const std::vector<json> &births) {
+    std::string lines;
+    for (const json &birth : births) {
+        lines += birth.dump() + '\n';
+    }
+    return lines;
+}
+
+std::string ContentOf(const fs::path &file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+Words WordsOf(const std::string &text) {
+    std::istringstream in(text);
+    return {std::istream_iterator<std::string>(in), {}};
+}
+
+/// Whether the words stand in the text one behind the other.
+bool HasInOrder(const Words &text, const Words &words) {
+    return std::search(text.begin(), text.end(), words.begin(), words.end()) != text.end();
+}
+
+class HoroscopePdfTest : public testing::Test {
+protected:
+    ~HoroscopePdfTest() override { fs::remove_all(folder_); }
+
+    /// The exit status of a tool on births; what it says lies in "out" and "err".
+    int Run(const std::string &tool, const std::string &births) const {
+        std::ofstream(folder_ / "births", std::ios::binary) << births;
+        const std::string in = " < '" + (folder_ / "births").string();
+        return std::system(("timeout 300 " + tool + in + "' > '" + Out() + "' 2> '" + Err() + "'").c_str());
+    }
+
+    int WritePdf(const std::string &births, const std::string &options = "") const {
+        return Run("'" HOROSCOPE_PDF "' " + options + " '" + Pages().string() + "'", births);
+    }
+
+    /// The pages of a document, each in its words.
+    std::vector<Words> PagesOf(const fs::path &pdf) const {
+        const std::string text = folder_ / "text";
+        EXPECT_EQ(std::system(("pdftotext -raw '" + pdf.string() + "' '" + text + "'").c_str()), 0);
+        std::istringstream in(ContentOf(text));
+        std::vector<Words> pages;
+        for (std::string page; std::getline(in, page, '\f');) {
+            pages.push_back(WordsOf(page));
+        }
+        return pages;
+    }
+
+    std::vector<fs::path> Documents() const {
+        std::vector<fs::path> files;
+        if (fs::exists(Pages())) {
+            std::copy(fs::directory_iterator(Pages()), {}, std::back_inserter(files));
+        }
+        std::sort(files.begin(), files.end());
+        return files;
+    }
+
+    fs::path Pages() const { return folder_ / "pages"; }
+    std::string Out() const { return folder_ / "out"; }
+    std::string Err() const { return folder_ / "err"; }
+
+    fs::path folder_ = [] {
+        std::string name = (fs::temp_directory_path() / "kelvaro-pdf-XXXXXX").string();
+        return fs::path(mkdtemp(name.data()));
+    }();
+};
+
+TEST_F(HoroscopePdfTest, TellsABadLineAndGoesOn) {
+    const std::string births = Birth({{"LatDeg", 89}, {"BirthMonth", "Dec"}}).dump() + "\nno birth\n" +
+                               Birth({{"ChartName", "Anna/Maria: \"A\""}}).dump() + "\n" +
+                               Birth({{"ChartName", ""}}).dump() + "\n";
+    EXPECT_NE(WritePdf(births), 0);
+    const std::vector<fs::path> files = Documents();
+    ASSERT_EQ(files.size(), 2U);
+    EXPECT_EQ(files.front().filename(), "0003 Anna_Maria_ _A_.pdf");
+    EXPECT_EQ(files.back().filename(), "0004 Horoscope.pdf");
+    EXPECT_EQ(ContentOf(Out()), files.front().string() + "\n" + files.back().string() + "\n");
+    const std::string errors = ContentOf(Err());
+    EXPECT_NE(errors.find("line 2: "), std::string::npos) << errors;
+    EXPECT_NE(errors.find("line 1: Rasi positions: The Sun does not"), std::string::npos) << errors;
+}
+
+TEST_F(HoroscopePdfTest, SaysWhatItCannotWrite) {
+    std::ofstream(Pages()) << "a file where the folder should be";
+    EXPECT_NE(WritePdf(LinesOf({Birth()})), 0);
+    EXPECT_FALSE(ContentOf(Err()).empty());
+    fs::remove(Pages());
+    fs::create_directories(Pages() / "0001 Velnesh.pdf");
+    EXPECT_NE(WritePdf(LinesOf({Birth()})), 0);
+    EXPECT_NE(ContentOf(Err()).find("line 1: "), std::string::npos);
+    EXPECT_NE(Run("'" HOROSCOPE_PDF "' --unknown", ""), 0);
+}
+
+/// Births of four centuries in every style, language and house system.
+std::vector<json> ManyBirths(std::size_t count) {
+    std::mt19937 random(50);
+    const auto from = [&random](int first, int last) {
+        return std::uniform_int_distribution(first, last)(random);
+    };
+    const std::array styles{"South", "North", "East"};
+    const std::array languages{"English", "Sanskrit"};
+    const std::array systems{"Equal", "Not Equal"};
+    std::vector<json> births;
+    for (std::size_t i = 0; i < count; ++i) {
+        births.push_back(Birth({{"BirthDay", from(1, 28)},
+                                {"BirthMonth", from(1, 12)},
+                                {"BirthYear", from(1700, 2090)},
+                                {"BirthHour", from(0, 23)},
+                                {"BirthMinute", from(0, 59)},
+                                {"LatDeg", from(0, 50)},
+                                {"ChartStyle", styles.at(i % styles.size())},
+                                {"PreferLanguage", languages.at(i % languages.size())},
+                                {"Bhava", systems.at(i / 2 % systems.size())}}));
+    }
+    return births;
+}
+
+/// Expects each row of a grid, all its cells in their order, on the page.
+void ExpectRows(const json &rows, const Words &page) {
+    EXPECT_FALSE(rows.empty());
+    for (const json &row : rows) {
+        std::string cells;
+        for (const json &cell : row) {
+            cells += cell.get<std::string>() + ' ';
+        }
+        EXPECT_TRUE(HasInOrder(page, WordsOf(cells))) << cells;
+    }
+}
+
+TEST_F(HoroscopePdfTest, SaysWhatTheGridsSay) {
+    const std::vector<json> births = ManyBirths(50);
+    ASSERT_EQ(Run("'" HOROSCOPE_JSON "'", LinesOf(births)), 0);
+    std::ifstream answers(Out());
+    std::vector<json> horoscopes;
+    for (std::string line; std::getline(answers, line);) {
+        horoscopes.push_back(json::parse(line));
+    }
+    ASSERT_EQ(WritePdf(LinesOf(births), "--antras"), 0);
+    const std::vector<fs::path> files = Documents();
+    ASSERT_EQ(files.size(), births.size());
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        SCOPED_TRACE(births[i].dump());
+        const json &horoscope = horoscopes.at(i);
+        const std::vector<Words> pages = PagesOf(files[i]);
+        ASSERT_GE(pages.size(), 6U);
+        for (const json &text : horoscope.at("frm_UserDetails")) {
+            EXPECT_TRUE(HasInOrder(pages[0], WordsOf(text.get<std::string>()))) << text;
+        }
+        for (const char *chart : {"frm_rasi", "frm_Navamsa", "frm_BhavaChart"}) {
+            const Words &page = pages[chart == std::string("frm_BhavaChart") ? 2 : 1];
+            for (const json &cell : horoscope.at(chart).at("cells")) {
+                EXPECT_TRUE(HasInOrder(page, WordsOf(cell.get<std::string>()))) << chart << cell;
+            }
+        }
+        ExpectRows(horoscope.at("bhava_features"), pages[2]);
+        ExpectRows(horoscope.at("mshNirayana"), pages[3]);
+        ExpectRows(horoscope.at("mshAshtaVarga"), pages[3]);
+        ExpectRows(horoscope.at("mshVargas"), pages[4]);
+        ExpectRows(horoscope.at("mshDasa"), pages[4]);
+        Words periods;
+        for (std::size_t page = 5; page < pages.size(); ++page) {
+            periods.insert(periods.end(), pages[page].begin(), pages[page].end());
+        }
+        ExpectRows(horoscope.at("mshBukti"), periods);
+        ExpectRows(horoscope.at("mshAntra"), periods);
+    }
+}
+
+} // namespace
