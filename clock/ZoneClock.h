@@ -14,7 +14,9 @@ struct ClockOffset {
     /// Put forward for a part of the year. Where the law calls the time of the summer the standard and that
     /// of the winter the exception (Ireland, Namibia to 2017), the summer counts as summer all the same.
     bool isSummer = false;
-    bool isLocalMeanTime = false; ///< by the Sun of the place, before there was a standard
+    /// By the Sun of the town that the zone is named for, before there was a standard. Other towns had their
+    /// own.
+    bool isLocalMeanTime = false;
 
     friend bool operator==(const ClockOffset &, const ClockOffset &) = default;
 };

@@ -32,7 +32,9 @@ std::optional<ClockAdvice> BirthClock::Advice(const BirthFields &fields) {
     if (!clock) {
         return std::nullopt;
     }
-    StatedClock stated{*clock, ZoneOf(fields), std::nullopt};
+    const store::Place place = PlaceOf(fields);
+    StatedClock stated{*clock, ZoneOf(fields), std::nullopt,
+                       LocalMeanTimeAt(place.lonDeg, place.lonMin, place.lonEW)};
     if (!fields.chosen.zone.empty() && fields.cbTimeZone == fields.chosen.zone) {
         stated.hours = SignedHours(fields.txt_VC_TimeDiff, fields.txt_VC_TimeDiffEW);
     }

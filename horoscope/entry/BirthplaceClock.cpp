@@ -25,6 +25,15 @@ std::chrono::minutes NearestMinute(const ClockOffset &offset) {
     return std::chrono::round<std::chrono::minutes>(offset.fromGreenwich);
 }
 
+/// The day stays that of the records: until 1844 Manila had the one of America, until 1867 Alaska that of
+/// Asia.
+void TakeLocalMeanTime(ClockOffset &offset, std::chrono::seconds localMeanTime) {
+    if (offset.isLocalMeanTime) {
+        offset.fromGreenwich =
+            localMeanTime + std::chrono::round<std::chrono::days>(offset.fromGreenwich - localMeanTime);
+    }
+}
+
 std::string Counted(std::int64_t count, std::string_view what) {
     std::string text = std::to_string(count);
     return text.append(" ").append(what).append(count == 1 ? " " : "s ");
@@ -132,6 +141,16 @@ store::ZoneFields NewZone(const ClockOffset &offset, const std::string &city, st
 
 } // namespace
 
+std::chrono::seconds LocalMeanTimeAt(double degrees, double minutes, std::string_view direction) {
+    constexpr double minutesOfDegree = 60;
+    constexpr double secondsOfDegree = 240;
+    constexpr double halfDay = 12 * secondsOfHour; // a damaged chart can lie anywhere
+    const std::chrono::duration<double> size{
+        std::clamp((degrees + minutes / minutesOfDegree) * secondsOfDegree, 0.0, halfDay)};
+    const auto seconds = std::chrono::round<std::chrono::seconds>(size);
+    return direction == "W" ? -seconds : seconds;
+}
+
 double SignedHours(double hours, std::string_view direction) {
     return direction == "W" ? -hours : hours;
 }
@@ -146,9 +165,13 @@ bool AreHoursOf(const ClockOffset &offset, double hours) {
 }
 
 std::optional<ClockCheck> CheckClock(const StatedClock &stated) {
-    const auto reading = ReadClock(stated.zone, stated.shown);
+    auto reading = ReadClock(stated.zone, stated.shown);
     if (!reading) {
         return std::nullopt;
+    }
+    TakeLocalMeanTime(reading->offset, stated.localMeanTime);
+    if (reading->afterChange) {
+        TakeLocalMeanTime(*reading->afterChange, stated.localMeanTime);
     }
     ClockCheck check{*reading, reading->offset, false, stated.shown.date.year >= firstSureYear};
     if (stated.hours) {

@@ -5,9 +5,11 @@
 #include "store/masters/PlaceLists.h"
 #include "store/masters/TimeZoneMaster.h"
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kelvaro {
@@ -23,7 +25,13 @@ struct StatedClock {
     CivilMoment shown;
     std::string zone;            ///< "America/Chicago"
     std::optional<double> hours; ///< from Greenwich, East positive; none where no zone is chosen yet
+    /// By the Sun of the birthplace. The records have the one of the town that a zone is named for.
+    std::chrono::seconds localMeanTime{0};
 };
+
+/// The local mean time of a longitude: from Greenwich, East positive, four minutes a degree, up to half a
+/// day.
+std::chrono::seconds LocalMeanTimeAt(double degrees, double minutes, std::string_view direction);
 
 /// Hours from Greenwich, East positive, of an offset with its letter.
 double SignedHours(double hours, std::string_view direction);

@@ -25,7 +25,8 @@ public:
     explicit Surveyor(store::Connection &connection) : lists_(connection), zones_(connection) {}
 
     std::optional<ClockAdvice> AdviceOn(const store::StoredChart &chart) {
-        StatedClock stated{Split(BirthOf(chart)), ZoneOf(chart), std::nullopt};
+        StatedClock stated{Split(BirthOf(chart)), ZoneOf(chart), std::nullopt,
+                           LocalMeanTimeAt(chart.place.lonDeg, chart.place.lonMin, chart.place.lonEW)};
         if (chart.TimeDifference) {
             const store::Zone zone = lists_.ZoneNumbered(*chart.TimeDifference);
             stated.hours = SignedHours(zone.hours, zone.direction);

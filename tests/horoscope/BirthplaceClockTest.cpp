@@ -62,8 +62,10 @@ protected:
     std::optional<ClockAdvice> Advice(const std::string &city, const std::string &country,
                                       const CivilMoment &shown, std::optional<double> hours) {
         const std::int32_t id = CountryNamed(country);
-        return AdviseOnClock({shown, zones_.ZoneOfCity(city, id).value_or("none"), hours}, city, id,
-                             lists_.ZonesOf(id));
+        const store::Place place = lists_.PlaceOfCity(city).value_or(store::Place());
+        return AdviseOnClock({shown, zones_.ZoneOfCity(city, id).value_or("none"), hours,
+                              LocalMeanTimeAt(place.lonDeg, place.lonMin, place.lonEW)},
+                             city, id, lists_.ZonesOf(id));
     }
 
     std::string RowTaken(const ClockAdvice &advice) {
@@ -131,14 +133,25 @@ TEST_F(BirthplaceClockTest, OffersAZoneThatTheListLacks) {
     ASSERT_TRUE(advice);
     EXPECT_EQ(
         advice->text,
-        "Clocks in Chennai stood at 5 hours 53 minutes 28 seconds E on 1 Jan 1850, local mean time; the "
+        "Clocks in Chennai stood at 5 hours 21 minutes 8 seconds E on 1 Jan 1850, local mean time; the "
         "chosen "
         "zone says 5.5 hrs E: an hour changes the Lagna by half a sign. Records from before 1970 are less "
         "certain. The list of time zones has no such offset.");
     EXPECT_FALSE(advice->zoneNumber);
     ASSERT_TRUE(advice->newZone);
     EXPECT_EQ(*advice->newZone,
-              (store::ZoneFields{CountryNamed("India"), 0, "Chennai Local Mean Time", "5", "53", "E"}));
+              (store::ZoneFields{CountryNamed("India"), 0, "Chennai Local Mean Time", "5", "21", "E"}));
+}
+
+/// The records have the Sun of Calcutta for all of India. Until 1844 Manila had the day of America.
+TEST_F(BirthplaceClockTest, TakesTheSunOfTheBirthplaceForLocalMeanTime) {
+    const auto begin = [this](const char *city, const char *country) {
+        const std::string text = Advice(city, country, {{1840, 5, 5}, {6, 0, 0}}, std::nullopt)->text;
+        return text.substr(0, text.find(" on "));
+    };
+    EXPECT_EQ(begin("Calcutta", "India"), "Clocks in Calcutta stood at 5 hours 53 minutes 28 seconds E");
+    EXPECT_EQ(begin("Mumbai", "India"), "Clocks in Mumbai stood at 4 hours 51 minutes 32 seconds E");
+    EXPECT_EQ(begin("Manila", "Philippines"), "Clocks in Manila stood at 15 hours 56 minutes 4 seconds W");
 }
 
 /// Local mean time has seconds, of which a zone that is added keeps none.

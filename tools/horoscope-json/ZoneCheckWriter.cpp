@@ -40,8 +40,10 @@ ordered_json ZoneCheckJson(const HoroscopeState &state, store::Connection &conne
     if (!zone) {
         return {{"error", "There is no city " + state.birth.BirthCity}};
     }
-    const double stated = SignedHours(state.site.TimeDiff, state.site.TimeDiffEW);
-    const auto check = CheckClock({Split(state.birth.BirthMoment), *zone, stated});
+    const Site &site = state.site;
+    const double stated = SignedHours(site.TimeDiff, site.TimeDiffEW);
+    const auto check = CheckClock({Split(state.birth.BirthMoment), *zone, stated,
+                                   LocalMeanTimeAt(site.LonDeg, site.LonMin, site.LonEW)});
     if (!check) {
         return {{"error", HasZoneRecords() ? "The records of time zones do not reach this birth"
                                            : "This machine has no records of time zones"}};
