@@ -32,9 +32,9 @@ QString Cut(const QString &text, qsizetype most) {
     return text.left(std::max(last, most - longestCharacter)) + ellipsis;
 }
 
-/// Without turns of the direction, and with no more marks on a letter than scripts set there: the time for
-/// them grows with their square.
-QString Cleaned(const QString &text) {
+} // namespace
+
+QString Legible(const QString &text) {
     constexpr int mostMarks = 8;
     QString clean;
     int marks = 0;
@@ -47,10 +47,8 @@ QString Cleaned(const QString &text) {
     return clean;
 }
 
-} // namespace
-
 QString OneLine(const QString &text, qsizetype most) {
-    QString line = Cleaned(text.left(2 * most));
+    QString line = Legible(text.left(2 * most));
     std::ranges::replace_if(
         line, [](QChar each) { return each.category() == QChar::Other_Control; }, u' ');
     return Cut(line, most);
@@ -75,7 +73,7 @@ QString Breakable(const QString &text, qsizetype longestWord) {
 }
 
 QString MessageText(const QString &text) {
-    QString shown = Breakable(Cleaned(Cut(text, mostOfMessage)), longestWordOfMessage);
+    QString shown = Breakable(Legible(Cut(text, mostOfMessage)), longestWordOfMessage);
     qsizetype end = -1;
     for (int line = 0; line < mostLines; ++line) {
         end = shown.indexOf(u'\n', end + 1);

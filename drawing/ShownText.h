@@ -5,8 +5,11 @@
 namespace kelvaro {
 
 // Texts that come from outside, as a window can show them at once: Qt sets a text of a million letters, or
-// guesses at its markup, for as long as a minute. Characters that turn the direction of what follows are left
-// out, and marks upon marks on one letter.
+// guesses at its markup, for as long as a minute. What they show is legible.
+
+/// The text without characters that turn the direction of what follows, and with no more marks on a letter
+/// than scripts set there: the time for them grows with their square.
+QString Legible(const QString &text);
 
 /// A text in one line of at most so many characters. An ellipsis stands for what is cut.
 QString OneLine(const QString &text, qsizetype most = 255);

@@ -1,5 +1,8 @@
 #include "shell/views/PageText.h"
 
+#include "drawing/ShownText.h"
+
+#include <QObject>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -13,6 +16,8 @@ namespace {
 constexpr char16_t noBreakSpace = u'\u00a0';
 /// A paragraph of a page is laid out in one go, so it is not let grow for ever.
 constexpr qsizetype longestLine = 1000;
+/// A line takes more time and memory than its letters, and every view has panes of its own.
+constexpr int mostLines = 1000;
 
 struct Entity {
     QLatin1String name;
@@ -195,16 +200,28 @@ bool IsUnseen(QChar character) {
     return isFormat || isControl;
 }
 
+bool EndsLine(QChar character) {
+    return character == u'\n' || character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
+}
+
 QString InLines(const QString &text) {
     QString broken;
     qsizetype length = 0;
+    int begun = 1; // lines
     for (const QChar character : text) {
-        length = character == u'\n' ? 0 : length + 1;
-        if (length > longestLine && !character.isLowSurrogate()) {
+        const bool isEnd = EndsLine(character);
+        const bool isTooLong = length >= longestLine && !character.isLowSurrogate();
+        if (isEnd || isTooLong) {
+            if (++begun > mostLines) {
+                return broken + QObject::tr("\n\u2026 The page goes on: \"^ Maximize\" shows all of it.");
+            }
             broken += u'\n';
-            length = 1;
+            length = 0;
         }
-        broken += character;
+        if (!isEnd) {
+            broken += character;
+            ++length;
+        }
     }
     return broken;
 }
@@ -239,7 +256,7 @@ QString TextOfPage(const QByteArray &page, const QString &contentType) {
     const QString decoded = Decoded(page, contentType);
     QString text = IsHtml(contentType) ? HtmlReader(decoded).Read() : decoded;
     text.removeIf(IsUnseen);
-    return InLines(text).trimmed();
+    return InLines(Legible(text).trimmed()).trimmed();
 }
 
 } // namespace kelvaro

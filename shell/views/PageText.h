@@ -10,7 +10,8 @@ namespace kelvaro {
 bool IsTextPage(const QString &contentType);
 
 /// What a page says, as plain text. Of HTML only the breaks of lines and paragraphs stay; the time is in
-/// proportion to the length, whatever is nested in it. Characters that no reader sees are left out.
+/// proportion to the length, whatever is nested in it. Characters that no reader sees are left out. A page
+/// of more lines than a window can lay out at once ends early and says so.
 QString TextOfPage(const QByteArray &page, const QString &contentType);
 
 } // namespace kelvaro

@@ -156,7 +156,12 @@ void ServerPaneTest::HostilePagesHoldNothing_data() {
     row("a thousand of them", Answer("text/html", QByteArray("<table><tr><td>").repeated(4000) + "deep"),
         "^deep$");
     row("one long word", Answer("text/html", QByteArray(65000, 'w')), "^w{1000}\nw");
-    row("marks on one letter", Answer("text/plain", "a" + QByteArray("\u0301").repeated(32000)), "^a");
+    row("a line a letter", Answer("text/plain", QByteArray("a\n").repeated(32500)),
+        "^(a\n){1000}\u2026 The page");
+    row("other ends of lines", Answer("text/plain", QByteArray("a\u2029").repeated(16000)),
+        "^(a\n){1000}\u2026 The page");
+    row("marks on one letter", Answer("text/plain", "a" + QByteArray("\u0301").repeated(32000)),
+        "^a\u0301{8}$");
     row("all scripts",
         Answer("text/plain",
                [] {
