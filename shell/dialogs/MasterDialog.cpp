@@ -6,12 +6,12 @@
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/ListedChoice.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/ScreenFit.h"
 #include "shell/widgets/SpokenNames.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 
 namespace kelvaro {
 
@@ -25,8 +25,7 @@ void MasterDialog::keyPressEvent(QKeyEvent *event) {
 }
 
 void MasterDialog::showEvent(QShowEvent *event) {
-    constexpr double partOfScreen = 0.9; // the rest is for the window's frame
-    resize(size().boundedTo(screen()->availableSize() * partOfScreen));
+    KeepWithinScreen(*this);
     DressButtons(*this);
     for (QLineEdit *line : findChildren<QLineEdit *>()) {
         // The line of a box shows whole rows, which say more than a name.

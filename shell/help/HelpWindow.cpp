@@ -2,6 +2,7 @@
 
 #include "drawing/ChartColours.h"
 #include "shell/widgets/ParchmentPalette.h"
+#include "shell/widgets/ScreenFit.h"
 
 #include <QFile>
 #include <QScrollBar>
@@ -30,6 +31,7 @@ HelpWindow::HelpWindow(QWidget *parent)
     setObjectName(QStringLiteral("helpWindow"));
     setWindowTitle(tr("Help"));
     resize(firstSize);
+    KeepWithinScreen(*this);
     headings_->setAccessibleName(tr("Contents"));
     QPalette colours = ParchmentPalette();
     text_->setPalette(colours);
