@@ -41,10 +41,8 @@ AboutBox::AboutBox(QWidget *parent) : QDialog(parent) {
            "<p>Vedic astrology on the desktop: the whole horoscope of a birth, computed by the program "
            "itself.</p>"
            "<p>Kelvaro Technologies Pvt Ltd<br>www.kelvaro.example<br>support@kelvaro.example</p>"
-           "<p><b>Place data:</b> GeoNames (https://www.geonames.org), CC BY 4.0 "
-           "(https://creativecommons.org/licenses/by/4.0/); names shortened and made unique, positions "
-           "rounded "
-           "to minutes.</p>"
+           "<p><b>Place data:</b> GeoNames, CC BY 4.0; names shortened and made unique, positions rounded to "
+           "minutes.<br>https://www.geonames.org<br>https://creativecommons.org/licenses/by/4.0/</p>"
            "<p><b>Zone offsets:</b> the tz database, release 2025b, public domain.</p>"
            "<p><b>Clocks of birthplaces:</b> %1</p>")
             .arg(RecordsOfClocks()));
