@@ -102,7 +102,9 @@ std::string GenderUnderstood(const BirthFields &fields) {
         return {};
     }
     const std::string stored = StoredGender(fields);
-    return ", gender not chosen, stored " + (stored.empty() ? "empty" : "as " + stored);
+    // A saved chart can have one: it goes with the next Save only.
+    return stored.empty() ? ", gender not chosen, Save would empty it"
+                          : ", gender not chosen, stored as " + stored;
 }
 
 /// "Velnesh, 14-Jul-1965"

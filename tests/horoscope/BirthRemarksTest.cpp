@@ -57,6 +57,8 @@ TEST_F(BirthRemarksTest, GenderIsStoredAsTheFormSays) {
         fields.cbGender.clear();
         ASSERT_EQ(fields.txt_VC_UserId, number);
         EXPECT_EQ(StoredGender(fields), text);
+        const std::string told = number == 0 ? "stored as Female" : "Save would empty it";
+        EXPECT_TRUE(BirthAsUnderstood(fields).ends_with(", gender not chosen, " + told));
         Save(fields);
         EXPECT_EQ(First("select Gender from ChartSave"), text);
     }
