@@ -45,6 +45,7 @@ void ChartListDialog::fnFillChart() {
     for (const store::ListItem &chart : charts_) {
         new QListWidgetItem(OneLine(TextOf(chart.text)), list);
     }
+    ShowDetails(nullptr);
 }
 
 void ChartListDialog::Choose(std::int32_t chartNumber) {
@@ -71,12 +72,17 @@ void ChartListDialog::Filter(const QString &part) {
         list->clearSelection();
         list->setCurrentItem(first);
     }
+    ShowDetails(Selected());
 }
 
 /// Below the list, without a box: a row that cannot be read is told when it is opened.
 void ChartListDialog::ShowDetails(const QListWidgetItem *row) {
     QString details;
-    if (row != nullptr) {
+    if (charts_.empty()) {
+        details = tr("There are no saved charts.");
+    } else if (row == nullptr && !controls_->filter->text().isEmpty()) {
+        details = tr("No saved chart has this in its name.");
+    } else if (row != nullptr) {
         const auto place = static_cast<std::size_t>(controls_->List_VC_ChartName->row(row));
         try {
             details =

@@ -388,9 +388,11 @@ void BirthDialogTest::ChartListIsNarrowedDown() {
     QCOMPARE(details->text(), u"Wednesday 14 July 1965, 14:15, Hyderabad (A.P) 17 N 20 78 E 30"_s);
     filter->selectAll();
     QTest::keyClicks(filter, u"jul"_s); // of the dates, not of a name
+    QCOMPARE(details->text(), u"No saved chart has this in its name."_s);
     QTest::keyClick(filter, Qt::Key_Return);
     QCOMPARE(answer.Text(), u"Select Chart Name "_s);
     filter->clear();
+    QCOMPARE(details->text(), QString());
     QTest::keyClick(filter, Qt::Key_Down);
     QTest::keyClick(filter, Qt::Key_Down);
     QTest::keyClick(filter, Qt::Key_Return);
@@ -402,6 +404,7 @@ void BirthDialogTest::SavedChartIsFoundChangedAndDeleted() {
     EnterBirth();
     Run("mnuOpen");
     QCOMPARE(ChartsListed(), QString());
+    QCOMPARE(List()->findChild<QLabel *>(u"chartDetails"_s)->text(), u"There are no saved charts."_s);
     QTest::keyClick(Charts(), Qt::Key_Return);
     QCOMPARE(answer.Title() + answer.Text(), u"Available UsersSelect Chart Name "_s);
     List()->reject();
