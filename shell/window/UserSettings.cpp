@@ -19,7 +19,10 @@ UserSettings::UserSettings(QString file) : file_(std::move(file)), isReadable_(L
 
 bool UserSettings::LooksReadable() const {
     const auto settings = Open();
-    settings->value(PathOf("Name")); // a section is parsed when the first of its keys is read
+    // A section is parsed when the first of its keys is read; where the chart has none, all that there is.
+    if (!settings->value(PathOf("Name")).isValid()) {
+        settings->allKeys();
+    }
     return settings->status() == QSettings::NoError;
 }
 

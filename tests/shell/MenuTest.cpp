@@ -293,6 +293,15 @@ void MenuTest::LastChartComesBack() {
     Start();
     QCOMPARE(window_->HoroscopeInForce().state.birth.ChartName, std::string("Velnesh"));
     QVERIFY(window_->statusBar()->currentMessage().contains(QStringLiteral("sample chart")));
+
+    // A file of which not even the section is left. Another name, since files are read once.
+    const QString file = folder_->folder.filePath(QStringLiteral("damaged.ini"));
+    QFile damaged(file);
+    QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("\x8f\x02 no settings\n\xff\n") > 0);
+    damaged.close();
+    MDILight window(file);
+    window.Start(Folder(), Folder() / "user");
+    QVERIFY(window.statusBar()->currentMessage().contains(QStringLiteral("is damaged")));
 }
 
 void MenuTest::ExitUnloadsTheWindowsInOrder() {
