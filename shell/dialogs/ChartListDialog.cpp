@@ -11,6 +11,8 @@
 #include "store/charts/ChartStore.h"
 #include "ui_ChartListDialog.h"
 
+#include <QScopeGuard>
+
 #include <algorithm>
 
 namespace kelvaro {
@@ -37,6 +39,16 @@ ChartListDialog::ChartListDialog(store::Connection &connection, QWidget *parent)
 ChartListDialog::~ChartListDialog() = default;
 
 void ChartListDialog::fnFillChart() {
+    leftOut_.clear();
+    // Who is told of lists elsewhere may stand behind this window.
+    store::Connection::Teller before;
+    before = connection_.OnRowsLeftOut([this, &before](const std::string &remark) {
+        leftOut_ = OneLine(TextOf(remark));
+        if (before) {
+            before(remark);
+        }
+    });
+    const auto restore = qScopeGuard([this, &before] { connection_.OnRowsLeftOut(before); });
     store::ChartList charts = store::ChartStore(connection_).fnFillChart(DataGen);
     charts_ = std::move(charts.List_VC_ChartName);
     controls_->Lab_Details->setText(TextOf(charts.Lab_Details));
@@ -75,24 +87,28 @@ void ChartListDialog::Filter(const QString &part) {
     ShowDetails(Selected());
 }
 
-/// Below the list, without a box: a row that cannot be read is told when it is opened.
-void ChartListDialog::ShowDetails(const QListWidgetItem *row) {
-    QString details;
-    if (charts_.empty()) {
-        details = tr("There are no saved charts.");
-    } else if (row == nullptr && !controls_->filter->text().isEmpty()) {
-        details = tr("No saved chart has this in its name.");
-    } else if (row != nullptr) {
-        const auto place = static_cast<std::size_t>(controls_->List_VC_ChartName->row(row));
-        try {
-            details =
-                OneLine(TextOf(ChartAtAGlance(store::ChartStore(connection_).Read(charts_.at(place).key))));
-        } catch (const std::exception &) {
-            details = tr("This chart is damaged. Open it to see what is left of it.");
+/// Without a box: a row that cannot be read is told when it is opened.
+QString ChartListDialog::DetailsOf(const QListWidgetItem *row) const {
+    if (row == nullptr) {
+        if (charts_.empty()) {
+            return leftOut_.isEmpty() ? tr("There are no saved charts.") : QString();
         }
+        return controls_->filter->text().isEmpty() ? QString() : tr("No saved chart has this in its name.");
     }
-    controls_->chartDetails->setText(details);
-    controls_->List_VC_ChartName->setAccessibleDescription(details);
+    const auto place = static_cast<std::size_t>(controls_->List_VC_ChartName->row(row));
+    try {
+        return OneLine(TextOf(ChartAtAGlance(store::ChartStore(connection_).Read(charts_.at(place).key))));
+    } catch (const std::exception &) {
+        return tr("This chart is damaged. Open it to see what is left of it.");
+    }
+}
+
+void ChartListDialog::ShowDetails(const QListWidgetItem *row) {
+    QStringList details{DetailsOf(row), leftOut_};
+    details.removeAll(QString());
+    const QString text = details.join(u'\n');
+    controls_->chartDetails->setText(text);
+    controls_->List_VC_ChartName->setAccessibleDescription(text);
 }
 
 QListWidgetItem *ChartListDialog::Selected() const {

@@ -52,11 +52,14 @@ protected:
 private:
     void Submit();
     void Filter(const QString &part);
+    QString DetailsOf(const QListWidgetItem *row) const;
+    /// Below the list, with what the list was opened without.
     void ShowDetails(const QListWidgetItem *row);
     QListWidgetItem *Selected() const;
 
     store::Connection &connection_;
     std::vector<store::ListItem> charts_; ///< of the rows, in their order
+    QString leftOut_;                     ///< in words, empty where every row could be read
     std::unique_ptr<Ui::Frm_RetriveBirthData> controls_;
 };
 

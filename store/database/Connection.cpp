@@ -92,8 +92,8 @@ void Connection::OpenCopyInMemory(const std::filesystem::path &file) {
     }
 }
 
-void Connection::OnRowsLeftOut(Teller tell) {
-    tellRowsLeftOut_ = std::move(tell);
+Connection::Teller Connection::OnRowsLeftOut(Teller tell) {
+    return std::exchange(tellRowsLeftOut_, std::move(tell));
 }
 
 void Connection::TellRowsLeftOut(const std::string &remark) const {

@@ -62,7 +62,8 @@ public:
     void OpenCopyInMemory(const std::filesystem::path &file);
 
     /// Whom to tell, in words for the user, of damaged rows that a list was opened without. Nobody at first.
-    void OnRowsLeftOut(Teller tell);
+    /// Returns whom it told before.
+    Teller OnRowsLeftOut(Teller tell);
     void TellRowsLeftOut(const std::string &remark) const;
 
     bool IsOpen() const;

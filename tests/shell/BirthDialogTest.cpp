@@ -397,6 +397,18 @@ void BirthDialogTest::ChartListIsNarrowedDown() {
     QTest::keyClick(filter, Qt::Key_Down);
     QTest::keyClick(filter, Qt::Key_Return);
     QCOMPARE(Text("Txt_VC_ChartName"), u"Uma Devi"_s);
+
+    // Charts that cannot be read are told in the list, which can stand before the bar that tells it too.
+    std::string told;
+    program_->connection.OnRowsLeftOut([&told](const std::string &remark) { told = remark; });
+    program_->connection.Execute("update ChartSave set Sno = Sno + 4611686018427387904");
+    Run("open");
+    QCOMPARE(ChartsListed(), QString());
+    QVERIFY(told.starts_with("Left out: 3"));
+    QCOMPARE(List()->findChild<QLabel *>(u"chartDetails"_s)->text(), QString::fromStdString(told));
+    told.clear();
+    program_->connection.TellRowsLeftOut("of another list");
+    QCOMPARE(told, std::string("of another list"));
 }
 
 void BirthDialogTest::SavedChartIsFoundChangedAndDeleted() {
