@@ -62,7 +62,7 @@ QString WritePages(int line, const kelvaro::Horoscope &horoscope, const Wanted &
     const auto goOn = [](int /*done*/, int /*count*/) { return true; };
     const auto pages =
         kelvaro::ComposePages(horoscope.state, horoscope.forms, horoscope.connection, wanted.options);
-    const QString file = FileOf(line, kelvaro::TextOf(horoscope.state.birth.ChartName), wanted.folder);
+    QString file = FileOf(line, kelvaro::TextOf(horoscope.state.birth.ChartName), wanted.folder);
     kelvaro::WriteWholeFile(file, *kelvaro::PdfOf(pages, goOn));
     return file;
 }
