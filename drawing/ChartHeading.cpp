@@ -20,8 +20,8 @@ namespace {
 
 constexpr qsizetype longestPart = 60; // letters of a name or a place
 constexpr double lineGap = 0.42;      // in font sizes
-constexpr double leastScale = 0.4;
 constexpr double scaleStep = 0.05;
+constexpr int scaleSteps = 12; // down to the least size
 
 struct HeadingLine {
     QString text;
@@ -116,15 +116,16 @@ ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
 void DrawHeading(QPainter &painter, const ChartHeading &heading, HeadingShape shape, const QRectF &area,
                  double side, const ChartFont &font) {
     const std::vector<HeadingLine> lines = LinesOf(heading, shape);
-    double scale = 1;
-    for (;;) {
-        const SetHeading set(lines, area, side * scale, font, *painter.device());
-        if (set.Fits() || scale <= leastScale) {
-            set.Draw(painter);
-            return;
-        }
-        scale -= scaleStep;
+    const auto setAt = [&](int step) {
+        return SetHeading(lines, area, side * (1 - scaleStep * step), font, *painter.device());
+    };
+    // Halved, not counted down: a text in a script without a font takes long to measure.
+    int tooLarge = -1;
+    int fitting = scaleSteps;
+    for (int step = 0; fitting - tooLarge > 1; step = (tooLarge + fitting) / 2) {
+        (setAt(step).Fits() ? fitting : tooLarge) = step;
     }
+    setAt(fitting).Draw(painter);
 }
 
 } // namespace kelvaro
