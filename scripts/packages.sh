@@ -5,7 +5,7 @@ build_packages=(
     libhowardhinnant-date-dev tzdata
 )
 desktop_packages=(
-    qt6-base-dev libgl-dev
+    qt6-base-dev libqt6svg6-dev libgl-dev
     libqt6gui6 libqt6svg6 qt6-qpa-plugins fonts-dejavu-core fonts-liberation
 )
 display_packages=(

@@ -1,13 +1,20 @@
 #include "shell/charts/ChartFrame.h"
 
+#include "drawing/ChartColours.h"
+#include "drawing/ChartPicture.h"
 #include "drawing/TextOf.h"
+#include "shell/widgets/MessageBoxes.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QFocusEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QStringList>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kelvaro {
 
@@ -37,6 +44,8 @@ ChartFrame::ChartFrame(const StyleOfChart &style, const QString &labelArray, QWi
             numbers_.at(index)->setObjectName(QStringLiteral("Lab_NHouseNo_%1").arg(index + 1));
         }
     }
+    OfferMenu(this);
+    OfferPicture(this, [this] { return AsPicture(); });
 }
 
 void ChartFrame::Show(const ChartForm &form, const ChartHeading &heading,
@@ -108,6 +117,46 @@ void ChartFrame::changeEvent(QEvent *event) {
 void ChartFrame::paintEvent(QPaintEvent * /*event*/) {
     QPainter painter(this);
     drawing_.PaintFrame(painter, square_, lineWidth_);
+    if (cameByKeyboard_ && hasFocus()) {
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setPen(QPen(figureColour, lineWidth_, Qt::DotLine));
+        painter.drawRect(rect().adjusted(1, 1, -2, -2));
+    }
+}
+
+Picture ChartFrame::AsPicture() const {
+    return PictureOf(drawing_.Content());
+}
+
+QRectF ChartFrame::DrawnArea() const {
+    return square_.adjusted(0, -drawing_.HeadingHeight() * square_.height(), 0, 0);
+}
+
+/// A return to the window, or from a menu, leaves it as it was.
+void ChartFrame::focusInEvent(QFocusEvent *event) {
+    QWidget::focusInEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        cameByKeyboard_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    }
+    update();
+}
+
+void ChartFrame::mousePressEvent(QMouseEvent *event) {
+    QWidget::mousePressEvent(event);
+    pressed_.reset();
+    if (event->button() == Qt::LeftButton && DrawnArea().contains(event->position())) {
+        pressed_ = event->pos();
+        event->accept(); // the moves are wanted
+    }
+}
+
+void ChartFrame::mouseMoveEvent(QMouseEvent *event) {
+    const bool isHeld = event->buttons().testFlag(Qt::LeftButton);
+    if (isHeld && pressed_ &&
+        (event->pos() - *pressed_).manhattanLength() >= QApplication::startDragDistance()) {
+        pressed_.reset();
+        Guarded(this, [this] { drag_.Start(this, AsPicture()); });
+    }
 }
 
 } // namespace kelvaro

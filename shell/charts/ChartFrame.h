@@ -3,16 +3,19 @@
 #include "drawing/ChartDrawing.h"
 #include "presentation/ChartStyles.h"
 #include "shell/charts/CellLabel.h"
+#include "shell/widgets/PictureMenu.h"
 
 #include <QString>
 #include <QWidget>
 
 #include <array>
+#include <optional>
 #include <string>
 
 namespace kelvaro {
 
-/// One of the drawings of a chart: the largest square that the frame holds, with twelve cells.
+/// One of the drawings of a chart: the largest square that the frame holds, with twelve cells. It can be
+/// dragged into a document, and its context menu copies and saves it as a picture.
 class ChartFrame : public QWidget {
 public:
     /// Cell labels are named `labelArray` with an index that counts on from the first of the style.
@@ -35,9 +38,14 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
     void LayOut();
+    Picture AsPicture() const;
+    QRectF DrawnArea() const; ///< the square and the heading above it
 
     std::array<std::string, 12> ChartForm::*labels_;
     ChartDrawing drawing_;
@@ -45,6 +53,9 @@ private:
     std::array<CellLabel *, 12> numbers_{}; ///< only in the North drawing
     QRectF square_;
     double lineWidth_ = 1;
+    bool cameByKeyboard_ = false;   ///< the focus, which is shown then
+    std::optional<QPoint> pressed_; ///< where a drag may begin
+    PictureDrag drag_;
 };
 
 } // namespace kelvaro

@@ -8,21 +8,31 @@
 #include "report/ReportFile.h"
 #include "shell/print/DirectPrint.h"
 #include "shell/print/ReportBox.h"
-#include "shell/print/ReportFileChoice.h"
+#include "shell/widgets/FileChoice.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <string_view>
+
 namespace kelvaro {
 
+/// A kind of file that the report is written to.
+struct ReportFileKind {
+    FileKind file;
+    std::string (*content)(std::string_view report);
+};
+
 namespace {
+
+constexpr ReportFileKind textFile{{"Text Files (*.Txt)", ".Txt"}, TextFileContent};
+constexpr ReportFileKind htmlFile{{"HTML Files (*.HTML)", ".HTML"}, HtmlFileContent};
 
 constexpr int margin = 16;
 constexpr double linesOfContent = 32; // that the options, as large as in the other views, leave room for
@@ -49,9 +59,8 @@ QGroupBox *NewFrame(const char *caption, const QList<QRadioButton *> &options) {
 } // namespace
 
 PrintView::PrintView(QWidget *parent)
-    : HoroscopeView(parent), folder_(FirstReportFolder()), heading_(new ViewHeading(tr("Print"))),
-      Op2_(NewOption("Op2", "Without Antra")), Op1_(NewOption("Op1", "With Antra")),
-      Op4_(NewOption("Op4", "Generate Horoscope as a Text file")),
+    : HoroscopeView(parent), heading_(new ViewHeading(tr("Print"))), Op2_(NewOption("Op2", "Without Antra")),
+      Op1_(NewOption("Op1", "With Antra")), Op4_(NewOption("Op4", "Generate Horoscope as a Text file")),
       Op3_(NewOption("Op3", "Generate Horoscope as a HTML file")), Op5_(NewOption("Op5", "Print Directly")),
       CoPrt_(new QPushButton(tr("&Print"))), outcome_(new QLabel), options_(new QWidget), Te_(new ReportBox) {
     setAccessibleName(tr("Print"));
@@ -146,17 +155,15 @@ void PrintView::Compose() {
 }
 
 void PrintView::SaveAs(const ReportFileKind &kind) {
-    const QString name =
-        AskReportFile(this, kind, folder_, FileNameOf(TextOf(horoscope_->state.birth.ChartName)));
-    if (name.isEmpty()) {
-        return;
+    const QString name = AskFile(this, {kind.file}, FileNameOf(TextOf(horoscope_->state.birth.ChartName)));
+    if (!name.isEmpty()) {
+        WriteReportFile(QFile::encodeName(name).toStdString(), kind.content(report_));
+        TellFile(name);
     }
-    WriteReportFile(QFile::encodeName(name).toStdString(), kind.content(report_));
-    folder_ = QFileInfo(name).path();
-    TellFile(name);
 }
 
 void PrintView::TellFile(const QString &name) {
+    NoteFolderOf(name, this);
     // Lines may break behind the folders of a long path.
     QString path = name;
     path.replace(u'/', QStringLiteral("/\u200b"));

@@ -42,7 +42,6 @@ private:
 
     const Horoscope *horoscope_ = nullptr;
     std::string report_;
-    QString folder_; ///< where the last file was written
 
     ViewHeading *heading_;
     QRadioButton *Op2_; ///< without antra

@@ -27,7 +27,9 @@ void ChartView::Refresh(const Horoscope &horoscope) {
     for (const StyleOfChart &style : chartStyles) {
         ChartFrame &frame = Frame(style.style);
         frame.Show(form, heading, horoscope.state.names.RasiNames);
-        frame.setVisible(form.VisibleFrame == style.style);
+        const bool isSeen = form.VisibleFrame == style.style;
+        frame.setFocusPolicy(isSeen ? Qt::StrongFocus : Qt::NoFocus);
+        frame.setVisible(isSeen);
     }
 }
 

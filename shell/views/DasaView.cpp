@@ -1,6 +1,7 @@
 #include "shell/views/DasaView.h"
 
 #include "drawing/ChartColours.h"
+#include "drawing/ChartHeading.h"
 #include "horoscope/Horoscope.h"
 #include "runtime/MomentText.h"
 #include "runtime/Now.h"
@@ -179,11 +180,13 @@ void DasaView::Refresh(const Horoscope &horoscope) {
     bhuktis_ = {};
     today_ = DateOf(Now());
     heading_->Show(horoscope.state);
+    headingOfLists_ = HeadingOf(horoscope.state, {});
     balance_->setText(QString::fromStdString(form_.Lab_DasaBalanceV));
     FillSections();
     mshBukti_->MakeRoomFor(form_.mshBukti);
     mshAntra_->MakeRoomFor(form_.mshAntra);
     ShowPeriods(form_.dasas, form_.dasas, form_.mshDasa, today_, *mshDasa_);
+    SetHeading(*mshDasa_, {});
     mshBukti_->Show(form_.mshBukti, 0, 0);
     mshAntra_->Show(form_.mshAntra, 0, 0);
     ChooseToday();
@@ -306,6 +309,7 @@ void DasaView::ShowBhuktiSection(int section) {
     bhuktis_ =
         section < 0 ? Periods() : InDasa(form_.bhuktis, FirstOf(form_.bhuktis, form_.mshBukti, section).dasa);
     ShowPeriods(bhuktis_, form_.bhuktis, form_.mshBukti, today_, *mshBukti_);
+    SetHeading(*mshBukti_, bhuktiSections_->currentText());
     LayOut();
     if (!bhuktis_.empty()) {
         mshBukti_->selectRow(std::max(mshBukti_->Rows().MarkedRow(), 0));
@@ -319,7 +323,18 @@ void DasaView::ShowAntraSection(int section) {
         antras = InBhukti(form_.antras, first.dasa, first.bhukti);
     }
     ShowPeriods(antras, form_.antras, form_.mshAntra, today_, *mshAntra_);
+    SetHeading(*mshAntra_, antraSections_->currentText());
     LayOut();
+}
+
+/// A picture of a list says which section it is of.
+void DasaView::SetHeading(TextGridView &list, const QString &section) {
+    ChartHeading heading = headingOfLists_;
+    heading.title = list.accessibleName();
+    if (!section.isEmpty()) {
+        heading.title += QStringLiteral(": ") + section;
+    }
+    list.SetHeading(heading);
 }
 
 void DasaView::resizeEvent(QResizeEvent *event) {

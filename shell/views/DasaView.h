@@ -44,6 +44,7 @@ private:
     void ChooseBhukti(int bhukti);
     void ShowBhuktiSection(int section);
     void ShowAntraSection(int section);
+    void SetHeading(TextGridView &list, const QString &section);
     void LayOut();
     int LinesOfLists() const { return (listCount + listsBeside_ - 1) / listsBeside_; }
     QSize RoomForLists() const;
@@ -53,6 +54,7 @@ private:
     DasaForm form_;
     Moment today_;
     ViewHeading *heading_;
+    ChartHeading headingOfLists_; ///< without a title
     QLabel *balance_;
     QLabel *todayLine_;
     QPushButton *todayButton_;

@@ -81,7 +81,9 @@ void GridView::AddLine(QLabel *line) {
 void GridView::Refresh(const Horoscope &horoscope) {
     heading_->Show(horoscope.state);
     for (std::size_t i = 0; i < window_.grids.size(); ++i) {
-        grids_.Grids().at(i)->Show(window_.grids.at(i).grid(horoscope.forms));
+        TextGridView &grid = *grids_.Grids().at(i);
+        grid.Show(window_.grids.at(i).grid(horoscope.forms));
+        grid.SetHeading(HeadingOf(horoscope.state, grid.accessibleName()), QString::fromLatin1(window_.note));
     }
     LayOut();
 }

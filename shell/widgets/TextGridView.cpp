@@ -1,8 +1,11 @@
 #include "shell/widgets/TextGridView.h"
 
 #include "drawing/ChartColours.h"
+#include "drawing/TablePicture.h"
 #include "drawing/TextOf.h"
+#include "shell/widgets/CopiedTable.h"
 #include "shell/widgets/ParchmentPalette.h"
+#include "shell/widgets/PictureMenu.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -14,7 +17,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-#include <set>
 
 namespace kelvaro {
 
@@ -93,6 +95,19 @@ int TextGridModel::rowCount(const QModelIndex &parent) const {
 
 int TextGridModel::columnCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : static_cast<int>(titles_.size());
+}
+
+TableContent TextGridModel::Content() const {
+    TableContent content{titles_, alignments_, {}};
+    for (int row = 0; row < rowCount(); ++row) {
+        TableRow texts;
+        for (int column = 0; column < columnCount(); ++column) {
+            const QModelIndex cell = index(row, column);
+            texts.cells.push_back({TextAt(cell), IsBold(cell)});
+        }
+        content.rows.push_back(texts);
+    }
+    return content;
 }
 
 bool TextGridModel::IsBold(const QModelIndex &index) const {
@@ -174,6 +189,10 @@ TextGridView::TextGridView(const QString &name, const QString &alignments, QWidg
     colours.setColor(QPalette::Button, parchmentColour.darker(106));
     colours.setColor(QPalette::ButtonText, lineColour);
     setPalette(colours);
+    OfferMenu(this);
+    OfferPicture(this, [this] { return PictureOf(model_->Content(), heading_, note_); });
+    AddToMenu(this, "copyTable", tr("Copy as &Table"),
+              [this] { QApplication::clipboard()->setMimeData(TableOf(*model_, CellsToCopy()).release()); });
 }
 
 void TextGridView::Show(const TextGrid &grid) {
@@ -182,6 +201,11 @@ void TextGridView::Show(const TextGrid &grid) {
 
 void TextGridView::Show(const TextGrid &grid, std::size_t firstRow, std::size_t rowCount) {
     model_->Show(grid, firstRow, rowCount);
+}
+
+void TextGridView::SetHeading(const ChartHeading &heading, const QString &note) {
+    heading_ = heading;
+    note_ = note;
 }
 
 void TextGridView::MakeRoomFor(const TextGrid &grid) {
@@ -256,36 +280,37 @@ void TextGridView::LayOut(double points, int width, int rowHeight) {
 }
 
 void TextGridView::keyPressEvent(QKeyEvent *event) {
-    if (!event->matches(QKeySequence::Copy)) {
+    if (event->matches(QKeySequence::Copy)) {
+        if (selectionModel()->hasSelection()) {
+            QApplication::clipboard()->setMimeData(
+                TableOf(*model_, selectionModel()->selectedIndexes()).release());
+        }
+    } else if (event->matches(QKeySequence::Cancel) && selectionMode() != SingleSelection) {
+        clearSelection();
+    } else {
         QTableView::keyPressEvent(event);
-    } else if (selectionModel()->hasSelection()) {
-        QApplication::clipboard()->setText(SelectedText());
     }
 }
 
-/// Lines of cells with tabs between them, below a line of the columns' headings and each behind the heading
-/// of its row. What is not selected between selected cells is empty.
-QString TextGridView::SelectedText() const {
-    std::set<int> rows;
-    std::set<int> columns{0};
-    for (const QModelIndex &cell : selectionModel()->selectedIndexes()) {
-        rows.insert(cell.row());
-        columns.insert(cell.column());
+void TextGridView::mousePressEvent(QMouseEvent *event) {
+    if (event->button() != Qt::RightButton) {
+        QTableView::mousePressEvent(event);
     }
-    QStringList headings;
-    for (const int column : columns) {
-        headings << model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString().trimmed();
+}
+
+/// What the table copies: the cells that are selected, or all. In a list of single rows one of them is always
+/// selected, and nobody has chosen it to be copied.
+QModelIndexList TextGridView::CellsToCopy() const {
+    if (selectionMode() != SingleSelection && selectionModel()->hasSelection()) {
+        return selectionModel()->selectedIndexes();
     }
-    QStringList lines{headings.join(u'\t')};
-    for (const int row : rows) {
-        QStringList texts;
-        for (const int column : columns) {
-            const QModelIndex cell = model_->index(row, column);
-            texts << (column == 0 || selectionModel()->isSelected(cell) ? cell.data().toString() : QString());
+    QModelIndexList cells;
+    for (int row = 0; row < model_->rowCount(); ++row) {
+        for (int column = 0; column < model_->columnCount(); ++column) {
+            cells << model_->index(row, column);
         }
-        lines << texts.join(u'\t');
     }
-    return lines.join(u'\n');
+    return cells;
 }
 
 } // namespace kelvaro

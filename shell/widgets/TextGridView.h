@@ -1,5 +1,7 @@
 #pragma once
 
+#include "drawing/ChartHeading.h"
+#include "drawing/TableContent.h"
 #include "horoscope/record/TextGrid.h"
 
 #include <QAbstractTableModel>
@@ -25,6 +27,9 @@ public:
     void Mark(int row);
     int MarkedRow() const { return markedRow_; }
 
+    /// What the table says, to be drawn elsewhere.
+    TableContent Content() const;
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
@@ -44,7 +49,9 @@ private:
 };
 
 /// A table of texts in the colours of the house, with columns that fit their contents. Selected cells are
-/// copied with the headings of their columns and rows.
+/// copied with the headings of their columns and rows; where nothing is selected, the context menu copies the
+/// whole table, which it also copies and saves as a picture. The right button leaves the selection alone, and
+/// Escape clears it.
 class TextGridView : public QTableView {
 public:
     static constexpr double widestStretch = 1.75; ///< of columns, times what their contents need
@@ -53,6 +60,9 @@ public:
 
     void Show(const TextGrid &grid);
     void Show(const TextGrid &grid, std::size_t firstRow, std::size_t rowCount);
+
+    /// What stands above and below the table where it leaves the program as a picture.
+    void SetHeading(const ChartHeading &heading, const QString &note = {});
 
     /// Keeps the columns wide enough for all rows of a grid, whichever of them are shown.
     void MakeRoomFor(const TextGrid &grid);
@@ -71,12 +81,15 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
 
 private:
     std::vector<int> ColumnWidths(const QFont &boldFont) const;
-    QString SelectedText() const;
+    QModelIndexList CellsToCopy() const;
 
     TextGridModel *model_;
+    ChartHeading heading_;
+    QString note_;
     QStringList widest_; ///< texts of the columns of a grid, of which only some rows may be shown
 };
 

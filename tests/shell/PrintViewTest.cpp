@@ -6,7 +6,6 @@
 #include "horoscope/NoDisplay.h"
 #include "horoscope/StatusDisplay.h"
 #include "report/ReportFile.h"
-#include "shell/print/ReportFileChoice.h"
 #include "shell/print/ReportPrinter.h"
 #include "tests/shell/MessageBoxAnswer.h"
 

@@ -3,8 +3,11 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextDocument>
+#include <QTextTable>
 
 using namespace kelvaro;
 
@@ -32,6 +35,7 @@ private slots:
     void RowsShareTheRoomWithinBounds();
     void ColumnsHaveRoomForRowsThatAreNotShown();
     void SelectionIsCopiedWithItsHeadings();
+    void TheMenuCopiesTheTable();
     void CellsAreReadWithTheirHeadings();
 
 private:
@@ -136,6 +140,50 @@ void TextGridViewTest::SelectionIsCopiedWithItsHeadings() {
     QTest::keyClick(&view, Qt::Key_C, Qt::ControlModifier);
     QCOMPARE(QApplication::clipboard()->text(),
              QStringLiteral("Lord\tFrom\tAge\nSun\t\t0 - 2\nMars\t31/Jul/1977\t"));
+}
+
+void TextGridViewTest::TheMenuCopiesTheTable() {
+    TextGridView view(QStringLiteral("grid"), QStringLiteral("lr"));
+    TextGrid grid = Periods();
+    grid.rows[0][2] = "Moon & <Sun>";
+    view.Show(grid);
+    view.resize(400, 200);
+    view.show();
+    auto *copy = view.findChild<QAction *>(QStringLiteral("copyTable"));
+    const auto copied = [&] {
+        copy->trigger();
+        return QApplication::clipboard()->text();
+    };
+    const QString whole = QStringLiteral("Lord\tFrom\tSub Lord\tAge\nSun\t14/Jul/1965\tMoon & <Sun>\t0 - 2\n"
+                                         "A lord of a long name\t1\t\t12\nMars\t31/Jul/1977\tKetu\t");
+    QCOMPARE(copied(), whole);
+    // As a word processor reads it: a table of the same cells.
+    QTextDocument document;
+    document.setHtml(QApplication::clipboard()->mimeData()->html());
+    const auto *table = document.rootFrame()->childFrames().isEmpty()
+                            ? nullptr
+                            : qobject_cast<QTextTable *>(document.rootFrame()->childFrames().front());
+    QVERIFY(table != nullptr);
+    QStringList lines;
+    for (int row = 0; row < table->rows(); ++row) {
+        QStringList texts;
+        for (int column = 0; column < table->columns(); ++column) {
+            texts << table->cellAt(row, column).firstCursorPosition().block().text();
+        }
+        lines << texts.join(u'\t');
+    }
+    QCOMPARE(lines.join(u'\n'), whole);
+
+    const QModelIndex cell = view.model()->index(2, 1);
+    view.selectionModel()->select(cell, QItemSelectionModel::Select);
+    QTest::mouseClick(view.viewport(), Qt::RightButton, {},
+                      view.visualRect(view.model()->index(0, 0)).center());
+    QCOMPARE(copied(), QStringLiteral("Lord\tFrom\nMars\t31/Jul/1977"));
+    QTest::keyClick(&view, Qt::Key_Escape);
+    QCOMPARE(copied(), whole);
+    view.setSelectionMode(QAbstractItemView::SingleSelection); // where a row is always selected
+    view.selectRow(1);
+    QCOMPARE(copied(), whole);
 }
 
 void TextGridViewTest::CellsAreReadWithTheirHeadings() {
