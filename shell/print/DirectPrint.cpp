@@ -1,7 +1,5 @@
 #include "shell/print/DirectPrint.h"
 
-#include "shell/print/ReportPrinter.h"
-
 #include <QDir>
 #include <QGuiApplication>
 #include <QPrintDialog>
@@ -28,21 +26,27 @@ QString JobName(QString chartName) {
 
 } // namespace
 
-std::optional<PrintOutcome> PrintDirectly(QWidget *parent, std::string_view report, AntraSection antra,
-                                          const QString &chartName) {
-    const std::vector<std::string_view> pages = PagesToPrint(report, antra);
+std::optional<PrintOutcome> PrintThroughDialog(QWidget *parent, const PrintJob &job, const QString &chartName,
+                                               PaperUse use, std::optional<QPageSize> paper) {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setPageMargins({paperMargin, paperMargin, paperMargin, paperMargin}, QPageLayout::Millimeter);
+    if (use == PaperUse::WholePaper) {
+        printer.setFullPage(true);
+    } else {
+        printer.setPageMargins({paperMargin, paperMargin, paperMargin, paperMargin}, QPageLayout::Millimeter);
+    }
+    if (paper) {
+        printer.setPageSize(*paper);
+    }
     printer.setDocName(JobName(chartName));
     printer.setCreator(QGuiApplication::applicationName());
     QPrintDialog dialog(&printer, parent);
-    dialog.setMinMax(1, static_cast<int>(pages.size()));
-    dialog.setFromTo(1, static_cast<int>(pages.size()));
+    dialog.setMinMax(1, static_cast<int>(job.sheetCount));
+    dialog.setFromTo(1, static_cast<int>(job.sheetCount));
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;
     }
     const WaitCursor waiting;
-    PrintOn(printer, pages);
+    PrintOn(printer, job);
     return printer.outputFormat() == QPrinter::PdfFormat ? PrintOutcome{printer.outputFileName(), {}}
                                                          : PrintOutcome{{}, printer.printerName()};
 }

@@ -1,23 +1,30 @@
 #pragma once
 
-#include "report/HoroscopeReport.h"
+#include "shell/print/PrintJob.h"
 
+#include <QPageSize>
 #include <QWidget>
 
 #include <optional>
-#include <string_view>
 
 namespace kelvaro {
 
-/// Where a report went from the print dialog.
+/// Where pages went from the print dialog.
 struct PrintOutcome {
-    QString file;    ///< empty where it went to a printer
+    QString file;    ///< empty where they went to a printer
     QString printer; ///< name of the printer
 };
 
-/// Asks for printer, pages and copies in the system's dialog and prints the pages of a report. Gives nothing
-/// when the user cancels. The name of the job is that of the chart. Raises as `PrintOn`.
-std::optional<PrintOutcome> PrintDirectly(QWidget *parent, std::string_view report, AntraSection antra,
-                                          const QString &chartName);
+/// What the sheets of a job leave free of the paper.
+enum class PaperUse {
+    InsideMargins, ///< a margin of 15 mm
+    WholePaper,    ///< nothing: the pages have margins of their own
+};
+
+/// Asks for printer, pages and copies in the system's dialog and prints. Gives nothing when the user cancels.
+/// The name of the job is that of the chart. The dialog begins with a size of paper where one is given, and
+/// else with the printer's. Raises as `PrintOn`.
+std::optional<PrintOutcome> PrintThroughDialog(QWidget *parent, const PrintJob &job, const QString &chartName,
+                                               PaperUse use, std::optional<QPageSize> paper = {});
 
 } // namespace kelvaro

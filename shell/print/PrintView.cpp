@@ -5,13 +5,18 @@
 #include "drawing/ShownText.h"
 #include "drawing/TextOf.h"
 #include "horoscope/Horoscope.h"
+#include "pages/PaperOfLocale.h"
 #include "report/ReportFile.h"
-#include "shell/print/DirectPrint.h"
+#include "shell/print/PagePreview.h"
+#include "shell/print/PagesPrinter.h"
+#include "shell/print/PdfExport.h"
 #include "shell/print/ReportBox.h"
+#include "shell/print/ReportPrinter.h"
 #include "shell/widgets/FileChoice.h"
 #include "shell/widgets/FormKeys.h"
 #include "shell/widgets/HouseIcon.h"
 #include "shell/widgets/MessageBoxes.h"
+#include "shell/widgets/SpokenNames.h"
 
 #include <QFile>
 #include <QGroupBox>
@@ -33,6 +38,7 @@ namespace {
 
 constexpr ReportFileKind textFile{{"Text Files (*.Txt)", ".Txt"}, TextFileContent};
 constexpr ReportFileKind htmlFile{{"HTML Files (*.HTML)", ".HTML"}, HtmlFileContent};
+constexpr FileKind pdfFile{"PDF Files (*.pdf)", ".pdf"};
 
 constexpr int margin = 16;
 constexpr double linesOfContent = 32; // that the options, as large as in the other views, leave room for
@@ -44,8 +50,9 @@ QRadioButton *NewOption(const char *name, const char *caption) {
     return option;
 }
 
-/// A group of options, of which the first is on.
-QGroupBox *NewFrame(const char *caption, const QList<QRadioButton *> &options) {
+/// A group of options, of which the first is on, and below them what more there is to choose.
+QGroupBox *NewFrame(const char *caption, const QList<QRadioButton *> &options,
+                    const QList<QWidget *> &others = {}) {
     options.front()->setChecked(true);
     auto *frame = new QGroupBox(QString::fromLatin1(caption));
     auto *rows = new QVBoxLayout;
@@ -53,17 +60,47 @@ QGroupBox *NewFrame(const char *caption, const QList<QRadioButton *> &options) {
     for (QRadioButton *option : options) {
         rows->addWidget(option);
     }
+    for (QWidget *other : others) {
+        rows->addWidget(other);
+    }
     return frame;
+}
+
+/// A widget behind the label that names it.
+QWidget *Labelled(const QString &text, QWidget *widget) {
+    auto *line = new QWidget;
+    auto *row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto *label = new QLabel(text);
+    label->setBuddy(widget);
+    row->addWidget(label);
+    row->addWidget(widget, 1);
+    return line;
+}
+
+/// A choice of paper, at that of the person's country.
+QComboBox *NewPaper() {
+    auto *paper = new QComboBox;
+    paper->setObjectName(QStringLiteral("paper"));
+    paper->setAccessibleName(QObject::tr("Paper"));
+    for (const QPageSize::PageSizeId size : {QPageSize::A4, QPageSize::Letter}) {
+        paper->addItem(QPageSize::name(size), size);
+    }
+    paper->setCurrentIndex(paper->findData(UsualPaper()));
+    return paper;
 }
 
 } // namespace
 
 PrintView::PrintView(QWidget *parent)
     : HoroscopeView(parent), heading_(new ViewHeading(tr("Print"))), Op2_(NewOption("Op2", "Without Antra")),
-      Op1_(NewOption("Op1", "With Antra")), Op4_(NewOption("Op4", "Generate Horoscope as a Text file")),
+      Op1_(NewOption("Op1", "With Antra")), vargaCharts_(new QCheckBox(tr("With Charts of Vargas"))),
+      paper_(NewPaper()), Op4_(NewOption("Op4", "Generate Horoscope as a Text file")),
       Op3_(NewOption("Op3", "Generate Horoscope as a HTML file")), Op5_(NewOption("Op5", "Print Directly")),
-      CoPrt_(new QPushButton(tr("&Print"))), outcome_(new QLabel), options_(new QWidget), Te_(new ReportBox) {
+      Op6_(NewOption("Op6", "Generate Horoscope as a PDF file")), CoPrt_(new QPushButton(tr("&Print"))),
+      outcome_(new QLabel), options_(new QWidget), Te_(new ReportBox), preview_(new PagePreview) {
     setAccessibleName(tr("Print"));
+    vargaCharts_->setObjectName(QStringLiteral("vargaCharts"));
     CoPrt_->setObjectName(QStringLiteral("CoPrt"));
     CoPrt_->setIcon(HouseIcon("print", nameColour));
     CoPrt_->setAutoDefault(true);
@@ -72,12 +109,32 @@ PrintView::PrintView(QWidget *parent)
     outcome_->setTextFormat(Qt::PlainText);
     outcome_->setWordWrap(true);
     outcome_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    composing_.setSingleShot(true);
+    PlaceParts();
+    NameFields(*this);
+    ChooseOutput();
 
+    connect(CoPrt_, &QPushButton::clicked, this, &PrintView::Print);
+    connect(Op6_, &QRadioButton::toggled, this, &PrintView::ChooseOutput);
+    connect(Op1_, &QRadioButton::toggled, this, &PrintView::PagesAreStale);
+    connect(vargaCharts_, &QCheckBox::toggled, this, &PrintView::PagesAreStale);
+    connect(paper_, &QComboBox::currentIndexChanged, this, &PrintView::PagesAreStale);
+    connect(&composing_, &QTimer::timeout, this, [this] { Guarded(this, [this] { ComposeAllPages(); }); });
+    connect(preview_, &PagePreview::PrintWanted, this, [this] { Guarded(this, [this] { PrintPages(); }); });
+    // The button's own key works only with the focus inside the view; this one also from the tree.
+    auto *key = new QShortcut(CoPrt_->shortcut(), this);
+    key->setContext(Qt::ApplicationShortcut);
+    CoPrt_->setShortcut({});
+    connect(key, &QShortcut::activated, CoPrt_, &QPushButton::click);
+}
+
+void PrintView::PlaceParts() {
     auto *choices = new QVBoxLayout(options_);
     choices->setContentsMargins(0, 0, 0, 0);
     choices->setSpacing(margin);
-    choices->addWidget(NewFrame("Horoscope Option", {Op2_, Op1_}));
-    choices->addWidget(NewFrame("Output Option", {Op4_, Op3_, Op5_}));
+    choices->addWidget(
+        NewFrame("Horoscope Option", {Op2_, Op1_}, {vargaCharts_, Labelled(tr("P&aper"), paper_)}));
+    choices->addWidget(NewFrame("Output Option", {Op4_, Op3_, Op5_, Op6_}));
     choices->addWidget(CoPrt_, 0, Qt::AlignRight);
     choices->addWidget(outcome_);
     choices->addStretch();
@@ -87,18 +144,13 @@ PrintView::PrintView(QWidget *parent)
     content->addStretch();
     content->addWidget(options_);
     content->addWidget(Te_, 1);
+    content->addWidget(preview_, 1);
     content->addStretch();
     auto *whole = new QVBoxLayout(this);
     whole->setContentsMargins(margin, margin, margin, margin);
     whole->setSpacing(margin);
     whole->addWidget(heading_);
     whole->addLayout(content, 1);
-    connect(CoPrt_, &QPushButton::clicked, this, &PrintView::Print);
-    // The button's own key works only with the focus inside the view; this one also from the tree.
-    auto *key = new QShortcut(CoPrt_->shortcut(), this);
-    key->setContext(Qt::ApplicationShortcut);
-    CoPrt_->setShortcut({});
-    connect(key, &QShortcut::activated, CoPrt_, &QPushButton::click);
 }
 
 void PrintView::Refresh(const Horoscope &horoscope) {
@@ -108,6 +160,7 @@ void PrintView::Refresh(const Horoscope &horoscope) {
     Te_->Show(report_);
     outcome_->clear();
     CoPrt_->setEnabled(true);
+    PagesAreStale();
 }
 
 void PrintView::keyPressEvent(QKeyEvent *event) {
@@ -129,20 +182,37 @@ void PrintView::LayOut() {
     heading_->setFont(roomy);
     options_->setFont(roomy);
     options_->setFixedWidth(options_->sizeHint().width());
+    preview_->setFont(roomy);
     Te_->FitInto(width() - 3 * margin - options_->width());
+}
+
+void PrintView::showEvent(QShowEvent *event) {
+    HoroscopeView::showEvent(event);
+    if (pages_ == nullptr) {
+        PagesAreStale();
+    }
 }
 
 AntraSection PrintView::Antra() const {
     return Op1_->isChecked() ? AntraSection::With : AntraSection::Without;
 }
 
+QString PrintView::ChartName() const {
+    return TextOf(horoscope_->state.birth.ChartName);
+}
+
 void PrintView::Print() {
     outcome_->clear();
     outcome_->setToolTip({});
     Guarded(this, [this] {
+        if (IsPdf()) {
+            SavePdf();
+            return;
+        }
         Compose();
         if (Op5_->isChecked()) {
-            PrintOut();
+            Tell(PrintThroughDialog(this, JobOf(PagesToPrint(report_, Antra())), ChartName(),
+                                    PaperUse::InsideMargins));
         } else {
             SaveAs(Op3_->isChecked() ? htmlFile : textFile);
         }
@@ -155,7 +225,7 @@ void PrintView::Compose() {
 }
 
 void PrintView::SaveAs(const ReportFileKind &kind) {
-    const QString name = AskFile(this, {kind.file}, FileNameOf(TextOf(horoscope_->state.birth.ChartName)));
+    const QString name = AskFile(this, {kind.file}, FileNameOf(ChartName()));
     if (!name.isEmpty()) {
         WriteReportFile(QFile::encodeName(name).toStdString(), kind.content(report_));
         TellFile(name);
@@ -171,8 +241,7 @@ void PrintView::TellFile(const QString &name) {
     outcome_->setToolTip(ToolTipText(name));
 }
 
-void PrintView::PrintOut() {
-    const auto outcome = PrintDirectly(this, report_, Antra(), TextOf(horoscope_->state.birth.ChartName));
+void PrintView::Tell(const std::optional<PrintOutcome> &outcome) {
     if (!outcome) {
         return;
     }
@@ -181,6 +250,50 @@ void PrintView::PrintOut() {
     } else {
         TellFile(outcome->file);
     }
+}
+
+/// The pages have a preview and options of their own.
+void PrintView::ChooseOutput() {
+    vargaCharts_->setEnabled(IsPdf());
+    paper_->setEnabled(IsPdf());
+    Te_->setVisible(!IsPdf());
+    preview_->setVisible(IsPdf());
+    PagesAreStale();
+}
+
+/// The pages are composed when all that changes them has changed, and only to be seen.
+void PrintView::PagesAreStale() {
+    pages_.reset();
+    preview_->Show(nullptr);
+    if (IsPdf() && isVisible() && horoscope_ != nullptr) {
+        composing_.start(0);
+    }
+}
+
+void PrintView::ComposeAllPages() {
+    composing_.stop();
+    const PageOptions options{Antra(), vargaCharts_->isChecked(),
+                              static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt())};
+    pages_ = std::make_shared<const HoroscopePages>(
+        ComposePages(horoscope_->state, horoscope_->forms, horoscope_->connection, options));
+    preview_->Show(pages_);
+}
+
+void PrintView::SavePdf() {
+    ComposeAllPages();
+    const auto pages = pages_;
+    const QString name = AskFile(this, {pdfFile}, FileNameOf(ChartName()));
+    if (!name.isEmpty() && WritePdfFile(this, *pages, name)) {
+        TellFile(name);
+    }
+}
+
+void PrintView::PrintPages() {
+    outcome_->clear();
+    outcome_->setToolTip({});
+    ComposeAllPages();
+    Tell(PrintThroughDialog(this, JobOf(pages_), ChartName(), PaperUse::WholePaper,
+                            QPageSize(static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt()))));
 }
 
 } // namespace kelvaro

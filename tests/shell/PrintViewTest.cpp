@@ -2,30 +2,18 @@
 
 #include "drawing/FileName.h"
 #include "horoscope/CalculateHoroscope.h"
-#include "horoscope/Horoscope.h"
-#include "horoscope/NoDisplay.h"
-#include "horoscope/StatusDisplay.h"
 #include "report/ReportFile.h"
 #include "shell/print/ReportPrinter.h"
 #include "tests/shell/MessageBoxAnswer.h"
+#include "tests/shell/PrintViewCase.h"
 
-#include <QComboBox>
-#include <QFile>
 #include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPaintEngine>
-#include <QPrintDialog>
 #include <QPrintEngine>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QTextEdit>
 #include <QTimer>
-
-#include <functional>
-#include <memory>
 
 using namespace kelvaro;
 
@@ -88,18 +76,9 @@ private:
     Ink ink_;
 };
 
-QByteArray ContentOf(const QString &name) {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
-}
-
-qsizetype SheetsIn(const QByteArray &pdf) {
-    return pdf.count("/Type /Page\n");
-}
-
 } // namespace
 
-class PrintViewTest : public QObject {
+class PrintViewTest : public PrintViewCase {
     Q_OBJECT
 
 private slots:
@@ -116,68 +95,13 @@ private slots:
     void RangesAreKeptAndFailuresTold();
 
 private:
-    QString Path(const QString &name) const { return folder_->filePath(name); }
-    QTextEdit *Te() const { return view_->findChild<QTextEdit *>(QStringLiteral("Te")); }
-    void Choose(const char *option) const {
-        view_->findChild<QRadioButton *>(QString::fromLatin1(option))->click();
-    }
-
-    /// Presses the button and works in the dialogs that come up, one after the other.
-    void Press(std::vector<std::function<void(QDialog &)>> works) const {
-        std::size_t done = 0;
-        QTimer timer;
-        timer.callOnTimeout([&] {
-            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-            if (dialog == nullptr || !dialog->isVisible() || qobject_cast<QMessageBox *>(dialog) != nullptr) {
-                return;
-            }
-            if (done < works.size()) {
-                works.at(done++)(*dialog);
-            } else {
-                ++done; // a dialog too many
-                dialog->reject();
-            }
-        });
-        timer.start(10);
-        QTest::mouseClick(view_->findChild<QPushButton *>(QStringLiteral("CoPrt")), Qt::LeftButton);
-        QCOMPARE(done, works.size());
-    }
-
-    /// Types a name into the save dialog.
-    static auto Typing(const QString &name) {
-        return [name](QDialog &dialog) {
-            QCOMPARE(dialog.objectName(), QStringLiteral("CD"));
-            auto *edit = dialog.findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
-            edit->setText(name);
-            QTest::keyClick(edit, Qt::Key_Return);
-        };
-    }
-
-    static void Cancel(QDialog &dialog) { dialog.reject(); }
-
     std::string Composed(AntraSection antra) {
         return ComposeReport(horoscope_->state, horoscope_->forms, *connection_, antra);
     }
-
-    NoDisplay display_;
-    std::unique_ptr<QTemporaryDir> folder_;
-    std::unique_ptr<store::Connection> connection_;
-    std::unique_ptr<Horoscope> horoscope_;
-    std::unique_ptr<PrintView> view_;
 };
 
 void PrintViewTest::init() {
-    view_.reset();
-    horoscope_.reset();
-    folder_ = std::make_unique<QTemporaryDir>();
-    connection_ = std::make_unique<store::Connection>();
-    connection_->OpenCopyInMemory(KELVARO_SEED_DATABASE);
-    horoscope_ = std::make_unique<Horoscope>(*connection_, display_);
-    CalculateHoroscope(*horoscope_);
-    view_ = std::make_unique<PrintView>();
-    view_->resize(1000, 700);
-    view_->show();
-    view_->Refresh(*horoscope_);
+    Open();
 }
 
 void PrintViewTest::FirstPressAsksForAShortTextAndShowsIt() {
@@ -216,7 +140,7 @@ void PrintViewTest::FilesHoldTheReport() {
         const std::string report =
             Composed(antra == std::string("Op1") ? AntraSection::With : AntraSection::Without);
         QVERIFY(report.find(std::string(": ") + chart + "\r\n") != std::string::npos);
-        QCOMPARE(ContentOf(Path(written)).toStdString(),
+        QCOMPARE(ContentOfFile(Path(written)).toStdString(),
                  kind == std::string("Op3") ? HtmlFileContent(report) : TextFileContent(report));
         QVERIFY(view_->findChild<QLabel *>("outcome")->text().contains(written));
         QVERIFY(QFile::remove(Path(written)));
@@ -261,12 +185,12 @@ void PrintViewTest::ExistingFileIsReplacedAfterAQuestionOnly() {
     timer.start(10);
     Press({Typing(Path("chart")), Cancel});
     QCOMPARE(questions, 1);
-    QCOMPARE(ContentOf(Path("chart.Txt")), QByteArray("older"));
+    QCOMPARE(ContentOfFile(Path("chart.Txt")), QByteArray("older"));
 
     answer = QMessageBox::Yes;
     Press({Typing(Path("chart"))});
     QCOMPARE(questions, 2);
-    QCOMPARE(ContentOf(Path("chart.Txt")), QByteArray::fromStdString(view_->Report()) + "\r\n");
+    QCOMPARE(ContentOfFile(Path("chart.Txt")), QByteArray::fromStdString(view_->Report()) + "\r\n");
 }
 
 void PrintViewTest::CancelAndFailureLeaveTheReportShown() {
@@ -296,7 +220,7 @@ void PrintViewTest::AnotherHoroscopeTakesTheReportAway() {
     view_->Refresh(*horoscope_);
     QVERIFY(Te()->toPlainText().isEmpty());
     Press({Typing(Path("empty"))});
-    QVERIFY(ContentOf(Path("empty.Txt")).contains("JANMA PATRIKA"));
+    QVERIFY(ContentOfFile(Path("empty.Txt")).contains("JANMA PATRIKA"));
 }
 
 void PrintViewTest::PrintDialogMakesAPdf() {
@@ -309,21 +233,15 @@ void PrintViewTest::PrintDialogMakesAPdf() {
                  {"Op1", 14, 2, 4}};
     for (const auto &c : cases) {
         Choose(c.antra);
-        Press({[&](QDialog &dialog) {
-            QVERIFY(qobject_cast<QPrintDialog *>(&dialog) != nullptr);
-            auto *printers = dialog.findChild<QComboBox *>("printers");
-            printers->setCurrentIndex(printers->findText(QStringLiteral("PDF"), Qt::MatchContains));
-            QFile::remove(Path("chart.pdf")); // the dialog would ask whether to replace it
-            dialog.findChild<QLineEdit *>("filename")->setText(Path("chart.pdf"));
+        Press({PrintingTo(Path("chart.pdf"), [&](QDialog &dialog) {
             if (c.from > 1) {
                 dialog.findChild<QRadioButton *>("printRange")->click();
                 dialog.findChild<QSpinBox *>("from")->setValue(c.from);
             }
             dialog.findChild<QSpinBox *>("copies")->setValue(c.copies);
-            dialog.accept();
-        }});
-        QVERIFY(ContentOf(Path("chart.pdf")).startsWith("%PDF"));
-        QCOMPARE(SheetsIn(ContentOf(Path("chart.pdf"))), c.sheets);
+        })});
+        QVERIFY(ContentOfFile(Path("chart.pdf")).startsWith("%PDF"));
+        QCOMPARE(SheetsIn(ContentOfFile(Path("chart.pdf"))), c.sheets);
     }
     QVERIFY(QGuiApplication::overrideCursor() == nullptr);
 }
@@ -359,7 +277,7 @@ void PrintViewTest::PagesFitThePaperLineByLine() {
     for (const auto &[area, line, lines] : cases) {
         const std::string page = QStringList(lines, line).join(QStringLiteral("\r\n")).toStdString();
         NotingPrinter printer(area);
-        PrintPages({"first\r\n", page, "last"}, printer);
+        PrintSheets(JobOf({"first\r\n", page, "last"}), printer);
         const QList<QStringList> expected{{"first"}, QStringList(lines, line), {"last"}};
         QCOMPARE(printer.Sheets(), expected);
         const QSizeF inked = printer.Inked().size();
@@ -372,15 +290,15 @@ void PrintViewTest::PagesFitThePaperLineByLine() {
 void PrintViewTest::RangesAreKeptAndFailuresTold() {
     for (const char *failing : {"start", "page", "end"}) {
         NotingPrinter printer(QSize(4250, 6300), failing);
-        QVERIFY_EXCEPTION_THROWN(PrintPages({"1", "2"}, printer), ReportPrintError);
+        QVERIFY_EXCEPTION_THROWN(PrintSheets(JobOf({"1", "2"}), printer), ReportPrintError);
     }
     NotingPrinter some(QSize(4250, 6300));
     some.setPageRanges(QPageRanges::fromString(QStringLiteral("1,3-7")));
-    PrintPages({"1", "2", "3", "4"}, some);
+    PrintSheets(JobOf({"1", "2", "3", "4"}), some);
     QCOMPARE(some.Sheets(), (QList<QStringList>{{"1"}, {"3"}, {"4"}}));
     NotingPrinter beyond(QSize(4250, 6300));
     beyond.setPageRanges(QPageRanges::fromString(QStringLiteral("3-7")));
-    QVERIFY_EXCEPTION_THROWN(PrintPages({"1", "2"}, beyond), ReportPrintError);
+    QVERIFY_EXCEPTION_THROWN(PrintSheets(JobOf({"1", "2"}), beyond), ReportPrintError);
 }
 
 QTEST_MAIN(PrintViewTest)
