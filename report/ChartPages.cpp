@@ -1,7 +1,6 @@
 #include "report/ChartPages.h"
 
 #include "panchanga/Sign.h"
-#include "presentation/ChartStyles.h"
 #include "report/TextCharts.h"
 #include "report/TextLayout.h"
 #include "runtime/Texts.h"
@@ -31,14 +30,6 @@ constexpr std::string_view bhavaHeading1 =
     "House Mid    Rasi       Rasi    Star              Pada Star    Sub";
 constexpr std::string_view bhavaHeading2 =
     "   Longitude            Lord                           Lord    Lord";
-
-/// The preferred style in any case of letters, where the form has a drawing in it; otherwise null.
-const StyleOfChart *StyleFor(const HoroscopeState &state, const ChartForm &form) {
-    const auto *const found = std::ranges::find_if(chartStyles, [&](const StyleOfChart &style) {
-        return SameIgnoringCase(style.word, state.preferences.ChartStyle);
-    });
-    return found != chartStyles.end() && form.VisibleFrame == found->style ? found : nullptr;
-}
 
 void OpenCells(const std::array<std::string, 12> &labels, CellReducer reduce, store::Connection &connection,
                store::Recordset &cells) {
@@ -114,7 +105,7 @@ void AddLeftOut(const store::Recordset &cells, const HoroscopeState &state, cons
 
 void AddChart(std::string_view title, const HoroscopeState &state, const ChartForm &form, bool isBhava,
               store::Connection &connection, ReportPages &pages) {
-    const StyleOfChart *style = StyleFor(state, form);
+    const StyleOfChart *style = PreferredStyleOf(state, form);
     if (style == nullptr) {
         return;
     }
@@ -128,9 +119,7 @@ void AddChart(std::string_view title, const HoroscopeState &state, const ChartFo
 }
 
 void AddBhavaTable(const HoroscopeState &state, const TextGrid &grid, ReportPages &pages) {
-    pages.AddLine(HouseSystemOf(state.preferences.BhavaSystem) == HouseSystem::Equal
-                      ? "Bhava Positions  (Equal Division of Houses From M.C)"
-                      : "Bhava Positions  (Placidius Semi-Arc System)");
+    pages.AddLine(BhavaTableTitle(state));
     pages.AddRule('-', bhavaRule);
     pages.AddLine(bhavaHeading1);
     pages.AddLine(bhavaHeading2);
@@ -141,6 +130,19 @@ void AddBhavaTable(const HoroscopeState &state, const TextGrid &grid, ReportPage
 }
 
 } // namespace
+
+const StyleOfChart *PreferredStyleOf(const HoroscopeState &state, const ChartForm &form) {
+    const auto *const found = std::ranges::find_if(chartStyles, [&](const StyleOfChart &style) {
+        return SameIgnoringCase(style.word, state.preferences.ChartStyle);
+    });
+    return found != chartStyles.end() && form.VisibleFrame == found->style ? found : nullptr;
+}
+
+std::string_view BhavaTableTitle(const HoroscopeState &state) {
+    return HouseSystemOf(state.preferences.BhavaSystem) == HouseSystem::Equal
+               ? "Bhava Positions  (Equal Division of Houses From M.C)"
+               : "Bhava Positions  (Placidius Semi-Arc System)";
+}
 
 void AddChartsPage(const HoroscopeState &state, const HoroscopeForms &forms, store::Connection &connection,
                    ReportPages &pages) {

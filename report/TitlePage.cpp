@@ -1,10 +1,8 @@
 #include "report/TitlePage.h"
 
 #include "report/TextLayout.h"
-#include "runtime/Texts.h"
-#include "store/database/Recordset.h"
+#include "report/TitleFields.h"
 
-#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -18,68 +16,6 @@ constexpr std::size_t indent = 5;
 constexpr std::size_t labelWidth = 22;
 constexpr std::size_t ruleWidth = 70;
 constexpr std::size_t betweenGroups = 3;
-
-struct LabelledField {
-    std::string_view label;
-    std::string UserDetailsForm::*text;
-};
-
-constexpr std::array<LabelledField, 29> labelledFields{{
-    {"Name", &UserDetailsForm::txtGName},
-    {"Sex", &UserDetailsForm::txtSex},
-    {"Date of Birth", &UserDetailsForm::Txt_BC_Date},
-    {"Time of Birth", &UserDetailsForm::txtTimeOfBirth},
-    {"LMT", &UserDetailsForm::txtlmt},
-    {"GMT", &UserDetailsForm::txtgmt},
-    {"Time Zone", &UserDetailsForm::txtTimeZone},
-    {"Ishta Ghati", &UserDetailsForm::txtIshtaGhati},
-    {"Birth County", &UserDetailsForm::txtCountry},
-    {"Birth City", &UserDetailsForm::txtCity},
-    {"Latitude", &UserDetailsForm::txtLatutude},
-    {"Longitude", &UserDetailsForm::txtLongitude},
-    {"Sun Rise", &UserDetailsForm::txtSunRise},
-    {"Sun Set", &UserDetailsForm::txtSunSet},
-    {"Ayanamsa", &UserDetailsForm::txtAyanamsa},
-
-    {"Vedic Day", &UserDetailsForm::txtVedic},
-    {"Gregorian Day", &UserDetailsForm::txtGregorian},
-    {"Solar Date", &UserDetailsForm::txtSolarDate},
-    {"Lunar Sukladi Date", &UserDetailsForm::txtSLunarDate},
-    {"Lunar Krishnadi Date", &UserDetailsForm::txtKLunarDate},
-    {"Kaliyuga Year", &UserDetailsForm::txtKaliyugaYear},
-    {"Ayana", &UserDetailsForm::txtAyana},
-
-    {"Janma Lagna", &UserDetailsForm::txtLagna},
-    {"Janma Rasi", &UserDetailsForm::txtRasi},
-    {"Star", &UserDetailsForm::txtStar},
-    {"Tithi", &UserDetailsForm::txtTithi},
-    {"Paksha", &UserDetailsForm::txtPaksha},
-    {"Yogam", &UserDetailsForm::txtYogam},
-    {"Karnam", &UserDetailsForm::txtKarnam},
-}};
-
-constexpr std::span<const LabelledField> allFields(labelledFields);
-constexpr std::array<std::span<const LabelledField>, 3> groups{
-    allFields.subspan(0, 15), allFields.subspan(15, 7), allFields.subspan(22, 7)};
-
-/// A field of the letterhead with what parts it from the field before it on its line.
-struct OwnerField {
-    std::string_view field;
-    bool startsLine;
-    std::string_view separator;
-    std::string_view label;
-};
-
-constexpr std::array<OwnerField, 8> ownerFields{{
-    {"Name", true, "", ""},
-    {"Address", true, "", ""},
-    {"Address2", false, ", ", ""},
-    {"City", true, "", ""},
-    {"Zipcode", false, " - ", ""},
-    {"Country", false, ", ", ""},
-    {"Phone", false, ", ", "Phone : "},
-    {"EMail", true, "", "E-Mail : "},
-}};
 
 /// A line of the page: a text behind what stands before it. A text that is too long goes on under its own
 /// beginning.
@@ -102,29 +38,9 @@ void AddGroup(std::span<const LabelledField> group, const UserDetailsForm &form,
     }
 }
 
-/// Fields that are empty are left out, with their labels and separators.
 void AddOwner(store::Connection &connection, TitleLines &lines) {
-    store::Recordset owner;
-    owner.Open("select * From personalDetails", connection);
-    if (owner.IsEndOfFile()) {
-        return;
-    }
-    bool startsLine = true;
-    for (const OwnerField &field : ownerFields) {
-        startsLine = startsLine || field.startsLine;
-        const std::string stored = owner.Line(field.field);
-        const std::string_view text = Trimmed(stored);
-        if (text.empty()) {
-            continue;
-        }
-        if (startsLine) {
-            lines.push_back({std::string(indent, ' '), {}});
-        }
-        lines.back()
-            .text.append(startsLine ? std::string_view() : field.separator)
-            .append(field.label)
-            .append(text);
-        startsLine = false;
+    for (const std::string &line : ReadLetterhead(connection).lines) {
+        lines.push_back({std::string(indent, ' '), line});
     }
 }
 
@@ -146,9 +62,9 @@ void LayOut(const TitleLines &lines, ReportPages &pages) {
 
 void AddInvocation(ReportPages &pages) {
     pages.AddBlankLines(2);
-    pages.AddLine("                         AUM GANESHAYA NAMAH");
-    pages.AddLine("           JANANI JANMA SOUKHYANAM VARDHINEE KULA SAMPADAM");
-    pages.AddLine("           PADAVI POORVA PUNYANAM  LIKHYATE  JANMA PATRIKA");
+    for (const std::string_view line : invocation) {
+        pages.AddLine(line);
+    }
 }
 
 } // namespace
@@ -159,7 +75,7 @@ void AddTitlePage(const UserDetailsForm &form, store::Connection &connection, Re
     pages.AddHeader();
     pages.AddRule('_', ruleWidth);
     TitleLines lines;
-    for (const auto &group : groups) {
+    for (const auto &group : fieldGroups) {
         AddGroup(group, form, lines);
     }
     AddBlankLines(2, lines);
