@@ -14,12 +14,9 @@ namespace kelvaro {
 namespace {
 
 // Sizes in sides of the square.
-constexpr double usualTextSize = 0.0285;
-constexpr double leastCommonTextSize = 0.023; // a cell that needs smaller text shrinks alone
 constexpr double cellMargin = 0.009;
-constexpr double signNumberSize = 0.0205;
+constexpr double packedMargin = 0.006;
 constexpr double signNumberMargin = 0.009;
-constexpr double headingHeight = 0.13; // above a drawing that has no open centre
 constexpr double headingGap = 0.022;
 constexpr double diagonalLineWidth = 1.15; // smoothed lines look thinner than those on whole dots
 
@@ -45,18 +42,6 @@ QPointF MiddleOf(const QPolygonF &outline) {
     return sum / static_cast<double>(outline.size());
 }
 
-/// The size shared by the cells: what the fullest of them needs, those left out that would make all others
-/// tiny.
-double CommonTextSize(const std::array<double, 12> &largest) {
-    double size = usualTextSize;
-    for (const double each : largest) {
-        if (each >= leastCommonTextSize) {
-            size = std::min(size, each);
-        }
-    }
-    return size;
-}
-
 CellText CellTextOf(const std::vector<CellBody> &bodies, const ChartForm &form) {
     CellText text;
     text.isListed = form.breaksLines;
@@ -65,6 +50,15 @@ CellText CellTextOf(const std::vector<CellBody> &bodies, const ChartForm &form) 
         text.entries.push_back(
             {TextOf(body.name), TextOf(body.degrees), body.IsLagna() ? Tone::Lagna : Tone::Name});
     }
+    return text;
+}
+
+/// The names alone, and a mark that there is more to tell.
+CellText NamesAndMark(CellText text) {
+    for (CellEntry &entry : text.entries) {
+        entry.figure.clear();
+    }
+    text.entries.push_back({QStringLiteral("*"), {}, Tone::Name});
     return text;
 }
 
@@ -103,8 +97,8 @@ ChartContent ContentOf(const ChartForm &form, ChartStyle style, const ChartHeadi
     return content;
 }
 
-ChartDrawing::ChartDrawing(ChartContent content, const ChartFont &font)
-    : content_(std::move(content)), font_(font), outlines_(CellOutlines(content_.style)) {
+ChartDrawing::ChartDrawing(ChartContent content, const ChartFont &font, const ChartSizes &sizes)
+    : content_(std::move(content)), font_(font), sizes_(sizes), outlines_(CellOutlines(content_.style)) {
     for (std::size_t index = 0; index < numbers_.size(); ++index) {
         numbers_.at(index) = PlacedNumber(index);
     }
@@ -116,16 +110,16 @@ PlacedText ChartDrawing::PlacedNumber(std::size_t house) const {
     if (text.isEmpty()) {
         return {};
     }
-    const double width = font_.Width(text, Tone::Figure) * signNumberSize;
-    const double height = font_.Ascent() * signNumberSize;
+    const double width = font_.Width(text, Tone::Figure) * sizes_.number;
+    const double height = font_.Ascent() * sizes_.number;
     // Two borders meet at the corner at a right angle, so a box as wide as two digits clears both of them
     // at half its width and height from the corner.
-    const double widest = font_.Width(QStringLiteral("12"), Tone::Figure) * signNumberSize;
+    const double widest = font_.Width(QStringLiteral("12"), Tone::Figure) * sizes_.number;
     const QPointF corner = NumberCorner(house);
     QPointF inward = MiddleOf(outlines_.at(house)) - corner;
     inward /= std::hypot(inward.x(), inward.y());
     const QPointF middle = corner + inward * ((widest + height) / 2 + signNumberMargin);
-    return {signNumberSize, {{text, Tone::Figure, middle + QPointF(-width / 2, height / 2)}}};
+    return {sizes_.number, {{text, Tone::Figure, middle + QPointF(-width / 2, height / 2)}}};
 }
 
 std::vector<CellEdge> ChartDrawing::TextEdges(std::size_t cell) const {
@@ -137,23 +131,60 @@ std::vector<CellEdge> ChartDrawing::TextEdges(std::size_t cell) const {
     return edges;
 }
 
+/// The size shared by the cells: what the fullest of them needs, those left out that would make all others
+/// tiny.
+double ChartDrawing::CommonTextSize(const std::array<double, 12> &largest) const {
+    double size = sizes_.text;
+    for (const double each : largest) {
+        if (each >= sizes_.leastCommon) {
+            size = std::min(size, each);
+        }
+    }
+    return size;
+}
+
+ChartDrawing::FittedCell ChartDrawing::Fitted(std::size_t cell) const {
+    const std::vector<CellEdge> edges = TextEdges(cell);
+    const auto fitted = [&](const CellText &text, double margin, bool isWhole) {
+        CellFitter fitter(text, edges, font_);
+        const double largest = fitter.IsEmpty() ? sizes_.text : fitter.LargestSize(margin);
+        return FittedCell{std::move(fitter), largest, margin, isWhole};
+    };
+    CellText text = content_.cells.at(cell);
+    FittedCell usual = fitted(text, cellMargin, true);
+    if (sizes_.least == 0 || usual.largest >= sizes_.leastCommon) {
+        return usual;
+    }
+    text.isPacked = true;
+    FittedCell whole = fitted(text, packedMargin, true);
+    if (whole.largest >= sizes_.least) {
+        return whole;
+    }
+    FittedCell names = fitted(NamesAndMark(text), packedMargin, false);
+    return names.largest >= sizes_.least ? std::move(names) : fitted(NamesAndMark({}), cellMargin, false);
+}
+
 void ChartDrawing::FitCells() {
-    std::vector<CellFitter> fitters;
+    std::vector<FittedCell> fitted;
     std::array<double, 12> largest{};
     for (std::size_t index = 0; index < cells_.size(); ++index) {
-        fitters.emplace_back(content_.cells.at(index), TextEdges(index), font_);
-        largest.at(index) = fitters.back().IsEmpty() ? usualTextSize : fitters.back().LargestSize(cellMargin);
+        fitted.push_back(Fitted(index));
+        largest.at(index) = fitted.back().largest;
+        if (!fitted.back().isWhole) {
+            cellsLeftOut_.push_back(index);
+        }
     }
     const double common = CommonTextSize(largest);
     for (std::size_t index = 0; index < cells_.size(); ++index) {
-        if (!fitters[index].IsEmpty()) {
-            cells_.at(index) = fitters[index].Place(std::min(common, largest.at(index)), cellMargin);
+        const FittedCell &cell = fitted[index];
+        if (!cell.fitter.IsEmpty()) {
+            cells_.at(index) = cell.fitter.Place(std::min(common, cell.largest), cell.margin);
         }
     }
 }
 
 double ChartDrawing::HeadingHeight() const {
-    return HasSignNumbers() ? headingHeight : 0;
+    return HasSignNumbers() ? sizes_.headingHeight : 0;
 }
 
 void ChartDrawing::Paint(QPainter &painter, const QRectF &square, double lineWidth) const {
@@ -177,7 +208,7 @@ void ChartDrawing::PaintFrame(QPainter &painter, const QRectF &square, double li
     painter.setPen(QPen(lineColour, 2 * lineWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.drawRect(square);
     DrawHeading(painter, content_.heading, HasSignNumbers() ? HeadingShape::Band : HeadingShape::Block,
-                HeadingArea(square), square.width(), font_);
+                HeadingArea(square), square.width(), font_, sizes_.heading);
 }
 
 void ChartDrawing::PaintCell(QPainter &painter, std::size_t cell, const QRectF &square) const {
@@ -191,8 +222,8 @@ void ChartDrawing::PaintNumber(QPainter &painter, std::size_t cell, const QRectF
 QRectF ChartDrawing::HeadingArea(const QRectF &square) const {
     const double side = square.width();
     if (HasSignNumbers()) {
-        return {square.left(), square.top() - headingHeight * side, side,
-                (headingHeight - headingGap) * side};
+        return {square.left(), square.top() - sizes_.headingHeight * side, side,
+                (sizes_.headingHeight - headingGap) * side};
     }
     const QRectF centre = OpenCentre(content_.style);
     const QRectF area(square.topLeft() + centre.topLeft() * side, centre.size() * side);

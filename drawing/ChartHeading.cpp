@@ -20,7 +20,6 @@ namespace {
 
 constexpr qsizetype longestPart = 60; // letters of a name or a place
 constexpr double lineGap = 0.42;      // in font sizes
-constexpr double scaleStep = 0.05;
 constexpr int scaleSteps = 12; // down to the least size
 
 struct HeadingLine {
@@ -30,16 +29,16 @@ struct HeadingLine {
     QColor colour;
 };
 
-std::vector<HeadingLine> LinesOf(const ChartHeading &heading, HeadingShape shape) {
-    std::vector<HeadingLine> lines{{heading.title, 0.046, true, lineColour}};
+std::vector<HeadingLine> LinesOf(const ChartHeading &heading, HeadingShape shape, const HeadingSizes &sizes) {
+    std::vector<HeadingLine> lines{{heading.title, sizes.title, true, lineColour}};
     if (shape == HeadingShape::Block) {
-        lines.push_back({heading.name, 0.0285, false, nameColour});
-        lines.push_back({heading.moment, 0.0225, false, figureColour});
-        lines.push_back({heading.place, 0.0225, false, figureColour});
+        lines.push_back({heading.name, sizes.name, false, nameColour});
+        lines.push_back({heading.moment, sizes.details, false, figureColour});
+        lines.push_back({heading.place, sizes.details, false, figureColour});
     } else {
         QStringList rest{heading.name, heading.moment, heading.place};
         rest.removeAll(QString());
-        lines.push_back({rest.join(QStringLiteral("   \u00b7   ")), 0.0235, false, nameColour});
+        lines.push_back({rest.join(QStringLiteral("   \u00b7   ")), sizes.band, false, nameColour});
     }
     std::erase_if(lines, [](const HeadingLine &line) { return line.text.isEmpty(); });
     return lines;
@@ -114,8 +113,9 @@ ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
 }
 
 void DrawHeading(QPainter &painter, const ChartHeading &heading, HeadingShape shape, const QRectF &area,
-                 double side, const ChartFont &font) {
-    const std::vector<HeadingLine> lines = LinesOf(heading, shape);
+                 double side, const ChartFont &font, const HeadingSizes &sizes) {
+    const std::vector<HeadingLine> lines = LinesOf(heading, shape, sizes);
+    const double scaleStep = (1 - sizes.leastScale) / scaleSteps;
     const auto setAt = [&](int step) {
         return SetHeading(lines, area, side * (1 - scaleStep * step), font, *painter.device());
     };

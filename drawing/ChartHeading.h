@@ -24,9 +24,18 @@ enum class HeadingShape {
     Band,  ///< the title, and below it the rest in one line
 };
 
+/// Sizes of a heading's text, in sides of the chart.
+struct HeadingSizes {
+    double title = 0.046;
+    double name = 0.0285;
+    double details = 0.0225;
+    double band = 0.0235;    ///< what follows the title in a band
+    double leastScale = 0.4; ///< of all of them, where there is not room enough
+};
+
 /// Draws a heading in the middle of an area. Sizes follow the side of the chart. Long names and places take a
 /// second line, and everything becomes smaller where that is not enough.
 void DrawHeading(QPainter &painter, const ChartHeading &heading, HeadingShape shape, const QRectF &area,
-                 double side, const ChartFont &font);
+                 double side, const ChartFont &font, const HeadingSizes &sizes = {});
 
 } // namespace kelvaro

@@ -13,9 +13,22 @@ namespace kelvaro {
 namespace {
 
 constexpr int referenceSize = 256;
-constexpr double entryGap = 0.62;  // between two entries of a line, in font sizes
-constexpr double figureGap = 0.55; // between a name and its figure
 constexpr std::size_t mostEntriesBroken = 12;
+
+/// In font sizes.
+struct Spacing {
+    double entries; ///< between two entries of a line
+    double figures; ///< between a name and its figure
+    double columns; ///< between two columns of entries with figures
+    double pitch;   ///< of lines, at most
+};
+
+constexpr Spacing usualSpacing{0.62, 0.55, 1.1, 10};
+constexpr Spacing closeSpacing{0.32, 0.4, 0.7, 1.05};
+
+const Spacing &SpacingOf(const CellText &text) {
+    return text.isPacked ? closeSpacing : usualSpacing;
+}
 
 /// One way of setting a text, at font size 1 around its own middle.
 struct TextBlock {
@@ -119,7 +132,8 @@ Optimum RoomiestPlace(const TextBlock &block, const std::vector<CellEdge> &edges
 /// Builds the block line by line, then moves it to its own middle.
 class BlockBuilder {
 public:
-    explicit BlockBuilder(const ChartFont &font) : font_(font) {}
+    BlockBuilder(const ChartFont &font, const Spacing &spacing)
+        : font_(font), pitch_(std::min(font.LinePitch(), spacing.pitch)) {}
 
     void AddRun(const QString &text, Tone tone, double x) { block_.runs.push_back({text, tone, {x, y_}}); }
 
@@ -128,11 +142,11 @@ public:
             block_.corners.emplace_back(x, y_ - font_.Ascent());
             block_.corners.emplace_back(x, y_ + font_.Descent());
         }
-        y_ += font_.LinePitch();
+        y_ += pitch_;
     }
 
     TextBlock Finish() {
-        const double bottom = y_ - font_.LinePitch() + font_.Descent();
+        const double bottom = y_ - pitch_ + font_.Descent();
         const QPointF middle{0, (bottom - font_.Ascent()) / 2};
         for (PlacedRun &run : block_.runs) {
             run.baseline -= middle;
@@ -145,41 +159,80 @@ public:
 
 private:
     const ChartFont &font_;
+    double pitch_;
     TextBlock block_;
     double y_ = 0;
 };
 
-/// Names to the left, figures to the right with their points below each other.
-TextBlock ColumnBlock(const CellText &text, const ChartFont &font) {
-    const auto whole = [](const CellEntry &entry) { return entry.figure.section(u'.', 0, 0); };
+/// The widths that entries with figures need below one another.
+struct FigureColumn {
     double names = 0;
-    double wholes = 0;
+    double wholes = 0; ///< of the figures up to their points
     double rests = 0;
+
+    double Width(const Spacing &spacing) const { return names + spacing.figures + wholes + rests; }
+};
+
+double WholeWidth(const CellEntry &entry, const ChartFont &font) {
+    return font.Width(entry.figure.section(u'.', 0, 0), Tone::Figure);
+}
+
+FigureColumn MeasuredColumn(const CellText &text, const ChartFont &font) {
+    FigureColumn column;
     for (const CellEntry &entry : text.entries) {
-        const double wholeWidth = font.Width(whole(entry), Tone::Figure);
-        names = std::max(names, entry.width);
-        wholes = std::max(wholes, wholeWidth);
-        rests = std::max(rests, font.Width(entry.figure, Tone::Figure) - wholeWidth);
+        const double whole = WholeWidth(entry, font);
+        column.names = std::max(column.names, entry.width);
+        column.wholes = std::max(column.wholes, whole);
+        column.rests = std::max(column.rests, font.Width(entry.figure, Tone::Figure) - whole);
     }
-    const double width = names + figureGap + wholes + rests;
-    const double point = width / 2 - rests;
-    BlockBuilder builder(font);
-    for (const CellEntry &entry : text.entries) {
-        builder.AddRun(entry.name, entry.tone, -width / 2);
-        builder.AddRun(entry.figure, Tone::Figure, point - font.Width(whole(entry), Tone::Figure));
-        builder.EndLine(-width / 2, width / 2);
+    return column;
+}
+
+/// Names to the left, figures to the right with their points below each other, in as many columns beside one
+/// another; read row by row.
+TextBlock ColumnBlock(const CellText &text, const ChartFont &font, std::size_t columns) {
+    const FigureColumn column = MeasuredColumn(text, font);
+    const Spacing &spacing = SpacingOf(text);
+    const double pitch = column.Width(spacing) + spacing.columns;
+    const double width = static_cast<double>(columns) * pitch - spacing.columns;
+    BlockBuilder builder(font, spacing);
+    for (std::size_t index = 0; index < text.entries.size(); ++index) {
+        const CellEntry &entry = text.entries[index];
+        const double left = static_cast<double>(index % columns) * pitch - width / 2;
+        const double point = left + column.Width(spacing) - column.rests;
+        builder.AddRun(entry.name, entry.tone, left);
+        builder.AddRun(entry.figure, Tone::Figure, point - WholeWidth(entry, font));
+        if (index % columns == columns - 1 || index + 1 == text.entries.size()) {
+            builder.EndLine(-width / 2, width / 2);
+        }
     }
     return builder.Finish();
 }
 
 /// The room behind an entry of a line.
 double GapBehind(std::size_t entry, const CellText &text, const ChartFont &font) {
-    return text.runsOn ? font.Width(QString(entry == 0 ? 4 : 2, u' '), Tone::Name) : entryGap;
+    return text.runsOn && !text.isPacked ? font.Width(QString(entry == 0 ? 4 : 2, u' '), Tone::Name)
+                                         : SpacingOf(text).entries;
+}
+
+/// Where the lines of a block meet its axis: in their middles, at their beginnings or at their ends.
+enum class Lean { None, Left, Right };
+
+double StartOfLine(double width, Lean lean) {
+    switch (lean) {
+    case Lean::Left:
+        return 0;
+    case Lean::Right:
+        return -width;
+    case Lean::None:
+        break;
+    }
+    return -width / 2;
 }
 
 /// The entries with a line break behind each one whose bit is set.
-TextBlock FlowBlock(const CellText &text, const ChartFont &font, std::uint32_t breaks) {
-    BlockBuilder builder(font);
+TextBlock FlowBlock(const CellText &text, const ChartFont &font, std::uint32_t breaks, Lean lean) {
+    BlockBuilder builder(font, SpacingOf(text));
     std::size_t first = 0;
     for (std::size_t last = 0; last < text.entries.size(); ++last) {
         const bool isEnd =
@@ -191,13 +244,14 @@ TextBlock FlowBlock(const CellText &text, const ChartFont &font, std::uint32_t b
         for (std::size_t index = first; index <= last; ++index) {
             width += text.entries[index].width + (index < last ? GapBehind(index, text, font) : 0);
         }
-        double x = -width / 2;
+        const double left = StartOfLine(width, lean);
+        double x = left;
         for (std::size_t index = first; index <= last; ++index) {
             const CellEntry &entry = text.entries[index];
             builder.AddRun(entry.name, entry.tone, x);
             x += entry.width + GapBehind(index, text, font);
         }
-        builder.EndLine(-width / 2, width / 2);
+        builder.EndLine(left, left + width);
         first = last + 1;
     }
     return builder.Finish();
@@ -207,23 +261,31 @@ template <typename Visit> void ForEachBlock(const CellText &text, const ChartFon
     const bool hasFigures =
         std::ranges::any_of(text.entries, [](const CellEntry &entry) { return !entry.figure.isEmpty(); });
     if (hasFigures) {
-        visit(ColumnBlock(text, font));
+        visit(ColumnBlock(text, font, 1));
+        if (text.isPacked) {
+            visit(ColumnBlock(text, font, 2));
+        }
         return;
     }
-    if (text.isListed || text.entries.size() > mostEntriesBroken) {
-        visit(FlowBlock(text, font, ~0U));
+    const bool isListed = text.isListed && !text.isPacked;
+    if (isListed || text.entries.size() > mostEntriesBroken) {
+        visit(FlowBlock(text, font, ~0U, Lean::None));
         return;
     }
     const std::uint32_t ways = 1U << (text.entries.size() - 1);
     for (std::uint32_t breaks = 0; breaks < ways; ++breaks) {
-        visit(FlowBlock(text, font, breaks));
+        visit(FlowBlock(text, font, breaks, Lean::None));
+        if (text.isPacked) {
+            visit(FlowBlock(text, font, breaks, Lean::Left));
+            visit(FlowBlock(text, font, breaks, Lean::Right));
+        }
     }
 }
 
 } // namespace
 
-ChartFont::ChartFont(const QFont &font)
-    : regular_(font), bold_(font), regularMetrics_(QFont()), boldMetrics_(QFont()) {
+ChartFont::ChartFont(const QFont &font, double linePitch)
+    : regular_(font), bold_(font), regularMetrics_(QFont()), boldMetrics_(QFont()), linePitch_(linePitch) {
     for (QFont *each : {&regular_, &bold_}) {
         each->setPixelSize(referenceSize);
         each->setHintingPreference(QFont::PreferNoHinting);
@@ -246,10 +308,6 @@ QFont ChartFont::AtSize(double pixels, double dotsPerInch, bool bold) const {
 double ChartFont::Width(const QString &text, Tone tone) const {
     const QFontMetricsF &metrics = tone == Tone::Lagna ? boldMetrics_ : regularMetrics_;
     return metrics.horizontalAdvance(text) / referenceSize;
-}
-
-double ChartFont::LinePitch() const {
-    return 1.24;
 }
 
 std::vector<CellEdge> EdgesOf(const QPolygonF &polygon) {

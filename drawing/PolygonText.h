@@ -6,6 +6,7 @@
 #include <QPolygonF>
 #include <QString>
 
+#include <cstddef>
 #include <vector>
 
 namespace kelvaro {
@@ -17,8 +18,10 @@ enum class Tone { Name, Figure, Lagna };
 /// what fits at one size fits at all.
 class ChartFont {
 public:
+    static constexpr double usualPitch = 1.24; ///< of lines, in units of the font's size
+
     /// Takes the family of the font, not its size.
-    explicit ChartFont(const QFont &font);
+    explicit ChartFont(const QFont &font, double linePitch = usualPitch);
 
     QFont AtSize(double pixels, double dotsPerInch, bool bold) const;
 
@@ -26,7 +29,7 @@ public:
     double Width(const QString &text, Tone tone) const;
     double Ascent() const { return ascent_; } ///< of letters, above the baseline
     double Descent() const { return descent_; }
-    double LinePitch() const;
+    double LinePitch() const { return linePitch_; }
 
 private:
     QFont regular_;
@@ -35,6 +38,7 @@ private:
     QFontMetricsF boldMetrics_;
     double ascent_ = 0;
     double descent_ = 0;
+    double linePitch_;
 };
 
 /// One body of a cell: its name and, where the chart shows degrees, its figure.
@@ -50,6 +54,8 @@ struct CellText {
     std::vector<CellEntry> entries;
     bool isListed = false; ///< each entry has a line of its own; otherwise entries flow, several to a line
     bool runsOn = false; ///< entries that flow share a line as long as it has room, with blanks between them
+    /// A crowded cell: everything stands closer, lines may lean to a side, figures stand in two columns.
+    bool isPacked = false;
 };
 
 /// A straight border of a convex cell. A point is inside where the product of its place with the outward unit
@@ -78,8 +84,8 @@ struct PlacedText {
 /// Fits the text of a cell into the polygon of the cell.
 ///
 /// Every way of breaking the entries into lines is tried. The lines of a block are centred on one axis,
-/// entries with figures stand in two columns. Entries that run on have four blanks behind the first of them
-/// and two behind each other one, as their label has.
+/// entries with figures stand below one another, names to the left and figures to the right. Entries that run
+/// on have four blanks behind the first of them and two behind each other one, as their label has.
 class CellFitter {
 public:
     CellFitter(CellText text, std::vector<CellEdge> edges, const ChartFont &font);
