@@ -27,7 +27,7 @@ QString FamilyIn(std::initializer_list<const char *> files) {
 }
 
 const QString &SerifFamily() {
-    static const QString family = FamilyIn({"LinLibertine_R", "LinLibertine_RB", "LinLibertine_RI"});
+    static const QString family = FamilyIn({"LinLibertine_R", "LinLibertine_RB"});
     return family;
 }
 
@@ -52,12 +52,6 @@ QFont HouseFont(const QString &family, QFont::StyleHint likeness, double points)
 QFont SerifFont(double points, Weight weight) {
     QFont font = HouseFont(SerifFamily(), QFont::Serif, points);
     font.setBold(weight == Weight::Bold);
-    return font;
-}
-
-QFont SerifItalicFont(double points) {
-    QFont font = SerifFont(points);
-    font.setItalic(true);
     return font;
 }
 

@@ -15,7 +15,6 @@ enum class Weight { Regular, Bold };
 
 /// For text and tables.
 QFont SerifFont(double points, Weight weight = Weight::Regular);
-QFont SerifItalicFont(double points);
 
 /// For headings of columns, labels and charts.
 QFont SansFont(double points, Weight weight = Weight::Regular);

@@ -64,6 +64,7 @@ TableColumns::TableColumns(const TableContent &content) : measures_(content.Colu
         measures_[column].title = WidthOf(title, titleFont);
         measures_[column].wordOfTitle = LongestWord(title, titleFont);
     }
+    std::vector<double> widestFigures(measures_.size());
     for (const TableRow &row : content.rows) {
         if (row.kind == RowKind::Heading) {
             continue;
@@ -72,7 +73,11 @@ TableColumns::TableColumns(const TableContent &content) : measures_(content.Colu
             const QFont font = CellFont(measuringPoints, row.IsBold(column));
             const QString &text = row.cells[column].text;
             Measure &measure = measures_[column];
-            measure.cell = std::max(measure.cell, WidthOf(text, font));
+            const QString mark = content.AlignmentOf(column) == u'h' ? HangingMark(text) : QString();
+            const QString figure = text.chopped(mark.size());
+            widestFigures[column] = std::max(widestFigures[column], WidthOf(figure, font));
+            measure.mark = std::max(measure.mark, WidthOf(mark, font));
+            measure.cell = widestFigures[column] + measure.mark;
             measure.wordOfCell = std::max(measure.wordOfCell, LongestWord(text, font));
         }
     }
@@ -91,6 +96,10 @@ std::vector<double> TableColumns::NaturalWidths(double points) const {
 
 std::vector<double> TableColumns::WordWidths(double points) const {
     return Widths(points, [](const Measure &each) { return std::max(each.wordOfCell, each.wordOfTitle); });
+}
+
+double TableColumns::MarkWidth(std::size_t column, double points) const {
+    return measures_.at(column).mark * points / measuringPoints;
 }
 
 bool TableColumns::HasRoomForWords(double points, double room) const {

@@ -20,6 +20,9 @@ public:
     /// The widths that every text needs for a line of its own.
     std::vector<double> NaturalWidths(double points) const;
 
+    /// The width of a column's widest hanging mark; 0 where its texts have none.
+    double MarkWidth(std::size_t column, double points) const;
+
     /// Whether there is room for the longest word of each column.
     bool HasRoomForWords(double points, double room) const;
 
@@ -34,6 +37,7 @@ private:
         double title = 0;
         double wordOfCell = 0; ///< the longest
         double wordOfTitle = 0;
+        double mark = 0;
     };
 
     template <typename Width> std::vector<double> Widths(double points, const Width &width) const;

@@ -15,6 +15,11 @@ QChar TableContent::AlignmentOf(std::size_t column) const {
     return alignments.at(std::min(static_cast<qsizetype>(column), alignments.size() - 1));
 }
 
+QString HangingMark(const QString &text) {
+    const qsizetype start = text.lastIndexOf(QStringLiteral(" ("));
+    return start < 0 || !text.endsWith(u')') ? QString() : text.mid(start);
+}
+
 TableRow RowOf(const std::vector<std::string> &texts, RowKind kind) {
     TableRow row{{}, kind};
     for (const std::string &text : texts) {

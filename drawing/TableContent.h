@@ -31,7 +31,9 @@ struct TableRow {
 /// What a table says.
 struct TableContent {
     QStringList titles; ///< of the columns; they set how many there are
-    QString alignments; ///< letters "l", "c", "r"; the last one serves for the columns that follow
+    /// Letters "l", "c", "r"; the last one serves for the columns that follow. The letter "h" stands for a
+    /// column to the right of whose texts a mark in parentheses hangs, so that figures end below one another.
+    QString alignments;
     std::vector<TableRow> rows;
 
     std::size_t ColumnCount() const { return static_cast<std::size_t>(titles.size()); }
@@ -39,6 +41,9 @@ struct TableContent {
     std::size_t CellCount(const TableRow &row) const;
     QChar AlignmentOf(std::size_t column) const;
 };
+
+/// The mark in parentheses at the end of a text, with the blank before it.
+QString HangingMark(const QString &text);
 
 /// A row of texts.
 TableRow RowOf(const std::vector<std::string> &texts, RowKind kind = RowKind::Plain);

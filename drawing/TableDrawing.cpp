@@ -20,11 +20,10 @@ constexpr double stepOfPoints = 0.5;
 
 // In sizes of the font.
 constexpr double lineHeight = 1.2;
-constexpr double rowPadding = 0.18; // above a row and below it
 constexpr double titlePadding = 0.32;
 constexpr double belowTitles = 0.25;
 constexpr double groupGap = 0.42;
-constexpr double sectionGap = 0.9;
+constexpr double sectionGap = 0.8;
 constexpr double totalGap = 0.3;
 constexpr double endPadding = 0.3;
 
@@ -100,13 +99,18 @@ void TableDrawing::AddLines(SetRow &row, std::size_t column, const QString &text
     // A text measured whole and one broken into lines may differ in the last place.
     constexpr double tolerance = 0.1;
     const double pitch = lineHeight * points_;
-    const double padding = rowPadding * points_;
+    const double padding = setting_.rowPadding * points_;
     const QChar alignment = content_.AlignmentOf(column);
+    const double overhang =
+        alignment == u'h' ? columns_.MarkWidth(column, points_) - WidthOf(HangingMark(text), font) : 0;
     double baseline = padding + (pitch + CapitalHeight(font)) / 2;
     double bottom = padding;
     for (TextLine &line : LinesInPoints(text, font, widths_[column] + tolerance)) {
         const double spare = widths_[column] - line.width;
-        const double indent = alignment == u'r' ? spare : alignment == u'c' ? spare / 2 : 0;
+        const double indent = alignment == u'r'   ? spare
+                              : alignment == u'c' ? spare / 2
+                              : alignment == u'h' ? std::max(spare - overhang, 0.0)
+                                                  : 0;
         row.lines.push_back({std::move(line.text), font, lefts_[column] + indent, baseline});
         baseline += pitch;
         bottom += pitch;
@@ -116,7 +120,7 @@ void TableDrawing::AddLines(SetRow &row, std::size_t column, const QString &text
 
 TableDrawing::SetRow TableDrawing::SetCells(const TableRow &row) const {
     SetRow set;
-    set.height = (lineHeight + 2 * rowPadding) * points_;
+    set.height = (lineHeight + 2 * setting_.rowPadding) * points_;
     for (std::size_t column = 0; column < content_.CellCount(row); ++column) {
         AddLines(set, column, row.cells[column].text, CellFont(points_, row.IsBold(column)));
     }
@@ -146,12 +150,12 @@ TableDrawing::SetRow TableDrawing::SetHeading(const TableRow &row) const {
     const QFont font = CellFont(points_, true);
     const double pitch = lineHeight * points_;
     set.gapAbove = sectionGap * points_;
-    set.height = rowPadding * points_;
+    set.height = setting_.rowPadding * points_;
     for (TextLine &line : LinesInPoints(row.cells.front().text, font, width_)) {
         set.lines.push_back({std::move(line.text), font, 0, set.height + (pitch + CapitalHeight(font)) / 2});
         set.height += pitch;
     }
-    set.height += rowPadding * points_;
+    set.height += setting_.rowPadding * points_;
     return set;
 }
 

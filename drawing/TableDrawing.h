@@ -15,11 +15,12 @@ namespace kelvaro {
 
 /// How a table is set. Lengths are in points.
 struct TableSetting {
-    double points = 10;     ///< of the font
-    double leastPoints = 9; ///< where the room is narrow; titles are smaller by a tenth
-    double leastGap = 9;    ///< between columns
-    double usualGap = 16;   ///< where there is no room to fill
-    double widestGap = 36;  ///< where the room is wide
+    double points = 10;       ///< of the font
+    double leastPoints = 9;   ///< where the room is narrow; titles are smaller by a tenth
+    double leastGap = 9;      ///< between columns
+    double usualGap = 16;     ///< where there is no room to fill
+    double widestGap = 36;    ///< where the room is wide
+    double rowPadding = 0.18; ///< above a row and below it, in sizes of the font
     std::size_t rowsBeside =
         0; ///< rows that stand close together, with a little space after them; 0 for what suits
 };

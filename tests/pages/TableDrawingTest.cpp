@@ -60,7 +60,6 @@ void ExpectInside(const std::vector<PaintedText> &texts, QSizeF size) {
 TEST(HouseFonts, ComeWithTheProgram) {
     EXPECT_EQ(QFontInfo(SerifFont(10)).family().toStdString(), "Linux Libertine O");
     EXPECT_EQ(QFontInfo(SansFont(10)).family().toStdString(), "Linux Biolinum O");
-    EXPECT_TRUE(QFontInfo(SerifItalicFont(10)).italic());
 }
 
 TEST(HouseFonts, HaveFiguresOfEqualWidthAndNoLigatures) {
