@@ -20,7 +20,7 @@ namespace {
 
 constexpr qsizetype longestPart = 60; // letters of a name or a place
 constexpr double lineGap = 0.42;      // in font sizes
-constexpr int scaleSteps = 12; // down to the least size
+constexpr int scaleSteps = 12;        // down to the least size
 
 struct HeadingLine {
     QString text;

@@ -20,7 +20,7 @@ constexpr double margin = 12;
 constexpr double leastWidth = 240; // for the lines above a narrow table
 constexpr double titleSize = 15;
 constexpr double whoseSize = 9.5;
-constexpr double noteSize = 9.5;
+constexpr double noteSize = 8.5;
 constexpr double lineHeight = 1.35; // font sizes
 constexpr double gapBelowHeading = 6;
 constexpr double gapAboveNote = 7;
@@ -62,7 +62,7 @@ Picture PictureOf(const TableContent &content, const ChartHeading &heading, cons
     if (!note.isEmpty()) {
         bottom += gapAboveNote;
         for (const QString &line : note.split(u'\n')) {
-            bottom = AddLines(lines, line, SerifItalicFont(noteSize), figureColour, width, bottom);
+            bottom = AddLines(lines, line, SansFont(noteSize), figureColour, width, bottom);
         }
     }
     QStringList name{heading.name, heading.title};

