@@ -4,6 +4,7 @@
 #include "runtime/FloatingPointGuard.h"
 #include "runtime/Numbers.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Trigonometry.h"
 
 #include <array>
 #include <cmath>
@@ -49,14 +50,14 @@ struct Equatorial {
 
 Equatorial FnFindMiniSun(double T) {
     const double M = circle * FractionOf(0.993133 + 99.997361 * T);
-    const double DL = 6893 * std::sin(M) + 72 * std::sin(2 * M);
+    const double DL = 6893 * Sine(M) + 72 * Sine(2 * M);
     const double longitude = circle * FractionOf(0.7859453 + M / circle + (6191.2 * T + DL) / 1296000);
-    const double SL = std::sin(longitude);
-    const double X = std::cos(longitude);
+    const double SL = Sine(longitude);
+    const double X = Cosine(longitude);
     const double Y = 0.91748 * SL;
     const double Z = 0.39778 * SL;
     const double rho = std::sqrt(1 - Z * Z);
-    Equatorial sun{(360 / circle) * std::atan(Z / rho), (48 / circle) * std::atan(Y / (X + rho))};
+    Equatorial sun{(360 / circle) * ArcTangent(Z / rho), (48 / circle) * ArcTangent(Y / (X + rho))};
     if (sun.rightAscension < 0) {
         sun.rightAscension += 24;
     }
@@ -106,15 +107,15 @@ void FnFindQuadraticRoots(double before, double middle, double after, Parabola &
 class Altitude {
 public:
     Altitude(double date, double latitude, double longitude)
-        : date_(date), longitude_(longitude), sinLatitude_(std::sin(latitude * degree)),
-          cosLatitude_(std::cos(latitude * degree)) {}
+        : date_(date), longitude_(longitude), sinLatitude_(Sine(latitude * degree)),
+          cosLatitude_(Cosine(latitude * degree)) {}
 
     double FnFindSinAltitude(double hour) const {
         const double t = date_ + hour / 24;
         const Equatorial sun = FnFindMiniSun((t - epochJ2000) / daysInCentury);
         const double hourAngle = (FnFindLocalSiderealHours(t, longitude_) - sun.rightAscension) * 15;
-        return sinLatitude_ * std::sin(sun.declination * degree) +
-               cosLatitude_ * std::cos(sun.declination * degree) * std::cos(hourAngle * degree);
+        return sinLatitude_ * Sine(sun.declination * degree) +
+               cosLatitude_ * Cosine(sun.declination * degree) * Cosine(hourAngle * degree);
     }
 
 private:
@@ -135,7 +136,7 @@ struct EventHours {
 EventHours FnFindRiseAndSet(double date, double latitude, double longitude) {
     const FloatingPointGuard guard;
     const Altitude sun(date, latitude, longitude);
-    const double horizon = std::sin(altitudes[upperLimb]);
+    const double horizon = Sine(altitudes[upperLimb]);
     const auto height = [&](double hour) { return sun.FnFindSinAltitude(hour) - horizon; };
 
     bool rise = false;

@@ -1,6 +1,7 @@
 #include "astronomy/theory/AngleReduction.h"
 
 #include "runtime/RuntimeError.h"
+#include "runtime/Trigonometry.h"
 
 #include <cmath>
 
@@ -43,15 +44,15 @@ double NormalizeRadians(double radians) {
 }
 
 double FnArcSin(double x) {
-    return std::atan(x / std::sqrt(1 - x * x));
+    return ArcTangent(x / std::sqrt(1 - x * x));
 }
 
 double FnArcTan2(double y, double x) {
     if (x < 0) {
-        return std::atan(y / x) + pi;
+        return ArcTangent(y / x) + pi;
     }
     if (x > 0) {
-        return y >= 0 ? std::atan(y / x) : std::atan(y / x) + 6.28318530717958;
+        return y >= 0 ? ArcTangent(y / x) : ArcTangent(y / x) + 6.28318530717958;
     }
     if (y > 0) {
         return pi / 2;

@@ -1,8 +1,7 @@
 #include "astronomy/theory/Ascendant.h"
 
 #include "astronomy/theory/AngleReduction.h"
-
-#include <cmath>
+#include "runtime/Trigonometry.h"
 
 namespace kelvaro {
 
@@ -10,7 +9,7 @@ namespace {
 
 /// The arc tangent of y / x in the half circle that the sign of `side` names, degrees.
 double OnItsSide(double y, double x, bool isPlainQuotient, double side) {
-    double angle = isPlainQuotient ? std::atan(y / x) : FnArcTan2(y, x);
+    double angle = isPlainQuotient ? ArcTangent(y / x) : FnArcTan2(y, x);
     if (angle < 0) {
         angle += pi;
     }
@@ -29,12 +28,11 @@ Ascendant FnFindLagna(double clockCenturies, double universalHours, double latit
     const double theta = FnNormalize360(siderealDegrees) * (pi / 180);
     const double obliquity = (23.452294 - 0.0130125 * T) * pi / 180;
 
-    const double t = std::tan(theta);
-    const double c = std::cos(theta);
-    const double q =
-        -std::sin(theta) * std::cos(obliquity) - std::sin(obliquity) * std::tan(latitude * pi / 180);
+    const double t = Tangent(theta);
+    const double c = Cosine(theta);
+    const double q = -Sine(theta) * Cosine(obliquity) - Sine(obliquity) * Tangent(latitude * pi / 180);
     Ascendant points;
-    points.midHeaven = OnItsSide(t, std::cos(obliquity), t < 0, std::sin(theta));
+    points.midHeaven = OnItsSide(t, Cosine(obliquity), t < 0, Sine(theta));
     points.lagna = FnNormalize360(OnItsSide(c, q, c < 0, c));
     return points;
 }

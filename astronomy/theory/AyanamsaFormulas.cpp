@@ -1,8 +1,7 @@
 #include "astronomy/theory/AyanamsaFormulas.h"
 
 #include "astronomy/theory/AngleReduction.h"
-
-#include <cmath>
+#include "runtime/Trigonometry.h"
 
 namespace kelvaro {
 
@@ -10,8 +9,8 @@ double FnFindLahiri(double clockCenturies) {
     const double T = clockCenturies;
     const double node = FnNormalize360((933060 - 6962911 * T + 7.5 * T * T) / 3600);
     const double twiceSun = (2013816 + 259205536 * T) / 3600;
-    const double sinNode = std::sin(node * pi / 180);
-    const double sinTwiceSun = std::sin(twiceSun * pi / 180);
+    const double sinNode = Sine(node * pi / 180);
+    const double sinTwiceSun = Sine(twiceSun * pi / 180);
     return ((1.27 * sinTwiceSun + 17.23 * sinNode) - (5025.64 + 1.11 * T) * T - 80861.27) / 3600;
 }
 

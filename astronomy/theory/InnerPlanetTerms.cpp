@@ -1,8 +1,8 @@
 #include "astronomy/theory/AngleReduction.h"
 #include "astronomy/theory/PlanetTerms.h"
+#include "runtime/Trigonometry.h"
 
 #include <array>
-#include <cmath>
 #include <span>
 
 namespace kelvaro {
@@ -81,9 +81,9 @@ constexpr std::array<Term, 13> marsRadius{{
 double Sum(std::span<const Term> terms, const MeanAnomalies &M) {
     double sum = 0;
     for (const Term &term : terms) {
-        sum += term.coefficient *
-               std::cos(term.mercury * M.mercury + term.venus * M.venus + term.earth * M.earth +
-                        term.mars * M.mars + term.jupiter * M.jupiter + term.phase);
+        sum +=
+            term.coefficient * Cosine(term.mercury * M.mercury + term.venus * M.venus + term.earth * M.earth +
+                                      term.mars * M.mars + term.jupiter * M.jupiter + term.phase);
     }
     return sum;
 }
@@ -99,7 +99,7 @@ OrbitCorrections FnMercuryTerms(const MeanAnomalies &anomalies) {
 
 OrbitCorrections FnVenusTerms(double centuries, const MeanAnomalies &anomalies) {
     OrbitCorrections corrections;
-    corrections.meanLongitude = 0.00077 * std::sin(4.1406 + 2.6227 * centuries) * degreesToRadians;
+    corrections.meanLongitude = 0.00077 * Sine(4.1406 + 2.6227 * centuries) * degreesToRadians;
     corrections.meanAnomaly = corrections.meanLongitude;
     corrections.longitude = Sum(venusLongitude, anomalies);
     corrections.radius = Sum(venusRadius, anomalies);
@@ -109,7 +109,7 @@ OrbitCorrections FnVenusTerms(double centuries, const MeanAnomalies &anomalies) 
 OrbitCorrections FnMarsTerms(const MeanAnomalies &anomalies) {
     const double A = 3 * anomalies.jupiter - 8 * anomalies.mars + 4 * anomalies.earth;
     OrbitCorrections corrections;
-    corrections.meanLongitude = -(0.01133 * std::sin(A) + 0.00933 * std::cos(A)) * degreesToRadians;
+    corrections.meanLongitude = -(0.01133 * Sine(A) + 0.00933 * Cosine(A)) * degreesToRadians;
     corrections.meanAnomaly = corrections.meanLongitude;
     corrections.longitude = Sum(marsLongitude, anomalies);
     corrections.radius = Sum(marsRadius, anomalies);

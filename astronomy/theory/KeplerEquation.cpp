@@ -2,6 +2,7 @@
 
 #include "astronomy/theory/AngleReduction.h"
 #include "runtime/RuntimeError.h"
+#include "runtime/Trigonometry.h"
 
 #include <cmath>
 
@@ -13,15 +14,15 @@ OrbitAnomalies FnSolveKepler(double meanAnomaly, double eccentricity) {
     }
     const double reduced = FnReduceRadians(meanAnomaly);
     double e = reduced;
-    double rest = e - eccentricity * std::sin(e) - reduced;
+    double rest = e - eccentricity * Sine(e) - reduced;
     // An invalid number fails this test too and so leaves the loop.
     while (std::abs(rest) >= 1e-06) {
-        rest /= 1 - eccentricity * std::cos(e);
+        rest /= 1 - eccentricity * Cosine(e);
         e -= rest;
-        rest = e - eccentricity * std::sin(e) - reduced;
+        rest = e - eccentricity * Sine(e) - reduced;
     }
     const double factor = std::sqrt((1 + eccentricity) / (1 - eccentricity));
-    return {2 * std::atan(factor * std::tan(e / 2)), e};
+    return {2 * ArcTangent(factor * Tangent(e / 2)), e};
 }
 
 } // namespace kelvaro

@@ -1,9 +1,9 @@
 #include "astronomy/theory/MoonPlace.h"
 
 #include "astronomy/theory/AngleReduction.h"
+#include "runtime/Trigonometry.h"
 
 #include <array>
-#include <cmath>
 
 namespace kelvaro {
 
@@ -62,9 +62,9 @@ Elements MeanElements(const TimePowers &t) {
 /// Adds the long-period corrections of the elements.
 void Correct(Elements &e, const TimePowers &t) {
     const double nodeRadians = e.node * pi / 180;
-    const double a1 = std::sin((51.2 + 20.2 * t.T) * pi / 180);
-    const double a2 = 0.003964 * std::sin((346.56 + 132.87 * t.T - 0.0091731 * t.squared) * pi / 180);
-    const double sinNode = std::sin(nodeRadians);
+    const double a1 = Sine((51.2 + 20.2 * t.T) * pi / 180);
+    const double a2 = 0.003964 * Sine((346.56 + 132.87 * t.T - 0.0091731 * t.squared) * pi / 180);
+    const double sinNode = Sine(nodeRadians);
     e.meanLongitude += 0.000233 * a1;
     e.meanLongitude += a2 + 0.001964 * sinNode;
     e.sunAnomaly -= 0.001778 * a1;
@@ -73,7 +73,7 @@ void Correct(Elements &e, const TimePowers &t) {
     e.elongation += 0.002011 * a1;
     e.elongation += a2 + 0.001964 * sinNode;
     e.nodeDistance += a2 - 0.024691 * sinNode;
-    e.nodeDistance -= 0.004328 * std::sin((275.05 - 2.3 * t.T) * pi / 180 + nodeRadians);
+    e.nodeDistance -= 0.004328 * Sine((275.05 - 2.3 * t.T) * pi / 180 + nodeRadians);
 }
 
 } // namespace
@@ -91,7 +91,7 @@ MoonPlace FnFindMoon(const TimePowers &time) {
     double longitude = FnReduceDegrees(elements.meanLongitude);
     for (const Term &term : terms) {
         longitude += term.coefficient * eccentricityFactor.at(static_cast<std::size_t>(term.power)) *
-                     std::sin(term.d * D + term.m * M + term.n * N + term.f * F);
+                     Sine(term.d * D + term.m * M + term.n * N + term.f * F);
     }
     return {longitude + 0.00461, FnReduceDegrees(elements.node)};
 }

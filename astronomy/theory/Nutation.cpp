@@ -2,8 +2,7 @@
 
 #include "astronomy/theory/AngleReduction.h"
 #include "runtime/Numbers.h"
-
-#include <cmath>
+#include "runtime/Trigonometry.h"
 
 namespace kelvaro {
 
@@ -34,20 +33,20 @@ Arguments ArgumentsAt(double T) {
 /// Seconds of arc.
 double InLongitude(const Arguments &a, double T) {
     const auto [L2, D2, Ms, Mm, N] = a;
-    double sum = (-17.2327 - 0.01737 * T) * std::sin(N);
-    sum += (-1.2729 - 0.00013 * T) * std::sin(L2);
-    sum += 0.2088 * std::sin(N + N);
-    sum -= 0.2037 * std::sin(D2);
-    sum += (0.1261 - 0.00031 * T) * std::sin(Ms);
-    sum += 0.0675 * std::sin(Mm);
-    sum -= (0.0497 - 0.00012 * T) * std::sin(L2 + Ms);
-    sum -= 0.0342 * std::sin(D2 - N);
-    sum -= 0.0261 * std::sin(D2 + Mm);
-    sum += 0.0214 * std::sin(L2 - Ms);
-    sum -= 0.0149 * std::sin(L2 - D2 + Mm);
-    sum += 0.0124 * std::sin(L2 - N);
+    double sum = (-17.2327 - 0.01737 * T) * Sine(N);
+    sum += (-1.2729 - 0.00013 * T) * Sine(L2);
+    sum += 0.2088 * Sine(N + N);
+    sum -= 0.2037 * Sine(D2);
+    sum += (0.1261 - 0.00031 * T) * Sine(Ms);
+    sum += 0.0675 * Sine(Mm);
+    sum -= (0.0497 - 0.00012 * T) * Sine(L2 + Ms);
+    sum -= 0.0342 * Sine(D2 - N);
+    sum -= 0.0261 * Sine(D2 + Mm);
+    sum += 0.0214 * Sine(L2 - Ms);
+    sum -= 0.0149 * Sine(L2 - D2 + Mm);
+    sum += 0.0124 * Sine(L2 - N);
     // Subtracted on purpose; the published series has a plus here.
-    sum -= 0.0114 * std::sin(D2 - Mm);
+    sum -= 0.0114 * Sine(D2 - Mm);
     return sum;
 }
 

@@ -1,8 +1,8 @@
 #include "astronomy/theory/AngleReduction.h"
 #include "astronomy/theory/PlanetTerms.h"
+#include "runtime/Trigonometry.h"
 
 #include <array>
-#include <cmath>
 #include <cstddef>
 #include <span>
 
@@ -215,8 +215,8 @@ GreatArguments FnFindGreatArgs(double T) {
     arguments.slowTime = T / 5 + 0.1;
     arguments.factors[One] = 1;
     const auto set = [&](double angle, Factor sine, Factor cosine) {
-        arguments.factors.at(sine) = std::sin(angle);
-        arguments.factors.at(cosine) = std::cos(angle);
+        arguments.factors.at(sine) = Sine(angle);
+        arguments.factors.at(cosine) = Cosine(angle);
     };
     set(Q, SinQ, CosQ);
     set(2 * Q, Sin2Q, Cos2Q);
@@ -231,7 +231,7 @@ GreatArguments FnFindGreatArgs(double T) {
     set(5 * Z, Sin5Z, Cos5Z);
     set(2 * X, Sin2X, Cos2X);
     set(3 * X, Sin3X, Cos3X);
-    arguments.factors[SinW] = std::sin(W);
+    arguments.factors[SinW] = Sine(W);
     return arguments;
 }
 

@@ -3,6 +3,7 @@
 #include "astronomy/theory/AngleReduction.h"
 #include "astronomy/theory/KeplerEquation.h"
 #include "astronomy/theory/PlanetTerms.h"
+#include "runtime/Trigonometry.h"
 
 #include <array>
 #include <cmath>
@@ -79,19 +80,19 @@ Place PassOf(Planet planet, const View &view, double lightTime) {
     const double e = orbit.eccentricity + terms.eccentricity;
     const double v = FnSolveKepler(MeanAnomaly(orbit, lightTime) + terms.meanAnomaly, e).trueAnomaly;
     const double r =
-        (1 - e * e) * (orbit.semiMajorAxis + terms.semiMajorAxis) / (1 + e * std::cos(v)) + terms.radius;
+        (1 - e * e) * (orbit.semiMajorAxis + terms.semiMajorAxis) / (1 + e * Cosine(v)) + terms.radius;
     const double inOrbit = ((terms.meanLongitude - terms.meanAnomaly) * radiansToDegrees +
                             (v * radiansToDegrees + orbit.perihelion)) *
                            degreesToRadians;
     const double node = orbit.node * degreesToRadians;
     const double inclination = orbit.inclination * degreesToRadians;
-    const double sinU = std::sin(inOrbit - node);
-    const double cosU = std::cos(inOrbit - node);
-    const double latitude = FnArcSin(std::sin(inclination) * sinU) + terms.latitude;
+    const double sinU = Sine(inOrbit - node);
+    const double cosU = Cosine(inOrbit - node);
+    const double latitude = FnArcSin(Sine(inclination) * sinU) + terms.latitude;
 
     Place place{};
     place.longitude =
-        std::atan(std::cos(inclination) * sinU / cosU) + node + terms.longitude * degreesToRadians;
+        ArcTangent(Cosine(inclination) * sinU / cosU) + node + terms.longitude * degreesToRadians;
     if (cosU < 0) {
         place.longitude += pi;
     }
@@ -99,21 +100,21 @@ Place PassOf(Planet planet, const View &view, double lightTime) {
         place.longitude -= fullCircle;
     }
     const double R = view.earthDistance;
-    place.distance = r * std::cos(latitude);
+    place.distance = r * Cosine(latitude);
     place.fromEarthLongitude = place.longitude - view.earthLongitude;
     place.fromEarth =
-        std::sqrt(R * R + r * r - 2 * R * r * std::cos(latitude) * std::cos(place.fromEarthLongitude));
+        std::sqrt(R * R + r * r - 2 * R * r * Cosine(latitude) * Cosine(place.fromEarthLongitude));
     return place;
 }
 
 /// Radians, 0 to the full circle.
 double GeocentricLongitude(const Place &place, const View &view, bool isInner) {
-    const double sine = std::sin(place.fromEarthLongitude);
-    const double cosine = std::cos(place.fromEarthLongitude);
+    const double sine = Sine(place.fromEarthLongitude);
+    const double cosine = Cosine(place.fromEarthLongitude);
     const double R = view.earthDistance;
     const double rd = place.distance;
-    return NormalizeRadians(isInner ? std::atan(-rd * sine / (R - rd * cosine)) + view.earthLongitude + pi
-                                    : std::atan(R * sine / (rd - R * cosine)) + place.longitude);
+    return NormalizeRadians(isInner ? ArcTangent(-rd * sine / (R - rd * cosine)) + view.earthLongitude + pi
+                                    : ArcTangent(R * sine / (rd - R * cosine)) + place.longitude);
 }
 
 } // namespace
@@ -127,10 +128,10 @@ double FnFindPlanet(Planet planet, double centuries, const PlanetElements &eleme
     }
     double longitude = GeocentricLongitude(place, view, course.isInner) + sun.nutation * degreesToRadians;
     if (course.aberrationPi) {
-        const double c = std::cos(view.earthLongitude + *course.aberrationPi - longitude);
+        const double c = Cosine(view.earthLongitude + *course.aberrationPi - longitude);
         // The distance goes to the cosine as it stands, as if it were an angle: the correction swings with
         // it.
-        longitude -= 9.9387e-05 * c / std::cos(place.fromEarth);
+        longitude -= 9.9387e-05 * c / Cosine(place.fromEarth);
     }
     return FnNormalize360(longitude * radiansToDegrees);
 }

@@ -4,8 +4,7 @@
 #include "astronomy/theory/KeplerEquation.h"
 #include "astronomy/theory/Nutation.h"
 #include "runtime/Numbers.h"
-
-#include <cmath>
+#include "runtime/Trigonometry.h"
 
 namespace kelvaro {
 
@@ -28,10 +27,10 @@ Perturbation PerturbationAt(double T) {
     const double D = (350.74 - 0.00144 * (T * T) + 360 * FractionOf(1236.853095 * T)) * degreesToRadians;
     const double G = (231.19 + 20.2 * T) * degreesToRadians;
     const double H = (353.4 + 360 * FractionOf(183.1353208 * T)) * degreesToRadians;
-    return {0.00134 * std::cos(A) + 0.00154 * std::cos(B) + 0.002 * std::cos(C) + 0.00179 * std::sin(D) +
-                0.00178 * std::sin(G),
-            5.43e-06 * std::sin(A) + 1.575e-05 * std::sin(B) + 1.627e-05 * std::sin(C) +
-                3.076e-05 * std::cos(D) + 9.27e-06 * std::sin(H)};
+    return {0.00134 * Cosine(A) + 0.00154 * Cosine(B) + 0.002 * Cosine(C) + 0.00179 * Sine(D) +
+                0.00178 * Sine(G),
+            5.43e-06 * Sine(A) + 1.575e-05 * Sine(B) + 1.627e-05 * Sine(C) + 3.076e-05 * Cosine(D) +
+                9.27e-06 * Sine(H)};
 }
 
 } // namespace
@@ -49,7 +48,7 @@ SunPlace FnFindSun(double centuries) {
     sun.trueLongitude = NormalizeRadians(
         (meanLongitude - meanAnomaly + perturbation.longitude) * degreesToRadians + anomalies.trueAnomaly);
     sun.distance =
-        1.0000002 * (1 - eccentricity * std::cos(anomalies.eccentricAnomaly)) + perturbation.distance;
+        1.0000002 * (1 - eccentricity * Cosine(anomalies.eccentricAnomaly)) + perturbation.distance;
     constexpr double aberration = 0.00569;
     sun.nutation = FnFindNutation(centuries);
     sun.apparentLongitude = FnNormalize360(sun.trueLongitude * radiansToDegrees + sun.nutation - aberration);

@@ -1,10 +1,10 @@
 #include "store/masters/CityZones.h"
 
+#include "runtime/Trigonometry.h"
 #include "store/database/Dialect.h"
 #include "store/database/NameCollation.h"
 #include "store/database/Recordset.h"
 
-#include <cmath>
 #include <numbers>
 #include <system_error>
 
@@ -33,8 +33,8 @@ Direction DirectionOf(const Place &place) {
 
 /// The cosine of the angle between two places at the centre of the Earth: the nearer, the greater.
 double Nearness(const Direction &a, const Direction &b) {
-    return std::sin(a.latitude) * std::sin(b.latitude) +
-           std::cos(a.latitude) * std::cos(b.latitude) * std::cos(a.longitude - b.longitude);
+    return Sine(a.latitude) * Sine(b.latitude) +
+           Cosine(a.latitude) * Cosine(b.latitude) * Cosine(a.longitude - b.longitude);
 }
 
 bool HasTable(std::string_view schema, Connection &connection) {
