@@ -1,9 +1,9 @@
 # The rooms of the house: a library for each folder of code, linking only rooms below it.
 #
-#   kelvaro_add_room(NAME [FOLDER folder] [SOURCES file...] [PROGRAM file] [BELOW room...])
+#   kelvaro_add_room(NAME [FOLDER folder] [SOURCES file...] [PROGRAM file] [ELSEWHERE file...] [BELOW room...])
 #
 # makes the library kelvaro_NAME from sources of the present folder; the source of a program that stands in the same room is
-# named and left to its own target. A room may include itself and the rooms below it,
+# named and left to its own target, and so are sources for other systems. A room may include itself and the rooms below it,
 # those below them included. All headers are found from the root of the tree, so the compiler alone would let an include
 # climb: every build looks at the includes first.
 
@@ -19,7 +19,7 @@ function(kelvaro_allow_includes folder sources)
 endfunction()
 
 function(kelvaro_add_room name)
-  cmake_parse_arguments(PARSE_ARGV 1 room "" "FOLDER;PROGRAM" "SOURCES;BELOW")
+  cmake_parse_arguments(PARSE_ARGV 1 room "" "FOLDER;PROGRAM" "SOURCES;ELSEWHERE;BELOW")
   if(NOT room_FOLDER)
     set(room_FOLDER ${name})
   endif()
@@ -42,9 +42,12 @@ function(kelvaro_add_room name)
   add_dependencies(kelvaro_${name} kelvaro_rooms)
 
   set(sources)
-  foreach(source IN LISTS room_SOURCES room_PROGRAM)
+  list(TRANSFORM room_ELSEWHERE PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/ OUTPUT_VARIABLE elsewhere)
+  foreach(source IN LISTS room_SOURCES room_PROGRAM room_ELSEWHERE)
     cmake_path(ABSOLUTE_PATH source NORMALIZE)
-    set_property(GLOBAL APPEND PROPERTY KELVARO_SOURCES ${source})
+    if(NOT source IN_LIST elsewhere)
+      set_property(GLOBAL APPEND PROPERTY KELVARO_SOURCES ${source})
+    endif()
     cmake_path(RELATIVE_PATH source BASE_DIRECTORY ${CMAKE_SOURCE_DIR})
     list(APPEND sources ${source})
   endforeach()

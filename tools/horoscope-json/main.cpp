@@ -6,6 +6,7 @@
 #include "report/HoroscopeReport.h"
 #include "runtime/RuntimeError.h"
 #include "store/database/DatabaseFile.h"
+#include "system/System.h"
 #include "tools/births/BirthReader.h"
 #include "tools/births/BirthStream.h"
 #include "tools/horoscope-json/HoroscopeWriter.h"
@@ -100,8 +101,8 @@ int main(int argc, char **argv) {
     }
     try {
         std::ios::sync_with_stdio(false);
-        const auto program = std::filesystem::canonical("/proc/self/exe");
-        AnswerStream(program.parent_path() / kelvaro::store::databaseFileName, *wanted, std::cin, std::cout);
+        AnswerStream(kelvaro::ProgramFile().parent_path() / kelvaro::store::databaseFileName, *wanted,
+                     std::cin, std::cout);
         if (!std::cout) {
             std::cerr << "horoscope-json: the answers could not be written\n";
             return EXIT_FAILURE;
