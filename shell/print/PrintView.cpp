@@ -83,9 +83,8 @@ QComboBox *NewPaper() {
     auto *paper = new QComboBox;
     paper->setObjectName(QStringLiteral("paper"));
     paper->setAccessibleName(QObject::tr("Paper"));
-    for (const QPageSize::PageSizeId size : {QPageSize::A4, QPageSize::Letter}) {
-        paper->addItem(QPageSize::name(size), size);
-    }
+    paper->addItem(QObject::tr("A4"), QPageSize::A4);
+    paper->addItem(QObject::tr("Letter"), QPageSize::Letter);
     paper->setCurrentIndex(paper->findData(UsualPaper()));
     return paper;
 }
@@ -119,7 +118,11 @@ PrintView::PrintView(QWidget *parent)
     connect(Op1_, &QRadioButton::toggled, this, &PrintView::PagesAreStale);
     connect(vargaCharts_, &QCheckBox::toggled, this, &PrintView::PagesAreStale);
     connect(paper_, &QComboBox::currentIndexChanged, this, &PrintView::PagesAreStale);
-    connect(&composing_, &QTimer::timeout, this, [this] { Guarded(this, [this] { ComposeAllPages(); }); });
+    connect(&composing_, &QTimer::timeout, this, [this] {
+        if (isVisible()) { // a run of the driver hides it and fills the horoscope anew
+            Guarded(this, [this] { ComposeAllPages(); });
+        }
+    });
     connect(preview_, &PagePreview::PrintWanted, this, [this] { Guarded(this, [this] { PrintPages(); }); });
     // The button's own key works only with the focus inside the view; this one also from the tree.
     auto *key = new QShortcut(CoPrt_->shortcut(), this);
