@@ -59,7 +59,7 @@ QString AskFile(QWidget *parent, const std::vector<FileKind> &kinds, const QStri
 }
 
 QString FolderOfFiles(const QWidget *widget) {
-    const QString folder = widget->window()->property(folderProperty).toString();
+    QString folder = widget->window()->property(folderProperty).toString();
     if (QFileInfo(folder).isDir()) {
         return folder;
     }

@@ -190,7 +190,6 @@ TextGridView::TextGridView(const QString &name, const QString &alignments, QWidg
     colours.setColor(QPalette::ButtonText, lineColour);
     setPalette(colours);
     OfferMenu(this);
-    OfferPicture(this, [this] { return PictureOf(model_->Content(), heading_, note_); });
     AddToMenu(this, "copyTable", tr("Copy as &Table"),
               [this] { QApplication::clipboard()->setMimeData(TableOf(*model_, CellsToCopy()).release()); });
 }
@@ -204,6 +203,9 @@ void TextGridView::Show(const TextGrid &grid, std::size_t firstRow, std::size_t 
 }
 
 void TextGridView::SetHeading(const ChartHeading &heading, const QString &note) {
+    if (!heading_) {
+        OfferPicture(this, [this] { return PictureOf(model_->Content(), *heading_, note_); });
+    }
     heading_ = heading;
     note_ = note;
 }
@@ -285,7 +287,7 @@ void TextGridView::keyPressEvent(QKeyEvent *event) {
             QApplication::clipboard()->setMimeData(
                 TableOf(*model_, selectionModel()->selectedIndexes()).release());
         }
-    } else if (event->matches(QKeySequence::Cancel) && selectionMode() != SingleSelection) {
+    } else if (event->matches(QKeySequence::Cancel) && HasChosenCells()) {
         clearSelection();
     } else {
         QTableView::keyPressEvent(event);
@@ -298,10 +300,14 @@ void TextGridView::mousePressEvent(QMouseEvent *event) {
     }
 }
 
-/// What the table copies: the cells that are selected, or all. In a list of single rows one of them is always
-/// selected, and nobody has chosen it to be copied.
+/// In a list of single rows one of them is always selected, and nobody has chosen it to be copied.
+bool TextGridView::HasChosenCells() const {
+    return selectionMode() != SingleSelection && selectionModel()->hasSelection();
+}
+
+/// What the table copies: the cells that are selected, or all.
 QModelIndexList TextGridView::CellsToCopy() const {
-    if (selectionMode() != SingleSelection && selectionModel()->hasSelection()) {
+    if (HasChosenCells()) {
         return selectionModel()->selectedIndexes();
     }
     QModelIndexList cells;

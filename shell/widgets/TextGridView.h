@@ -7,6 +7,7 @@
 #include <QAbstractTableModel>
 #include <QTableView>
 
+#include <optional>
 #include <vector>
 
 namespace kelvaro {
@@ -50,8 +51,7 @@ private:
 
 /// A table of texts in the colours of the house, with columns that fit their contents. Selected cells are
 /// copied with the headings of their columns and rows; where nothing is selected, the context menu copies the
-/// whole table, which it also copies and saves as a picture. The right button leaves the selection alone, and
-/// Escape clears it.
+/// whole table. The right button leaves the selection alone, and Escape clears it.
 class TextGridView : public QTableView {
 public:
     static constexpr double widestStretch = 1.75; ///< of columns, times what their contents need
@@ -61,7 +61,8 @@ public:
     void Show(const TextGrid &grid);
     void Show(const TextGrid &grid, std::size_t firstRow, std::size_t rowCount);
 
-    /// What stands above and below the table where it leaves the program as a picture.
+    /// What stands above and below the table where it leaves the program as a picture, which its menu offers
+    /// from now on.
     void SetHeading(const ChartHeading &heading, const QString &note = {});
 
     /// Keeps the columns wide enough for all rows of a grid, whichever of them are shown.
@@ -85,10 +86,11 @@ protected:
 
 private:
     std::vector<int> ColumnWidths(const QFont &boldFont) const;
+    bool HasChosenCells() const;
     QModelIndexList CellsToCopy() const;
 
     TextGridModel *model_;
-    ChartHeading heading_;
+    std::optional<ChartHeading> heading_;
     QString note_;
     QStringList widest_; ///< texts of the columns of a grid, of which only some rows may be shown
 };
