@@ -57,7 +57,7 @@ QString NoteOf(const PageChart &chart, const std::vector<std::size_t> &cells) {
 std::array<std::string, 12> CellNamesOf(ChartStyle style, const Names &names, int firstSign) {
     std::array<std::string, 12> cells = names.RasiNames;
     if (style == ChartStyle::North && firstSign > 0) {
-        std::ranges::rotate(cells, cells.begin() + (firstSign - 1));
+        std::rotate(cells.begin(), cells.begin() + (firstSign - 1), cells.end());
     }
     return cells;
 }

@@ -36,11 +36,12 @@ QByteArray WithAuthor(const QByteArray &document, const QString &author) {
     const QByteArray tableStart = LastBetween(document, "startxref", "%%EOF");
     const QByteArray number = InfoNumber(trailer);
     const qsizetype object = document.indexOf("\n" + number + " 0 obj");
-    const qsizetype end = document.indexOf(">>", object);
+    // The texts of the properties may have ">>" in their letters.
+    const qsizetype end = document.indexOf("\n>>\nendobj", object);
     if (number.isEmpty() || object < 0 || end < 0 || !trailer.endsWith(">>")) {
         return document;
     }
-    const QByteArray properties = document.mid(object + 1, end - object - 1);
+    const QByteArray properties = document.mid(object + 1, end - object);
     QByteArray result = document;
     const qsizetype newObject = result.size();
     result += properties + "/Author " + PdfText(author) + "\n>>\nendobj\n";

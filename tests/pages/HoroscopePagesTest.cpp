@@ -227,6 +227,12 @@ TEST_F(HoroscopePagesTest, APdfHasItsPropertiesAndIsSmall) {
     EXPECT_TRUE(pdf->startsWith("%PDF-"));
     EXPECT_TRUE(pdf->endsWith("%%EOF\n"));
     EXPECT_TRUE(pdf->contains("/Author <FEFF0052010100670068006100760061>"));
+    // The later version of the properties has all of the earlier one, a title of any letters too.
+    horoscope.state.birth.ChartName = "\u3e3e\u3e3e";
+    const auto other = PdfOf(Composed(), [](int, int) { return true; });
+    ASSERT_TRUE(other);
+    EXPECT_EQ(other->count("/CreationDate"), 2);
+    EXPECT_TRUE(other->contains("startxref\n" + QByteArray::number(other->lastIndexOf("xref\n1 1")) + "\n"));
     EXPECT_FALSE(PdfOf(Composed(), [](int done, int) { return done < 3; }));
 }
 
