@@ -1,14 +1,9 @@
 #include "pages/PdfFile.h"
 
 #include "pages/PdfAuthor.h"
-#include "report/ReportFile.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QPdfWriter>
-
-#include <filesystem>
-#include <string_view>
 
 namespace kelvaro {
 
@@ -34,11 +29,6 @@ std::optional<QByteArray> PdfOf(const HoroscopePages &pages, const PageProgress 
     }
     painter.end();
     return WithAuthor(document.data(), pages.Author());
-}
-
-void WriteWholeFile(const QString &name, const QByteArray &content) {
-    WriteReportFile(std::filesystem::path(QFile::encodeName(name).toStdString()),
-                    std::string_view(content.constData(), static_cast<std::size_t>(content.size())));
 }
 
 } // namespace kelvaro

@@ -3,7 +3,6 @@
 #include "pages/HoroscopePages.h"
 
 #include <QByteArray>
-#include <QString>
 
 #include <functional>
 #include <optional>
@@ -15,9 +14,5 @@ using PageProgress = std::function<bool(int done, int count)>;
 
 /// The pages as a PDF document, with its properties; nothing where the progress was told to stop.
 std::optional<QByteArray> PdfOf(const HoroscopePages &pages, const PageProgress &progress);
-
-/// Writes a file all or nothing: it takes the place of an older one, and keeps its permissions, only when it
-/// lies on the disk completely. Raises ReportFileError, with a sentence that names the file and the cause.
-void WriteWholeFile(const QString &name, const QByteArray &content);
 
 } // namespace kelvaro

@@ -1,5 +1,6 @@
 #include "shell/print/PdfExport.h"
 
+#include "drawing/WholeFile.h"
 #include "pages/PdfFile.h"
 
 #include <QProgressDialog>

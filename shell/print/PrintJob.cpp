@@ -1,6 +1,6 @@
 #include "shell/print/PrintJob.h"
 
-#include "report/ReportFile.h"
+#include "drawing/WholeFile.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -72,7 +72,7 @@ void WritePdf(const QPrinter &printer, const PrintJob &job) {
     writer.setTitle(printer.docName());
     writer.setCreator(printer.creator());
     PrintPlaces(Copies(PlacesIn(printer.pageRanges(), job.sheetCount), printer), job, writer);
-    WriteReportFile(QFile::encodeName(printer.outputFileName()).toStdString(), document.data().toStdString());
+    WriteWholeFile(printer.outputFileName(), document.data());
 }
 
 } // namespace

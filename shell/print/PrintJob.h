@@ -29,7 +29,7 @@ void PrintSheets(const PrintJob &job, QPagedPaintDevice &device);
 
 /// Prints on a printer or into a PDF file, as the printer was set up in a dialog: its range of pages, and in
 /// a file its copies and their order, which a real printer sees to itself. The file is written all or
-/// nothing. Raises ReportPrintError, and ReportFileError when the file cannot be written.
+/// nothing. Raises ReportPrintError, and FileError when the file cannot be written.
 void PrintOn(QPrinter &printer, const PrintJob &job);
 
 } // namespace kelvaro

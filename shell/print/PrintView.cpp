@@ -4,6 +4,7 @@
 #include "drawing/FileName.h"
 #include "drawing/ShownText.h"
 #include "drawing/TextOf.h"
+#include "drawing/WholeFile.h"
 #include "horoscope/Horoscope.h"
 #include "pages/PaperOfLocale.h"
 #include "report/ReportFile.h"
@@ -230,7 +231,7 @@ void PrintView::Compose() {
 void PrintView::SaveAs(const ReportFileKind &kind) {
     const QString name = AskFile(this, {kind.file}, FileNameOf(ChartName()));
     if (!name.isEmpty()) {
-        WriteReportFile(QFile::encodeName(name).toStdString(), kind.content(report_));
+        WriteWholeFile(name, QByteArray::fromStdString(kind.content(report_)));
         TellFile(name);
     }
 }

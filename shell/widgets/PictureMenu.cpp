@@ -1,7 +1,7 @@
 #include "shell/widgets/PictureMenu.h"
 
 #include "drawing/FileName.h"
-#include "pages/PdfFile.h"
+#include "drawing/WholeFile.h"
 #include "shell/widgets/FileChoice.h"
 #include "shell/widgets/MessageBoxes.h"
 

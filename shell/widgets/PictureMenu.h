@@ -27,7 +27,7 @@ std::unique_ptr<QMimeData> MimeOf(const Picture &picture);
 /// Drags a picture out of a window, also as a file.
 class PictureDrag {
 public:
-    /// Returns when the picture was dropped or the drag given up. Raises ReportFileError when its file cannot
+    /// Returns when the picture was dropped or the drag given up. Raises FileError when its file cannot
     /// be written.
     void Start(QWidget *source, const Picture &picture);
 

@@ -3,7 +3,6 @@
 #include "horoscope/CalculateHoroscope.h"
 #include "pages/PageType.h"
 #include "pages/PdfFile.h"
-#include "report/ReportFile.h"
 #include "tests/horoscope/HoroscopeFixture.h"
 #include "tests/pages/PaintedText.h"
 
@@ -234,27 +233,6 @@ TEST_F(HoroscopePagesTest, APdfHasItsPropertiesAndIsSmall) {
     EXPECT_EQ(other->count("/CreationDate"), 2);
     EXPECT_TRUE(other->contains("startxref\n" + QByteArray::number(other->lastIndexOf("xref\n1 1")) + "\n"));
     EXPECT_FALSE(PdfOf(Composed(), [](int done, int) { return done < 3; }));
-}
-
-TEST(WriteWholeFile, LeavesAnOlderFileOrNothing) {
-    const QTemporaryDir folder;
-    const QString name = folder.filePath(QStringLiteral("h\u014dra.pdf"));
-    WriteWholeFile(name, "first");
-    const auto content = [&name] {
-        QFile file(name);
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll().toStdString();
-    };
-    EXPECT_EQ(content(), "first");
-    WriteWholeFile(name, "second");
-    EXPECT_EQ(content(), "second");
-    EXPECT_THROW(WriteWholeFile(folder.path(), "third"), ReportFileError);
-    EXPECT_THROW(WriteWholeFile(folder.filePath(QStringLiteral("none/a.pdf")), "third"), ReportFileError);
-    if (QFile::exists(QStringLiteral("/dev/full"))) {
-        EXPECT_THROW(WriteWholeFile(QStringLiteral("/dev/full"), "third"), ReportFileError);
-    }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(),
-              1);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "drawing/FileName.h"
 #include "drawing/TextOf.h"
+#include "drawing/WholeFile.h"
 #include "horoscope/Horoscope.h"
 #include "pages/HoroscopePages.h"
 #include "pages/PdfFile.h"
