@@ -18,13 +18,17 @@ subjects=(
     "BM_WholeHoroscope|A whole horoscope without a window"
     "BM_ComposeReport/antra:0|The text of its report, without antras"
     "BM_ComposeReport/antra:1|The text of its report, with antras"
+    "BM_DrawnPages/all:0|Its drawn pages as a PDF file"
+    "BM_DrawnPages/all:1|The same with antras and charts of vargas"
     "BM_CheckClock|What the clocks of a birthplace stood at"
     "BM_ChartList/20000|The list of 20,000 saved charts"
 )
 
 echo "== Benchmarks"
-build/benchmarks/kelvaro_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true \
-    --benchmark_format=csv >build/benchmarks/figures.csv
+for bench in kelvaro_bench kelvaro_pages_bench; do
+    "build/benchmarks/$bench" --benchmark_repetitions=5 --benchmark_report_aggregates_only=true \
+        --benchmark_format=csv
+done >build/benchmarks/figures.csv
 # Processor time, which other programs at work do not lengthen.
 declare -A figures
 while IFS=, read -r name _ _ time unit _; do
