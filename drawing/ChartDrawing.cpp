@@ -97,8 +97,9 @@ ChartContent ContentOf(const ChartForm &form, ChartStyle style, const ChartHeadi
     return content;
 }
 
-ChartDrawing::ChartDrawing(ChartContent content, const ChartFont &font, const ChartSizes &sizes)
-    : content_(std::move(content)), font_(font), sizes_(sizes), outlines_(CellOutlines(content_.style)) {
+ChartDrawing::ChartDrawing(ChartContent content, ChartFont font, const ChartSizes &sizes)
+    : content_(std::move(content)), font_(std::move(font)), sizes_(sizes),
+      outlines_(CellOutlines(content_.style)) {
     for (std::size_t index = 0; index < numbers_.size(); ++index) {
         numbers_.at(index) = PlacedNumber(index);
     }

@@ -41,7 +41,7 @@ struct ChartSizes {
 /// A chart fitted to a square, to be painted at any size on anything.
 class ChartDrawing {
 public:
-    ChartDrawing(ChartContent content, const ChartFont &font, const ChartSizes &sizes = {});
+    ChartDrawing(ChartContent content, ChartFont font, const ChartSizes &sizes = {});
 
     const ChartContent &Content() const { return content_; }
 
