@@ -107,7 +107,7 @@ bool TableColumns::HasRoomForWords(double points, double room) const {
 }
 
 std::vector<double> TableColumns::WidthsIn(double room, double points) const {
-    const std::vector<double> natural = NaturalWidths(points);
+    std::vector<double> natural = NaturalWidths(points);
     if (SumOf(natural) <= room) {
         return natural;
     }

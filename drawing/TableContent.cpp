@@ -40,9 +40,10 @@ TableContent ContentOf(const TextGrid &grid, const QString &alignments) {
         content.rows.at(cell.row).cells.at(cell.column).isBold = true;
     }
     // From the last one on, so that the rows of those before it keep their numbers.
-    for (auto section = grid.sections.rbegin(); section != grid.sections.rend(); ++section) {
-        content.rows.insert(content.rows.begin() + static_cast<std::ptrdiff_t>(section->firstRow),
-                            RowOf({section->title}, RowKind::Heading));
+    for (std::size_t place = grid.sections.size(); place-- > 0;) {
+        const TextGrid::Section &section = grid.sections.at(place);
+        content.rows.insert(content.rows.begin() + static_cast<std::ptrdiff_t>(section.firstRow),
+                            RowOf({section.title}, RowKind::Heading));
     }
     return content;
 }
