@@ -19,6 +19,11 @@ constexpr double quartersOfRadian = 0x1.45f306dc9c883p-1;
 constexpr std::array<double, 4> quarterParts{0x1.921fb54p+0, 0x1.10b461p-30, 0x1.a626331p-58,
                                              0x1.1701b839a252p-88};
 constexpr double largestAngle = 0x1p24;
+/// The same in a part of 44 bits, for up to 2^9 quarters, and the rest.
+constexpr TwoDoubles quarterForFew{0x1.921fb54442cp+0, 0x1.18469898cc517p-44};
+constexpr double fewQuarters = 512;
+/// An angle that is left over and smaller has lost digits in the short reduction.
+constexpr double smallestOfFew = 0x1p-16;
 constexpr double eighthOfCircle = 0x1.921fb54442d18p-1;
 /// Below it an angle, its sine and its tangent are one number, and its cosine is 1.
 constexpr double smallestAngle = 0x1p-27;
@@ -73,6 +78,12 @@ struct ReducedAngle {
     std::int32_t quarters = 0;
 };
 
+TwoDoubles LongReduction(double radians, double quarters) {
+    const TwoDoubles first = Sum(radians - quarters * quarterParts[0], -(quarters * quarterParts[1]));
+    const TwoDoubles second = Sum(first.high, -(quarters * quarterParts[2]));
+    return OrderedSum(second.high, first.low + second.low - quarters * quarterParts[3]);
+}
+
 ReducedAngle Reduced(double radians) {
     if (std::abs(radians) <= eighthOfCircle) {
         return {{radians, 0}, 0};
@@ -81,66 +92,42 @@ ReducedAngle Reduced(double radians) {
         throw ArithmeticError("Overflow: an angle too large for its sine");
     }
     const double quarters = Nearest(radians * quartersOfRadian);
-    const TwoDoubles first = Sum(radians - quarters * quarterParts[0], -(quarters * quarterParts[1]));
-    const TwoDoubles second = Sum(first.high, -(quarters * quarterParts[2]));
-    const double rest = first.low + second.low - quarters * quarterParts[3];
-    return {OrderedSum(second.high, rest), static_cast<std::int32_t>(quarters)};
+    const auto turns = static_cast<std::int32_t>(quarters);
+    const double first = radians - quarters * quarterForFew.high;
+    if (std::abs(quarters) <= fewQuarters && std::abs(first) >= smallestOfFew) {
+        return {OrderedSum(first, -(quarters * quarterForFew.low)), turns};
+    }
+    return {LongReduction(radians, quarters), turns};
 }
 
-/// An angle between the entries of the table: the nearest entry, and the series of what is left.
-struct BetweenEntries {
-    const SineAndCosine &entry;
-    TwoDoubles rest;
-    double sineTail;   ///< the sine of the rest less the rest
-    double cosineTail; ///< its cosine less 1
-};
-
-BetweenEntries Interpolated(const TwoDoubles &radians) {
-    const double step = Nearest(radians.high * trigonometrySteps);
-    const TwoDoubles rest = OrderedSum(radians.high - step / trigonometrySteps, radians.low);
+/// The sine of an angle that is turned by so many more quarters of the circle. Sines and cosines, and angles
+/// of either sign, go the same way, as a branch that nobody can foresee takes longer than all of it.
+TwoDoubles TurnedSine(const ReducedAngle &angle, std::int32_t more) {
+    const auto quarters = static_cast<std::uint32_t>(angle.quarters + more);
+    const std::uint32_t isCosine = quarters & 1U;
+    const double side = std::copysign(1.0, angle.radians.high);
+    const double high = side * angle.radians.high;
+    const double step = Nearest(high * trigonometrySteps);
+    const TwoDoubles rest = OrderedSum(high - step / trigonometrySteps, side * angle.radians.low);
     const double square = rest.high * rest.high;
-    return {sinesAndCosines.at(static_cast<std::size_t>(step)), rest,
-            rest.high * square * (-1.0 / 6 + square * (1.0 / 120 - square * (1.0 / 5040))) -
-                0.5 * square * rest.low,
-            square * (-0.5 + square * (1.0 / 24 + square * (-1.0 / 720 + square * (1.0 / 40320)))) -
-                rest.high * rest.low};
-}
-
-TwoDoubles PositiveSine(const TwoDoubles &radians) {
-    const auto [entry, rest, sineTail, cosineTail] = Interpolated(radians);
-    const auto &[sine, cosine] = entry;
-    const TwoDoubles product = Product(cosine.high, rest.high);
-    const TwoDoubles sum = OrderedSum(sine.high, product.high);
-    return OrderedSum(sum.high, sine.high * cosineTail + cosine.high * sineTail + cosine.high * rest.low +
-                                    cosine.low * rest.high + sine.low + product.low + sum.low);
-}
-
-TwoDoubles PositiveCosine(const TwoDoubles &radians) {
-    const auto [entry, rest, sineTail, cosineTail] = Interpolated(radians);
-    const auto &[sine, cosine] = entry;
-    const TwoDoubles product = Product(sine.high, rest.high);
-    const TwoDoubles sum = OrderedSum(cosine.high, -product.high);
-    return OrderedSum(sum.high, cosine.high * cosineTail - sine.high * sineTail - sine.high * rest.low -
-                                    sine.low * rest.high + cosine.low - product.low + sum.low);
-}
-
-TwoDoubles Negative(const TwoDoubles &a) {
-    return {-a.high, -a.low};
-}
-
-TwoDoubles ReducedSine(const TwoDoubles &radians) {
-    return radians.high < 0 ? Negative(PositiveSine(Negative(radians))) : PositiveSine(radians);
-}
-
-TwoDoubles ReducedCosine(const TwoDoubles &radians) {
-    return PositiveCosine(radians.high < 0 ? Negative(radians) : radians);
-}
-
-/// The sine of an angle that is turned by so many more quarters of the circle.
-TwoDoubles TurnedSine(const ReducedAngle &angle, std::int32_t quarters) {
-    const auto turns = static_cast<std::uint32_t>(angle.quarters + quarters);
-    const TwoDoubles sine = turns % 2 == 0 ? ReducedSine(angle.radians) : ReducedCosine(angle.radians);
-    return turns % 4 < 2 ? sine : Negative(sine);
+    const double sineTail = rest.high * square * (-1.0 / 6 + square * (1.0 / 120 - square * (1.0 / 5040))) -
+                            0.5 * square * rest.low;
+    const double cosineTail =
+        square * (-0.5 + square * (1.0 / 24 + square * (-1.0 / 720 + square * (1.0 / 40320)))) -
+        rest.high * rest.low;
+    // The sine is that of the entry times a cosine plus its cosine times a sine; of a cosine the second part
+    // is taken away and the two are exchanged.
+    const SineAndCosine &entry = sinesAndCosines.at(static_cast<std::size_t>(step));
+    const double turn = 1.0 - 2.0 * static_cast<double>(isCosine);
+    const TwoDoubles &kept = entry.at(isCosine);
+    const TwoDoubles turned{turn * entry.at(1U - isCosine).high, turn * entry.at(1U - isCosine).low};
+    const TwoDoubles product = Product(turned.high, rest.high);
+    const TwoDoubles sum = OrderedSum(kept.high, product.high);
+    const double low = kept.high * cosineTail + turned.high * sineTail + turned.high * rest.low +
+                       turned.low * rest.high + kept.low + product.low + sum.low;
+    const double sign = (1.0 - static_cast<double>(quarters & 2U)) * (isCosine == 0 ? side : 1.0);
+    const TwoDoubles sine = OrderedSum(sum.high, low);
+    return {sign * sine.high, sign * sine.low};
 }
 
 TwoDoubles TangentOf(const ReducedAngle &angle) {
