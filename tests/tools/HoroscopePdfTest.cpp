@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <random>
 #include <sstream>
 #include <string>
@@ -177,6 +178,19 @@ json PeriodsOf(json rows) {
     return rows;
 }
 
+/// Expects the bodies of each sign of the divisional charts side by side on the page.
+void ExpectVargaCells(const json &rows, const json &shortNames, const Words &page) {
+    for (const json &row : rows) {
+        std::map<std::string, std::string> cells;
+        for (std::size_t body = 0; body + 1 < row.size(); ++body) {
+            cells[row.at(body + 1)] += shortNames.at(body).get<std::string>() + ' ';
+        }
+        for (const auto &[sign, bodies] : cells) {
+            EXPECT_TRUE(HasInOrder(page, WordsOf(bodies))) << row.front() << ' ' << sign << ": " << bodies;
+        }
+    }
+}
+
 TEST_F(HoroscopePdfTest, SaysWhatTheGridsSay) {
     const std::vector<json> births = ManyBirths(50);
     ASSERT_EQ(Run("'" HOROSCOPE_JSON "'", LinesOf(births)), 0);
@@ -185,14 +199,14 @@ TEST_F(HoroscopePdfTest, SaysWhatTheGridsSay) {
     for (std::string line; std::getline(answers, line);) {
         horoscopes.push_back(json::parse(line));
     }
-    ASSERT_EQ(WritePdf(LinesOf(births), "--antras"), 0);
+    ASSERT_EQ(WritePdf(LinesOf(births), "--antras --varga-charts"), 0);
     const std::vector<fs::path> files = Documents();
     ASSERT_EQ(files.size(), births.size());
     for (std::size_t i = 0; i < files.size(); ++i) {
         SCOPED_TRACE(births[i].dump());
         const json &horoscope = horoscopes.at(i);
         const std::vector<Words> pages = PagesOf(files[i]);
-        ASSERT_GE(pages.size(), 6U);
+        ASSERT_GE(pages.size(), 8U);
         for (const auto &[field, text] : horoscope.at("frm_UserDetails").items()) {
             // The clock time stands there as the time of birth, without the date.
             const bool isShown = field != "txtist";
@@ -209,8 +223,11 @@ TEST_F(HoroscopePdfTest, SaysWhatTheGridsSay) {
         ExpectRows(horoscope.at("mshAshtaVarga"), pages[3]);
         ExpectRows(horoscope.at("mshVargas"), pages[4]);
         ExpectRows(horoscope.at("mshDasa"), pages[4]);
+        Words vargas = pages[5];
+        vargas.insert(vargas.end(), pages[6].begin(), pages[6].end());
+        ExpectVargaCells(horoscope.at("mshVargas"), horoscope.at("HoroscopeState").at("ShortNames"), vargas);
         Words periods;
-        for (std::size_t page = 5; page < pages.size(); ++page) {
+        for (std::size_t page = 7; page < pages.size(); ++page) {
             periods.insert(periods.end(), pages[page].begin(), pages[page].end());
         }
         ExpectRows(PeriodsOf(horoscope.at("mshBukti")), periods);
