@@ -172,6 +172,27 @@ TEST_F(HoroscopePagesTest, ACrowdedSignShowsAllItsBodies) {
     }
 }
 
+/// The Lagna's house is the first, which stands in the middle below the title of each chart.
+TEST_F(HoroscopePagesTest, NorthChartsOfVargasBeginAtTheLagna) {
+    Calculate("North");
+    const std::vector<Texts> painted = PaintedPages(Composed(everything));
+    const auto middle = [](const PaintedText &text) { return text.baseline.x() + text.width / 2; };
+    for (const std::size_t page : {5U, 6U}) {
+        const Texts &texts = painted.at(page);
+        for (std::size_t chart = 0; chart < (page == 5 ? 12U : 9U); ++chart) {
+            const std::string varga =
+                horoscope.forms.Frm_Vargas.mshVargas.rows.at(chart + (page == 5 ? 0 : 12)).front();
+            const auto title = std::ranges::find(texts, QString::fromStdString(varga), &PaintedText::text);
+            ASSERT_NE(title, texts.end()) << varga;
+            EXPECT_TRUE(std::ranges::any_of(texts, [&](const PaintedText &text) {
+                const double below = text.baseline.y() - title->baseline.y();
+                return text.text == "Asc" && std::abs(middle(text) - middle(*title)) < 1 && below > 0 &&
+                       below < 70;
+            })) << varga;
+        }
+    }
+}
+
 /// Blocks and rows stay whole: what starts on a page ends there, in the same column.
 TEST_F(HoroscopePagesTest, NoRowAndNoBlockIsTorn) {
     Calculate();

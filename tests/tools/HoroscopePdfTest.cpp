@@ -118,6 +118,13 @@ TEST_F(HoroscopePdfTest, TellsABadLineAndGoesOn) {
     EXPECT_NE(errors.find("line 1: Rasi positions: The Sun does not"), std::string::npos) << errors;
 }
 
+TEST_F(HoroscopePdfTest, MakesWhatItsOptionsAskFor) {
+    ASSERT_EQ(WritePdf(LinesOf({Birth()}), "--letter --varga-charts"), 0);
+    const fs::path pdf = Documents().at(0);
+    EXPECT_EQ(PagesOf(pdf).size(), 8U);
+    EXPECT_NE(ContentOf(pdf).find("/MediaBox [0 0 612.000000 792.000000]"), std::string::npos);
+}
+
 TEST_F(HoroscopePdfTest, SaysWhatItCannotWrite) {
     std::ofstream(Pages()) << "a file where the folder should be";
     EXPECT_NE(WritePdf(LinesOf({Birth()})), 0);
@@ -212,6 +219,7 @@ TEST_F(HoroscopePdfTest, SaysWhatTheGridsSay) {
             const bool isShown = field != "txtist";
             EXPECT_TRUE(!isShown || HasInOrder(pages[0], WordsOf(text.get<std::string>()))) << field;
         }
+        EXPECT_TRUE(HasInOrder(pages[0], WordsOf(horoscope.at("DasaBalanceText").get<std::string>())));
         for (const char *chart : {"frm_rasi", "frm_Navamsa", "frm_BhavaChart"}) {
             const Words &page = pages[chart == std::string("frm_BhavaChart") ? 2 : 1];
             for (const json &cell : horoscope.at(chart).at("cells")) {
