@@ -55,8 +55,9 @@ constexpr std::string_view englishHeader =
 /// The ten bodies of the grid; Gulika and Maandi have no column.
 constexpr std::span<const BodyFields, 10> columnBodies{bodyFields.data(), 10};
 
-TextGrid LaidOutGrid(Language language) {
-    TextGrid grid;
+VargasForm LaidOutForm(Language language) {
+    VargasForm form;
+    TextGrid &grid = form.mshVargas;
     if (language == Language::Sanskrit) {
         grid.header = sanskritHeader;
     } else if (language == Language::English) {
@@ -66,7 +67,8 @@ TextGrid LaidOutGrid(Language language) {
     for (std::size_t row = 0; row < vargas.size(); ++row) {
         grid.rows[row].front() = vargas[row].label;
     }
-    return grid;
+    form.rasis.resize(vargas.size());
+    return form;
 }
 
 std::optional<std::size_t> RowOfChart(std::string_view chartName) {
@@ -81,8 +83,9 @@ std::optional<std::size_t> RowOfChart(std::string_view chartName) {
     return static_cast<std::size_t>(found - vargas.begin());
 }
 
-std::string ShortNameOfRasi(const Names &names, std::int16_t rasi) {
-    return RasiShortFromName(names, RasiNameOf(names, rasi));
+void FillCell(VargasForm &form, std::size_t row, std::size_t body, std::int16_t rasi, const Names &names) {
+    form.mshVargas.rows.at(row).at(body + 1) = RasiShortFromName(names, RasiNameOf(names, rasi));
+    form.rasis.at(row).at(body) = rasi;
 }
 
 } // namespace
@@ -96,7 +99,7 @@ std::string RasiShortFromName(const Names &names, std::string_view rasiName) {
 }
 
 void FillVargaRow(const VargaPositions &positions, std::string_view chartName, double size,
-                  VargaSource source, const Names &names, store::VargaTable &table, TextGrid &mshVargas) {
+                  VargaSource source, const Names &names, store::VargaTable &table, VargasForm &form) {
     const auto row = RowOfChart(chartName);
     if (!row) {
         return;
@@ -107,30 +110,30 @@ void FillVargaRow(const VargaPositions &positions, std::string_view chartName, d
                               ? table.HouseNumber(chartName, DegreesInRasi(longitude), positions.rasis[i])
                               : RasiOfLongitude(longitude, size);
         if (rasi) {
-            mshVargas.rows.at(*row).at(i + 1) = ShortNameOfRasi(names, *rasi);
+            FillCell(form, *row, i, *rasi, names);
         }
     }
 }
 
-TextGrid VargaGrid(const Positions &positions, const Names &names, Language language,
-                   store::VargaTable &table) {
-    TextGrid grid = LaidOutGrid(language);
+VargasForm VargaCharts(const Positions &positions, const Names &names, Language language,
+                       store::VargaTable &table) {
+    VargasForm form = LaidOutForm(language);
     VargaPositions bodies{};
     for (std::size_t i = 0; i < columnBodies.size(); ++i) {
         bodies.longitudes[i] = positions.*columnBodies[i].longitude;
         bodies.rasis[i] = RasiOfLongitude(bodies.longitudes[i], rasiSize);
-        grid.rows.front()[i + 1] = ShortNameOfRasi(names, bodies.rasis[i]);
+        FillCell(form, 0, i, bodies.rasis[i], names);
     }
     for (std::size_t row = 1; row < navaNavamsaRow; ++row) {
         const Varga &varga = vargas[row];
-        FillVargaRow(bodies, varga.chartName, varga.size, varga.source, names, table, grid);
+        FillVargaRow(bodies, varga.chartName, varga.size, varga.source, names, table, form);
     }
     for (double &longitude : bodies.longitudes) {
         longitude *= 81;
     }
     const Varga &last = vargas[navaNavamsaRow];
-    FillVargaRow(bodies, last.chartName, last.size, last.source, names, table, grid);
-    return grid;
+    FillVargaRow(bodies, last.chartName, last.size, last.source, names, table, form);
+    return form;
 }
 
 } // namespace kelvaro

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "horoscope/record/HoroscopeForms.h"
 #include "horoscope/record/Names.h"
-#include "horoscope/record/TextGrid.h"
 #include "store/tables/VargaTable.h"
 
 #include <array>
@@ -23,16 +23,16 @@ struct VargaPositions {
     std::array<std::int16_t, 10> rasis; ///< of the Rasi chart, 1 to 12
 };
 
-/// The divisional charts: a row for each of the 21, in it the short rasi name of each body. Raises what the
-/// table raises.
-TextGrid VargaGrid(const Positions &positions, const Names &names, Language language,
-                   store::VargaTable &table);
+/// The divisional charts: a row for each of the 21, in it the rasi of each body and its short name. Raises
+/// what the table raises.
+VargasForm VargaCharts(const Positions &positions, const Names &names, Language language,
+                       store::VargaTable &table);
 
 /// Writes the row of one divisional chart, which is found by its name without regard to case; another name
 /// writes nothing. `size` is the division in degrees, which does not count for a chart of the table; where
-/// the table has no row for a body, the cell of that body is left as it is. The grid must have its 21 rows.
+/// the table has no row for a body, the cell of that body is left as it is. The form must have its 21 rows.
 void FillVargaRow(const VargaPositions &positions, std::string_view chartName, double size,
-                  VargaSource source, const Names &names, store::VargaTable &table, TextGrid &mshVargas);
+                  VargaSource source, const Names &names, store::VargaTable &table, VargasForm &form);
 
 /// The short name of a rasi by its full name, in the language of the names. Empty for any other text.
 std::string RasiShortFromName(const Names &names, std::string_view rasiName);

@@ -29,6 +29,11 @@ struct HeadingLine {
     QColor colour;
 };
 
+QString Joined(QStringList parts, const QString &between) {
+    parts.removeAll(QString());
+    return parts.join(between);
+}
+
 std::vector<HeadingLine> LinesOf(const ChartHeading &heading, HeadingShape shape, const HeadingSizes &sizes) {
     std::vector<HeadingLine> lines{{heading.title, sizes.title, true, lineColour}};
     if (shape == HeadingShape::Block) {
@@ -36,9 +41,7 @@ std::vector<HeadingLine> LinesOf(const ChartHeading &heading, HeadingShape shape
         lines.push_back({heading.moment, sizes.details, false, figureColour});
         lines.push_back({heading.place, sizes.details, false, figureColour});
     } else {
-        QStringList rest{heading.name, heading.moment, heading.place};
-        rest.removeAll(QString());
-        lines.push_back({rest.join(QStringLiteral("   \u00b7   ")), sizes.band, false, nameColour});
+        lines.push_back({WhoseLine(heading), sizes.band, false, nameColour});
     }
     std::erase_if(lines, [](const HeadingLine &line) { return line.text.isEmpty(); });
     return lines;
@@ -98,6 +101,14 @@ private:
 };
 
 } // namespace
+
+QString WhoseLine(const ChartHeading &heading) {
+    return Joined({heading.name, heading.moment, heading.place}, QStringLiteral("   \u00b7   "));
+}
+
+QString NameAndTitle(const ChartHeading &heading) {
+    return Joined({heading.name, heading.title}, QStringLiteral(" "));
+}
 
 ChartHeading HeadingOf(const HoroscopeState &state, const QString &title) {
     const auto text = [](const std::string &field) { return Breakable(OneLine(TextOf(field), longestPart)); };

@@ -19,6 +19,12 @@ struct ChartHeading {
 /// The heading of a horoscope's chart or table. Long names are shortened.
 ChartHeading HeadingOf(const HoroscopeState &state, const QString &title);
 
+/// Whose it is, with moment and place of the birth, in one line.
+QString WhoseLine(const ChartHeading &heading);
+
+/// Whose chart or table it is, and which: a name for its picture.
+QString NameAndTitle(const ChartHeading &heading);
+
 enum class HeadingShape {
     Block, ///< every item on its own line
     Band,  ///< the title, and below it the rest in one line

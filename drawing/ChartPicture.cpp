@@ -3,8 +3,6 @@
 #include "drawing/HouseFonts.h"
 #include "drawing/PointRuler.h"
 
-#include <QStringList>
-
 #include <memory>
 
 namespace kelvaro {
@@ -22,9 +20,7 @@ Picture PictureOf(const ChartContent &content) {
     const auto drawing = std::make_shared<const ChartDrawing>(content, ChartFont(SansFont(anySize)));
     const double side = pictureWidth / (1 + 2 * outerMargin);
     const QPointF corner(outerMargin * side, (outerMargin + drawing->HeadingHeight()) * side);
-    QStringList name{content.heading.name, content.heading.title};
-    name.removeAll(QString());
-    return {name.join(u' '),
+    return {NameAndTitle(content.heading),
             {pictureWidth, corner.y() + (1 + outerMargin) * side},
             [drawing, side, corner](QPainter &painter) {
                 const double point = DotsPerPoint(painter);

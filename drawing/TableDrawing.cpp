@@ -205,8 +205,4 @@ void TableDrawing::PaintRows(QPainter &painter, QPointF topLeft, std::size_t fir
     PaintRule(painter, corner(), thickRule);
 }
 
-TableDrawing DrawingOfGrid(const TextGrid &grid, const QString &alignments) {
-    return TableDrawing(ContentOf(grid, alignments));
-}
-
 } // namespace kelvaro

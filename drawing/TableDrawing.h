@@ -37,7 +37,6 @@ public:
     /// Lays the columns out anew in a width, of which a narrow table needs only a part.
     void FitTo(double width);
 
-    const TableContent &Content() const { return content_; }
     std::size_t RowCount() const { return rows_.size(); }
     double FontSize() const { return points_; }
     double Width() const { return width_; }
@@ -88,8 +87,5 @@ private:
     SetRow titles_;
     std::vector<SetRow> rows_;
 };
-
-/// A grid as a table of its natural width.
-TableDrawing DrawingOfGrid(const TextGrid &grid, const QString &alignments);
 
 } // namespace kelvaro

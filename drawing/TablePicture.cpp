@@ -43,12 +43,6 @@ double AddLines(std::vector<TextPiece> &lines, const QString &text, const QFont 
     return top;
 }
 
-QString WhoseOf(const ChartHeading &heading) {
-    QStringList parts{heading.name, heading.moment, heading.place};
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral("   \u00b7   "));
-}
-
 } // namespace
 
 Picture PictureOf(const TableContent &content, const ChartHeading &heading, const QString &note) {
@@ -56,7 +50,7 @@ Picture PictureOf(const TableContent &content, const ChartHeading &heading, cons
     const double width = std::max(table->Width(), leastWidth);
     std::vector<TextPiece> lines;
     double top = AddLines(lines, heading.title, SerifFont(titleSize, Weight::Bold), lineColour, width, 0);
-    top = AddLines(lines, WhoseOf(heading), SansFont(whoseSize), figureColour, width, top);
+    top = AddLines(lines, WhoseLine(heading), SansFont(whoseSize), figureColour, width, top);
     top += gapBelowHeading;
     double bottom = top + table->Size().height();
     if (!note.isEmpty()) {
@@ -65,9 +59,7 @@ Picture PictureOf(const TableContent &content, const ChartHeading &heading, cons
             bottom = AddLines(lines, line, SansFont(noteSize), figureColour, width, bottom);
         }
     }
-    QStringList name{heading.name, heading.title};
-    name.removeAll(QString());
-    return {name.join(u' '),
+    return {NameAndTitle(heading),
             {width + 2 * margin, bottom + 2 * margin},
             [table, width, top, lines = std::move(lines)](QPainter &painter) {
                 const double point = DotsPerPoint(painter);

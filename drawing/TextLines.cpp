@@ -1,5 +1,7 @@
 #include "drawing/TextLines.h"
 
+#include "drawing/StandIns.h"
+
 #include <QTextLayout>
 
 namespace kelvaro {
@@ -11,13 +13,14 @@ std::vector<TextLine> TextLines(const QString &text, const QFont &font, const QP
     }
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    QTextLayout layout(text, QFont(font, &device));
+    const QString drawable = WithStandIns(text, font);
+    QTextLayout layout(drawable, QFont(font, &device));
     layout.setTextOption(option);
     layout.beginLayout();
     std::vector<TextLine> lines;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
-        QString piece = text.mid(line.textStart(), line.textLength());
+        QString piece = drawable.mid(line.textStart(), line.textLength());
         while (piece.endsWith(u' ')) {
             piece.chop(1);
         }

@@ -15,7 +15,7 @@ struct TextLine {
 };
 
 /// The lines of a text in a width, both in units of the device. Lines break between words, and inside a word
-/// that is longer than a line. An empty text has no lines.
+/// that is longer than a line. An empty text has no lines. Letters that no font has are stood in for.
 std::vector<TextLine> TextLines(const QString &text, const QFont &font, const QPaintDevice &device,
                                 double width);
 

@@ -97,8 +97,8 @@ void RefreshPlanetTable(Horoscope &horoscope) {
 
 void FillVargas(Horoscope &horoscope) {
     const HoroscopeState &state = horoscope.state;
-    horoscope.forms.Frm_Vargas.mshVargas =
-        VargaGrid(state.positions, state.names, PreferredLanguage(state), horoscope.calculators->vargaTable);
+    horoscope.forms.Frm_Vargas = VargaCharts(state.positions, state.names, PreferredLanguage(state),
+                                             horoscope.calculators->vargaTable);
 }
 
 void FillDasa(Horoscope &horoscope) {

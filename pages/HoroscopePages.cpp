@@ -28,9 +28,9 @@ std::vector<Page> PagesOf(const HoroscopeState &state, const HoroscopeForms &for
     SetPlanetsPage(forms, setter);
     setter.OpenPage();
     SetVargasPage(state, forms, setter);
-    if (options.hasVargaCharts && HasVargaCharts(state, forms.Frm_Vargas)) {
+    if (options.hasVargaCharts && HasVargaCharts(state, forms)) {
         setter.OpenPage();
-        SetVargaCharts(state, forms.Frm_Vargas, setter);
+        SetVargaCharts(state, forms, setter);
     }
     SetBhuktiPages(forms.Frm_Dasa, setter);
     if (options.antra == AntraSection::With) {

@@ -2,6 +2,7 @@
 
 #include "drawing/PointRuler.h"
 #include "drawing/ShownText.h"
+#include "drawing/StandIns.h"
 #include "pages/PageType.h"
 
 #include <algorithm>
@@ -96,9 +97,11 @@ void PageSetter::AddRows(const std::shared_ptr<const TableDrawing> &table) {
 
 std::vector<Page> PageSetter::Finish(const QString &name) && {
     const TextStyle style = FooterStyle();
+    const QString drawable = WithStandIns(OneLine(name), style.font);
     for (std::size_t page = 0; page < pages_.size(); ++page) {
-        const QString text = FooterText(
-            name, QStringLiteral(" \u00b7 page %1 of %2").arg(page + 1).arg(pages_.size()), area_.width());
+        const QString text =
+            FooterText(drawable, QStringLiteral(" \u00b7 page %1 of %2").arg(page + 1).arg(pages_.size()),
+                       area_.width());
         const double left = area_.center().x() - WidthOf(text, style.font) / 2;
         pages_[page].emplace_back(
             TextItem{text, style.font, style.colour, {left, paper_.height() - footerBaseline}});

@@ -43,10 +43,13 @@ void SetVargasPage(const HoroscopeState &state, const HoroscopeForms &forms, Pag
         setter.Skip(betweenTables);
     }
     if (!forms.Frm_Dasa.mshDasa.rows.empty()) {
+        TableContent dasas = ContentOf(forms.Frm_Dasa.mshDasa, QStringLiteral("lllr"));
+        // As the periods on the pages that follow are headed.
+        dasas.titles[1] = QStringLiteral("Start");
+        dasas.titles[2] = QStringLiteral("End");
         const QString balance = OneLine(TextOf(state.DasaBalanceText)).simplified();
         setter.AddTable(QStringLiteral("Vimshottari Dasa"),
-                        QStringLiteral("Dasa Balance at Birth : ") + balance,
-                        ContentOf(forms.Frm_Dasa.mshDasa, QStringLiteral("lllr")));
+                        QStringLiteral("Dasa Balance at Birth : ") + balance, std::move(dasas));
     }
 }
 

@@ -28,8 +28,15 @@ constexpr double groupGap = 11;
 constexpr double glancePadding = 9;
 constexpr double leastGlanceGap = 14;
 
-/// In letters: the longest texts that are tried, until the page has room for them.
-constexpr std::array<qsizetype, 4> longestTexts{255, 120, 60, 30};
+/// In letters: the longest texts that are shown of the person's and of the owner's.
+struct Longest {
+    qsizetype person;
+    qsizetype owner;
+};
+
+/// Tried until the page has room for them. The owner's address should not suffer from a long name.
+constexpr std::array<Longest, 6> longestTexts{
+    {{255, 255}, {120, 255}, {60, 255}, {30, 255}, {30, 120}, {30, 60}}};
 
 TextStyle InvocationStyle() {
     constexpr double spacing = 106; // percent
@@ -74,11 +81,11 @@ std::array<double, 4> GlanceWidths(const GlanceEntries &entries, double room) {
     return widths;
 }
 
-/// What the first page says, its texts shortened to so many letters.
+/// What the first page says, its texts shortened where they are longer than given.
 class TitlePage {
 public:
     TitlePage(const UserDetailsForm &form, const std::string &dasaBalance, const Letterhead &letterhead,
-              qsizetype longest, double width)
+              Longest longest, double width)
         : form_(form), dasaBalance_(dasaBalance), letterhead_(letterhead), longest_(longest), width_(width) {}
 
     /// The parts of the page, from top to bottom.
@@ -98,7 +105,7 @@ private:
     QString Shown(const std::string &text) const {
         constexpr qsizetype longestOwn = 60;
         const QString whole = TextOf(text);
-        return OneLine(whole, whole.size() <= longestOwn ? longestOwn : longest_).simplified();
+        return OneLine(whole, whole.size() <= longestOwn ? longestOwn : longest_.person).simplified();
     }
 
     PageBlock Invocation() const {
@@ -115,8 +122,8 @@ private:
         PageBlock block;
         bool isName = !letterhead_.name.empty();
         for (const std::string &line : letterhead_.lines) {
-            block.AddLines(Shown(line), isName ? OwnerNameStyle() : OwnerStyle(), 0, width_,
-                           Qt::AlignHCenter);
+            block.AddLines(OneLine(TextOf(line), longest_.owner).simplified(),
+                           isName ? OwnerNameStyle() : OwnerStyle(), 0, width_, Qt::AlignHCenter);
             isName = false;
         }
         return block;
@@ -189,7 +196,7 @@ private:
     const UserDetailsForm &form_;
     const std::string &dasaBalance_;
     const Letterhead &letterhead_;
-    qsizetype longest_;
+    Longest longest_;
     double width_;
 };
 
@@ -205,10 +212,10 @@ double HeightOf(const std::vector<PageBlock> &parts) {
 
 void SetTitlePage(const UserDetailsForm &form, const std::string &dasaBalance, const Letterhead &letterhead,
                   PageSetter &setter) {
-    for (const qsizetype longest : longestTexts) {
+    for (const Longest &longest : longestTexts) {
         const auto parts = TitlePage(form, dasaBalance, letterhead, longest, setter.Area().width()).Parts();
         const double gap = (setter.RoomLeft() - HeightOf(parts)) / static_cast<double>(parts.size() - 1);
-        if (gap < leastGap && longest != longestTexts.back()) {
+        if (gap < leastGap && &longest != &longestTexts.back()) {
             continue;
         }
         const double shownGap = std::min(gap, widestGap);

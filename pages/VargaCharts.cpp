@@ -5,11 +5,9 @@
 #include "pages/PageChart.h"
 #include "pages/PageType.h"
 #include "presentation/ChartCells.h"
-#include "presentation/ChartStyles.h"
-#include "runtime/Texts.h"
+#include "report/ChartPages.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace kelvaro {
 
@@ -25,36 +23,21 @@ TextStyle TitleStyle() {
     return {SerifFont(10, Weight::Bold), lineColour, 14};
 }
 
-using Row = std::vector<std::string>;
+using Rasis = decltype(VargasForm::rasis)::value_type;
 
-ChartStyle PreferredStyle(const HoroscopeState &state) {
-    const auto *const found = std::ranges::find_if(chartStyles, [&state](const StyleOfChart &style) {
-        return SameIgnoringCase(style.word, state.preferences.ChartStyle);
-    });
-    return found == chartStyles.end() ? ChartStyle::Unknown : found->style;
-}
-
-/// The sign, 1 to 12, of a short name; 0 where it is none.
-std::int16_t SignNamed(const Names &names, const std::string &shortName) {
-    const auto found = std::ranges::find(names.RasiShortNames, shortName);
-    return found == names.RasiShortNames.end()
-               ? std::int16_t{0}
-               : static_cast<std::int16_t>(found - names.RasiShortNames.begin() + 1);
-}
-
-/// The chart of a row: the name of the varga, and the sign of each body from the Lagna on.
-PageChart ChartOf(const Row &row, ChartStyle style, const Names &names) {
-    const std::int16_t lagna = row.size() > 1 ? SignNamed(names, row[1]) : std::int16_t{0};
+/// The chart of the rasis of the bodies, of which the Lagna is the first.
+PageChart ChartOf(const Rasis &rasis, ChartStyle style, const Names &names) {
+    const std::int16_t lagna = rasis.front();
     const bool isByHouse = style == ChartStyle::North;
     PageChart chart;
     chart.content.style = style;
     chart.cellNames = CellNamesOf(style, names, lagna);
-    for (std::size_t body = 0; body + 1 < row.size(); ++body) {
-        const std::int16_t sign = SignNamed(names, row[body + 1]);
-        if (sign == 0 || (isByHouse && lagna == 0)) {
+    for (std::size_t body = 0; body < rasis.size(); ++body) {
+        const std::int16_t rasi = rasis[body];
+        if (rasi == 0 || (isByHouse && lagna == 0)) {
             continue;
         }
-        const std::int16_t cell = isByHouse ? HouseFromLagna(lagna, sign) : sign;
+        const std::int16_t cell = isByHouse ? HouseFromLagna(lagna, rasi) : rasi;
         const Body which = bodyFields.at(body).body;
         chart.content.cells.at(static_cast<std::size_t>(cell) - 1)
             .entries.push_back({OneLine(TextOf(ShortNameOf(names, which))),
@@ -79,37 +62,38 @@ ChartSetting SettingOf(double width, double height) {
     return setting;
 }
 
-void AddTitledChart(const Row &row, ChartStyle style, const Names &names, const ChartSetting &setting,
+void AddTitledChart(const std::string &varga, const PageChart &chart, const ChartSetting &setting,
                     double indent, PageSetter &setter) {
     const double top = setter.Top();
     PageBlock title;
-    title.AddLines(OneLine(TextOf(row.front())), TitleStyle(), 0, setting.side, Qt::AlignHCenter);
+    title.AddLines(OneLine(TextOf(varga)), TitleStyle(), 0, setting.side, Qt::AlignHCenter);
     setter.AddBlock(title, indent);
-    AddChart(ChartOf(row, style, names), setting, rowGap, indent, setter);
+    AddChart(chart, setting, rowGap, indent, setter);
     setter.Skip(top - setter.Top());
 }
 
 } // namespace
 
-bool HasVargaCharts(const HoroscopeState &state, const VargasForm &form) {
-    return PreferredStyle(state) != ChartStyle::Unknown && !form.mshVargas.rows.empty();
+bool HasVargaCharts(const HoroscopeState &state, const HoroscopeForms &forms) {
+    return PreferredStyleOf(state, forms.frm_rasi) != nullptr && !forms.Frm_Vargas.rasis.empty();
 }
 
-void SetVargaCharts(const HoroscopeState &state, const VargasForm &form, PageSetter &setter) {
-    const ChartStyle style = PreferredStyle(state);
+void SetVargaCharts(const HoroscopeState &state, const HoroscopeForms &forms, PageSetter &setter) {
+    const ChartStyle style = PreferredStyleOf(state, forms.frm_rasi)->style;
     const double width =
         (setter.Area().width() - static_cast<double>(columns - 1) * columnGap) / static_cast<double>(columns);
     const double height = setter.RoomLeft() / static_cast<double>(rows);
     const ChartSetting setting = SettingOf(width, height);
     const double pitch = (setter.Area().width() - setting.side) / static_cast<double>(columns - 1);
-    for (std::size_t chart = 0; chart < form.mshVargas.rows.size(); ++chart) {
+    const VargasForm &form = forms.Frm_Vargas;
+    for (std::size_t chart = 0; chart < form.rasis.size(); ++chart) {
         if (chart > 0 && chart % (columns * rows) == 0) {
             setter.OpenPage();
         } else if (chart > 0 && chart % columns == 0) {
             setter.Skip(height);
         }
-        AddTitledChart(form.mshVargas.rows[chart], style, state.names, setting,
-                       static_cast<double>(chart % columns) * pitch, setter);
+        AddTitledChart(form.mshVargas.rows.at(chart).front(), ChartOf(form.rasis[chart], style, state.names),
+                       setting, static_cast<double>(chart % columns) * pitch, setter);
     }
 }
 

@@ -6,11 +6,11 @@
 
 namespace kelvaro {
 
-/// Sets a small chart for each row of the vargas, in the style of the preference, on the page that is open
-/// and the one after it. Adds nothing where the vargas were never filled or the preference is no style.
-void SetVargaCharts(const HoroscopeState &state, const VargasForm &form, PageSetter &setter);
+/// Whether there are charts of the vargas: they were filled, and the Rasi chart shows the preferred style.
+bool HasVargaCharts(const HoroscopeState &state, const HoroscopeForms &forms);
 
-/// Whether there are such charts.
-bool HasVargaCharts(const HoroscopeState &state, const VargasForm &form);
+/// Sets a small chart for each row of the vargas, in the style of the preference, on the page that is open
+/// and the one after it. There must be such charts.
+void SetVargaCharts(const HoroscopeState &state, const HoroscopeForms &forms, PageSetter &setter);
 
 } // namespace kelvaro

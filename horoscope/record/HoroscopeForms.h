@@ -5,6 +5,10 @@
 #include "horoscope/record/TextGrid.h"
 #include "horoscope/record/UserDetailsForm.h"
 
+#include <array>
+#include <cstdint>
+#include <vector>
+
 namespace kelvaro {
 
 struct PlanetPositionsForm {
@@ -19,6 +23,9 @@ struct BhavaFeaturesForm {
 
 struct VargasForm {
     TextGrid mshVargas;
+    /// What the cells of each row name: the rasis of the bodies from Lagna to Ketu, 1 to 12, and 0 where a
+    /// cell is empty.
+    std::vector<std::array<std::int16_t, 10>> rasis;
 };
 
 struct AshtakavargaForm {

@@ -162,7 +162,7 @@ void PrintView::Refresh(const Horoscope &horoscope) {
     heading_->Show(horoscope.state);
     report_.clear();
     Te_->Show(report_);
-    outcome_->clear();
+    TellNothing();
     CoPrt_->setEnabled(true);
     PagesAreStale();
 }
@@ -206,8 +206,7 @@ QString PrintView::ChartName() const {
 }
 
 void PrintView::Print() {
-    outcome_->clear();
-    outcome_->setToolTip({});
+    TellNothing();
     Guarded(this, [this] {
         if (IsPdf()) {
             SavePdf();
@@ -223,6 +222,10 @@ void PrintView::Print() {
     });
 }
 
+QPageSize::PageSizeId PrintView::Paper() const {
+    return static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt());
+}
+
 void PrintView::Compose() {
     report_ = ComposeReport(horoscope_->state, horoscope_->forms, horoscope_->connection, Antra());
     Te_->Show(report_);
@@ -234,6 +237,11 @@ void PrintView::SaveAs(const ReportFileKind &kind) {
         WriteWholeFile(name, QByteArray::fromStdString(kind.content(report_)));
         TellFile(name);
     }
+}
+
+void PrintView::TellNothing() {
+    outcome_->clear();
+    outcome_->setToolTip({});
 }
 
 void PrintView::TellFile(const QString &name) {
@@ -276,8 +284,7 @@ void PrintView::PagesAreStale() {
 
 void PrintView::ComposeAllPages() {
     composing_.stop();
-    const PageOptions options{Antra(), vargaCharts_->isChecked(),
-                              static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt())};
+    const PageOptions options{Antra(), vargaCharts_->isChecked(), Paper()};
     pages_ = std::make_shared<const HoroscopePages>(
         ComposePages(horoscope_->state, horoscope_->forms, horoscope_->connection, options));
     preview_->Show(pages_);
@@ -293,11 +300,9 @@ void PrintView::SavePdf() {
 }
 
 void PrintView::PrintPages() {
-    outcome_->clear();
-    outcome_->setToolTip({});
+    TellNothing();
     ComposeAllPages();
-    Tell(PrintThroughDialog(this, JobOf(pages_), ChartName(), PaperUse::WholePaper,
-                            QPageSize(static_cast<QPageSize::PageSizeId>(paper_->currentData().toInt()))));
+    Tell(PrintThroughDialog(this, JobOf(pages_), ChartName(), PaperUse::WholePaper, QPageSize(Paper())));
 }
 
 } // namespace kelvaro

@@ -44,6 +44,7 @@ private:
     void PlaceParts();
     void LayOut();
     AntraSection Antra() const;
+    QPageSize::PageSizeId Paper() const;
     bool IsPdf() const { return Op6_->isChecked(); }
     QString ChartName() const;
 
@@ -52,6 +53,7 @@ private:
     void SaveAs(const ReportFileKind &kind);
     void Tell(const std::optional<PrintOutcome> &outcome);
     void TellFile(const QString &name);
+    void TellNothing();
 
     void ChooseOutput();
     void PagesAreStale();

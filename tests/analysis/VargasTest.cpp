@@ -91,15 +91,15 @@ protected:
             positions.*bodyFields[i].longitude = longitudes[i];
         }
         names_ = *NamesIn(language);
-        grid_ = VargaGrid(positions, names_, language, table_);
+        form_ = VargaCharts(positions, names_, language, table_);
     }
 
     const std::string &Cell(std::size_t row, std::size_t column) const {
-        return grid_.rows.at(row).at(column);
+        return form_.mshVargas.rows.at(row).at(column);
     }
 
     Names names_;
-    TextGrid grid_;
+    VargasForm form_;
     store::Connection connection_;
     store::VargaTable table_{connection_};
 };
@@ -123,6 +123,7 @@ TEST_F(VargasTest, AllChartsFollowTheirRules) {
                 const auto expected = static_cast<std::size_t>(rules[row].sign(place) % 12);
                 ASSERT_EQ(Cell(row, i + 1), names_.RasiShortNames[expected])
                     << rules[row].label << " at " << longitudes[i];
+                ASSERT_EQ(form_.rasis.at(row).at(i), expected + 1);
             }
         }
     }
@@ -154,11 +155,11 @@ TEST_F(VargasTest, ShortSizesRunAhead) {
 TEST_F(VargasTest, SpeaksTheLanguageInForce) {
     Fill({});
     EXPECT_EQ(
-        grid_.header,
+        form_.mshVargas.header,
         "  Chart                  | Asc  | Sun  | Moo  | Mar  | Mer  | Jup  | Ven  | Sat  | Rah  | Ket  ");
     Fill({}, Language::Sanskrit);
     EXPECT_EQ(
-        grid_.header,
+        form_.mshVargas.header,
         "  Chart                  | Lag  | Sur  | Cha  | Kuj  | Bud  | Gur  | Suk  | San  | Rah  | Ket  ");
     EXPECT_EQ(Cell(2, 1), "Sim");
     EXPECT_EQ(RasiShortFromName(names_, "Vrischika"), "Vri");
@@ -172,6 +173,8 @@ TEST_F(VargasTest, ABodyThatTheTableDoesNotKnowHasAnEmptyCell) {
     for (std::size_t column = 0; column < hora.size(); ++column) {
         EXPECT_EQ(Cell(2, column), hora[column]);
     }
+    EXPECT_EQ(form_.rasis[2][0], 0);
+    EXPECT_EQ(form_.rasis[2][1], 4);
     EXPECT_EQ(Cell(3, 1), "Ari");
 }
 
@@ -181,16 +184,16 @@ TEST_F(VargasTest, ARowIsFoundByItsNameInAnyCase) {
     at31.longitudes.fill(31);
     at31.rasis.fill(1);
     const auto fillRow = [&](const char *name, VargaSource source) {
-        FillVargaRow(at31, name, 30, source, names_, table_, grid_);
+        FillVargaRow(at31, name, 30, source, names_, table_, form_);
     };
     fillRow(" Navamsa ", VargaSource::Computed);
     EXPECT_EQ(Cell(1, 10), "Tau");
     fillRow("hORA", VargaSource::Table);
     EXPECT_EQ(Cell(2, 10), "Leo") << "one degree of the rasi given, Aries";
-    const auto before = grid_.rows;
+    const auto before = form_.mshVargas.rows;
     fillRow("Rasi", VargaSource::Computed);
     fillRow("", VargaSource::Computed);
-    EXPECT_EQ(grid_.rows, before);
+    EXPECT_EQ(form_.mshVargas.rows, before);
 }
 
 } // namespace

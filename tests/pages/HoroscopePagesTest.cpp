@@ -150,6 +150,23 @@ TEST_F(HoroscopePagesTest, StayInsideTheMarginsAndAreLegible) {
     }
 }
 
+TEST_F(HoroscopePagesTest, LongTextsOfThePersonGiveWayToTheOwners) {
+    const std::string address =
+        "12 Tank Bund Road, behind the Old Observatory, third house on the left with a blue gate";
+    SetLetterhead(address);
+    std::string name;
+    while (name.size() < 250) {
+        name += "Venkata ";
+    }
+    horoscope.state.birth.ChartName = name;
+    horoscope.state.birth.BirthCity = name;
+    Calculate();
+    const QString title = AllOf(PaintedPages(Composed()).front());
+    EXPECT_GE(title.count(QString::fromStdString(address)), 3);
+    EXPECT_TRUE(title.contains(QStringLiteral("Venkata Venkata")));
+    EXPECT_TRUE(title.contains(u'\u2026'));
+}
+
 TEST_F(HoroscopePagesTest, ACrowdedSignShowsAllItsBodies) {
     SetBirth(MomentOf({1962, 2, 4}, {17, 30, 0}));
     for (const char *style : {"South", "North", "East"}) {

@@ -14,6 +14,11 @@ using namespace kelvaro;
 
 namespace {
 
+/// Of its natural width.
+TableDrawing DrawingOfGrid(const TextGrid &grid, const QString &alignments) {
+    return TableDrawing(ContentOf(grid, alignments));
+}
+
 TextGrid Periods() {
     TextGrid grid;
     grid.header = "Lord   |  From  | Sub  Lord  |Age ";

@@ -136,6 +136,32 @@ TEST_F(HoroscopePdfTest, SaysWhatItCannotWrite) {
     EXPECT_NE(Run("'" HOROSCOPE_PDF "' --unknown", ""), 0);
 }
 
+TEST_F(HoroscopePdfTest, SquaresStandForLettersWithoutAFont) {
+    // No fonts but those that come with the program.
+    std::ofstream(folder_ / "fonts.conf") << "<?xml version='1.0'?><!DOCTYPE fontconfig SYSTEM 'fonts.dtd'>"
+                                             "<fontconfig><cachedir>"
+                                          << (folder_ / "cache").string() << "</cachedir></fontconfig>";
+    const std::string tool =
+        "env FONTCONFIG_FILE='" + (folder_ / "fonts.conf").string() + "' '" HOROSCOPE_PDF "' '";
+    const std::string births =
+        LinesOf({Birth({{"ChartName", "Devi \u0926\u0947\u0935\u0940"}, {"BirthCity", "\u3e3e"}}), Birth()}) +
+        "no birth\n";
+    EXPECT_NE(Run(tool + Pages().string() + "'", births), 0);
+    const std::vector<fs::path> files = Documents();
+    ASSERT_EQ(files.size(), 2U);
+    const std::vector<Words> pages = PagesOf(files.front());
+    for (std::size_t page = 0; page < pages.size(); ++page) {
+        EXPECT_TRUE(
+            HasInOrder(pages[page], WordsOf("Devi \u25a1\u25a1 \u00b7 page " + std::to_string(page + 1))));
+    }
+    const std::string errors = ContentOf(Err());
+    EXPECT_TRUE(
+        errors.starts_with("horoscope-pdf: line 1: no font of this machine has all letters of \"Devi"));
+    EXPECT_NE(errors.find("\nhoroscope-pdf: line 1: no font of this machine has all letters of \"\u3e3e\""),
+              std::string::npos);
+    EXPECT_EQ(std::ranges::count(errors, '\n'), 3) << errors;
+}
+
 /// Births of four centuries in every style, language and house system.
 std::vector<json> ManyBirths(std::size_t count) {
     std::mt19937 random(50);

@@ -1,7 +1,11 @@
 // Reads births as JSON lines and writes the drawn horoscope of each as a PDF file into a folder. The name of
-// each file is told on standard output, a birth without a horoscope on standard error; the rest goes on.
+// each file is told on standard output, a birth without a horoscope on standard error; the rest goes on. So
+// is a name in letters that the machine has no font for.
 
 #include "drawing/FileName.h"
+#include "drawing/HouseFonts.h"
+#include "drawing/ShownText.h"
+#include "drawing/StandIns.h"
 #include "drawing/TextOf.h"
 #include "drawing/WholeFile.h"
 #include "horoscope/Horoscope.h"
@@ -58,6 +62,29 @@ QString FileOf(int line, const QString &chartName, const QString &folder) {
         QStringLiteral("%1 %2.pdf").arg(line, 4, 10, QLatin1Char('0')).arg(kelvaro::FileNameOf(chartName)));
 }
 
+/// Tells what Qt warns of, but for what it says each time that it meets letters without a font, which is told
+/// in better words, and where it looks for the folders of a desktop.
+void TellWarning(QtMsgType /*type*/, const QMessageLogContext & /*where*/, const QString &message) {
+    const QString text = message.trimmed();
+    if (!text.startsWith(QLatin1String("OpenType support missing")) &&
+        !text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR"))) {
+        std::cerr << "horoscope-pdf: " << text.toStdString() << '\n';
+    }
+}
+
+/// Those of the person's texts that have letters without a font.
+QStringList TextsWithStandIns(const kelvaro::BirthDetails &birth) {
+    constexpr double anySize = 10;
+    QStringList texts;
+    for (const std::string &text : {birth.ChartName, birth.BirthCity, birth.BirthCountry}) {
+        const QString line = kelvaro::OneLine(kelvaro::TextOf(text));
+        if (kelvaro::WithStandIns(line, kelvaro::SerifFont(anySize)) != line) {
+            texts << line;
+        }
+    }
+    return texts;
+}
+
 /// Writes the pages of the horoscope and gives the name of their file.
 QString WritePages(int line, const kelvaro::Horoscope &horoscope, const Wanted &wanted) {
     const auto goOn = [](int /*done*/, int /*count*/) { return true; };
@@ -74,19 +101,24 @@ bool WriteAll(const Wanted &wanted, std::istream &births) {
     bool isComplete = true;
     const auto tell = [&](const std::string &cause) {
         std::cerr << "horoscope-pdf: line " << number << ": " << cause << '\n';
-        isComplete = false;
     };
     const auto answer = [&](std::string_view line, kelvaro::Horoscope &horoscope,
                             const kelvaro::RunStatus &status) {
         ++number;
         if (const auto cause = kelvaro::ComputeBirth(line, horoscope, status)) {
             tell(*cause);
+            isComplete = false;
             return true;
+        }
+        for (const QString &text : TextsWithStandIns(horoscope.state.birth)) {
+            tell("no font of this machine has all letters of \"" + text.toStdString() +
+                 "\"; white squares stand for those missing");
         }
         try {
             std::cout << WritePages(number, horoscope, wanted).toStdString() << '\n' << std::flush;
         } catch (const kelvaro::RuntimeError &error) {
             tell(error.what());
+            isComplete = false;
         }
         return true;
     };
@@ -100,6 +132,7 @@ bool WriteAll(const Wanted &wanted, std::istream &births) {
 int main(int argc, char **argv) {
     // Pages are drawn without a display; one that is there is left alone.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qInstallMessageHandler(TellWarning);
     const QGuiApplication application(argc, argv);
     const auto wanted = WantedBy(QCoreApplication::arguments().mid(1));
     if (!wanted) {
