@@ -43,8 +43,7 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Not seen by the look at the libraries: the plugin that draws the icon of the window, strict tables, and the records of
-# time zones.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6svg6, libsqlite3-0 (>= 3.37), tzdata")
+# Not seen by the look at the libraries: strict tables, and the records of time zones.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsqlite3-0 (>= 3.37), tzdata")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, hicolor-icon-theme, qt6-wayland")
 include(CPack)

@@ -1,8 +1,9 @@
 #include "drawing/Picture.h"
 
+#include "drawing/SvgCanvas.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QSvgGenerator>
 
 #include <algorithm>
 
@@ -17,17 +18,6 @@ constexpr int svgUnitsPerInch = 720; // whole units are fine enough for the size
 
 QSize SizeIn(const Picture &picture, int dotsPerInch) {
     return (picture.size * dotsPerInch / pointsPerInch).toSize().expandedTo({1, 1});
-}
-
-/// The generator writes its title as it stands, and characters that no text has would spoil the file.
-QString TitleText(const QString &name) {
-    QString text;
-    for (const QChar each : name) {
-        if (!each.isNonCharacter() && !each.isSurrogate() && each.category() != QChar::Other_Control) {
-            text += each;
-        }
-    }
-    return text.toHtmlEscaped();
 }
 
 } // namespace
@@ -50,20 +40,12 @@ QByteArray PngOf(const Picture &picture) {
 }
 
 QByteArray SvgOf(const Picture &picture) {
-    QBuffer file;
-    file.open(QIODevice::WriteOnly);
-    QSvgGenerator svg;
-    svg.setOutputDevice(&file);
-    svg.setResolution(svgUnitsPerInch);
-    svg.setSize(SizeIn(picture, svgUnitsPerInch));
-    svg.setViewBox(QRect(QPoint(), svg.size()));
-    svg.setTitle(TitleText(picture.name));
-    svg.setDescription(QCoreApplication::applicationName());
-    QPainter painter(&svg);
-    painter.fillRect(svg.viewBox(), Qt::white);
+    SvgCanvas canvas(SizeIn(picture, svgUnitsPerInch), svgUnitsPerInch);
+    QPainter painter(&canvas);
+    painter.fillRect(QRect(0, 0, canvas.width(), canvas.height()), Qt::white);
     picture.paint(painter);
     painter.end();
-    return file.data();
+    return canvas.File(picture.name, QCoreApplication::applicationName());
 }
 
 } // namespace kelvaro

@@ -5,8 +5,8 @@ build_packages=(
     libhowardhinnant-date-dev tzdata
 )
 desktop_packages=(
-    qt6-base-dev libqt6svg6-dev libgl-dev
-    libqt6gui6 libqt6svg6 qt6-qpa-plugins fonts-dejavu-core fonts-liberation
+    qt6-base-dev libgl-dev
+    libqt6gui6 qt6-qpa-plugins fonts-dejavu-core fonts-liberation
 )
 display_packages=(
     xvfb xauth
@@ -18,7 +18,7 @@ tool_packages=(
     nlohmann-json3-dev
 )
 test_packages=(
-    libgtest-dev poppler-utils
+    libgtest-dev libqt6svg6-dev poppler-utils
 )
 benchmark_packages=(
     libbenchmark-dev

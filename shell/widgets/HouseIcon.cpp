@@ -1,5 +1,7 @@
 #include "shell/widgets/HouseIcon.h"
 
+#include "drawing/IconDrawing.h"
+
 #include <QGuiApplication>
 #include <QIconEngine>
 #include <QPainter>
@@ -8,6 +10,7 @@
 #include <QPushButton>
 
 #include <array>
+#include <memory>
 
 /// The drawings lie in a static library, whose resources the linker leaves out unless they are asked for. The
 /// macro wants to stand outside of all namespaces.
@@ -23,7 +26,8 @@ namespace {
 /// theme.
 class InkEngine : public QIconEngine {
 public:
-    InkEngine(const QString &file, const QColor &ink) : file_(file), drawing_(file), ink_(ink) {}
+    InkEngine(const QString &file, const QColor &ink)
+        : file_(file), drawing_(std::make_shared<const IconDrawing>(file)), ink_(ink) {}
 
     void paint(QPainter *painter, const QRect &area, QIcon::Mode mode, QIcon::State state) override {
         const double ratio = painter->device()->devicePixelRatioF();
@@ -40,7 +44,7 @@ public:
                                 .arg(size.height());
         QPixmap drawn;
         if (!QPixmapCache::find(key, &drawn)) {
-            drawn = drawing_.pixmap(size, 1.0);
+            drawn = drawing_->At(size);
             QPainter painter(&drawn);
             painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
             painter.fillRect(drawn.rect(), ink);
@@ -50,7 +54,6 @@ public:
         return drawn;
     }
 
-    bool isNull() override { return drawing_.isNull(); }
     QIconEngine *clone() const override { return new InkEngine(*this); }
 
 private:
@@ -66,7 +69,7 @@ private:
     }
 
     QString file_;
-    QIcon drawing_;
+    std::shared_ptr<const IconDrawing> drawing_;
     QColor ink_; ///< not valid where it is the theme's
 };
 

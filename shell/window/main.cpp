@@ -1,3 +1,4 @@
+#include "drawing/IconDrawing.h"
 #include "shell/window/MDILight.h"
 
 #include <QApplication>
@@ -9,11 +10,11 @@ namespace {
 
 /// The icon of the program, in its plainer drawing where it is small.
 QIcon ProgramIcon() {
-    const QIcon small(QStringLiteral(":/kelvaro-basic-small.svg"));
-    const QIcon large(QStringLiteral(":/kelvaro-basic.svg"));
+    const kelvaro::IconDrawing small(QStringLiteral(":/kelvaro-basic-small.svg"));
+    const kelvaro::IconDrawing large(QStringLiteral(":/kelvaro-basic.svg"));
     QIcon icon;
     for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        icon.addPixmap((size > 32 ? large : small).pixmap(QSize(size, size), 1.0));
+        icon.addPixmap((size > 32 ? large : small).At({size, size}));
     }
     return icon;
 }
