@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstdint>
 #include <cstring>
 #include <optional>
 
@@ -16,13 +15,13 @@ namespace kelvaro {
 
 namespace {
 
-constexpr std::int64_t partsOfUnit = 100;
+constexpr qint64 partsOfUnit = 100;
 
 /// A point in parts of a unit. Each step leads from one such point to another, so that what is rounded does
 /// not add up.
 struct PartPoint {
-    std::int64_t x = 0;
-    std::int64_t y = 0;
+    qint64 x = 0;
+    qint64 y = 0;
 
     bool operator==(const PartPoint &other) const = default;
 };
@@ -113,18 +112,18 @@ private:
         Number(to.y - current_.y);
     }
 
-    void Number(std::int64_t parts) {
+    void Number(qint64 parts) {
         if (parts < 0) {
             data_ += '-';
         } else if (std::strchr("mhvlc", data_.back()) == nullptr) {
             data_ += ' ';
         }
-        const std::int64_t size = std::abs(parts);
+        const qint64 size = std::abs(parts);
         if (size >= partsOfUnit || size == 0) {
-            data_ += QByteArray::number(static_cast<qlonglong>(size / partsOfUnit));
+            data_ += QByteArray::number(size / partsOfUnit);
         }
         if (size % partsOfUnit != 0) {
-            QByteArray digits = QByteArray::number(static_cast<qlonglong>(partsOfUnit + size % partsOfUnit));
+            QByteArray digits = QByteArray::number(partsOfUnit + size % partsOfUnit);
             if (digits.endsWith('0')) {
                 digits.chop(1);
             }
