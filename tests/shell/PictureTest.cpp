@@ -6,6 +6,7 @@
 #include "shell/widgets/TextGridView.h"
 #include "shell/window/HoroscopeViews.h"
 #include "store/database/Connection.h"
+#include "tests/drawing/Likeness.h"
 #include "tests/shell/MessageBoxAnswer.h"
 
 #include <QApplication>
@@ -56,28 +57,6 @@ QRect InkOf(const QImage &image) {
     return ink;
 }
 
-QImage ImageOfSvg(const QByteArray &svg, QSize size) {
-    QSvgRenderer renderer(svg);
-    QImage image(size, QImage::Format_RGB32);
-    QPainter painter(&image);
-    renderer.render(&painter);
-    return image;
-}
-
-/// How far two images are from one another, from 0 to 1, at the spot where they differ most.
-double Difference(const QImage &a, const QImage &b) {
-    const QSize small(a.width() / spot, a.height() / spot);
-    const QImage one = a.scaled(small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    const QImage other = b.scaled(small, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    int most = 0;
-    for (int y = 0; y < small.height(); ++y) {
-        for (int x = 0; x < small.width(); ++x) {
-            most = std::max(most, std::abs(qGray(one.pixel(x, y)) - qGray(other.pixel(x, y))));
-        }
-    }
-    return most / 255.0;
-}
-
 /// The size that an SVG file states, in millimetres; an invalid one where it is not well formed, or its units
 /// are not as high as they are wide.
 QSizeF SizeOfSvg(const QByteArray &svg) {
@@ -114,7 +93,8 @@ void ExpectPicture(const QImage &image, const QByteArray &svg) {
     QVERIFY(!svg.contains("<text"));
     const QSizeF apart = SizeOfSvg(svg) - QSizeF(image.size()) / dotsPerMetre * 1000;
     QVERIFY(std::abs(apart.width()) < oneDot && std::abs(apart.height()) < oneDot);
-    QVERIFY(Difference(image, ImageOfSvg(svg, image.size())) < likeness);
+    const QImage drawn = ImageOfSvg(svg, image.size(), Qt::white);
+    QVERIFY(Difference(InSpots(image, spot), InSpots(drawn, spot)) < likeness);
 }
 
 QByteArray ContentOfFile(const QString &name) {
