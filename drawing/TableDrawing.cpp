@@ -2,6 +2,7 @@
 
 #include "drawing/ChartColours.h"
 #include "drawing/PointRuler.h"
+#include "drawing/PutRule.h"
 #include "drawing/PutText.h"
 
 #include <QPen>
@@ -173,7 +174,7 @@ double TableDrawing::HeightOf(std::size_t first, std::size_t last) const {
 
 /// Below a point.
 void TableDrawing::PaintRule(QPainter &painter, QPointF left, double thickness) const {
-    painter.fillRect(QRectF(left, QSizeF(width_, thickness) * DotsPerPoint(painter)), lineColour);
+    PutRule(painter, QRectF(left, QSizeF(width_, thickness) * DotsPerPoint(painter)), lineColour);
 }
 
 /// Returns the height of what it has painted.

@@ -2,6 +2,7 @@
 
 #include "drawing/ChartColours.h"
 #include "drawing/PointRuler.h"
+#include "drawing/PutRule.h"
 #include "drawing/PutText.h"
 
 namespace kelvaro {
@@ -17,7 +18,7 @@ public:
         PutText(painter_, item.baseline * dots_, item.text, item.font);
     }
 
-    void operator()(const RuleItem &item) const { painter_.fillRect(OnDevice(item.area), lineColour); }
+    void operator()(const RuleItem &item) const { PutRule(painter_, OnDevice(item.area), lineColour); }
 
     void operator()(const ChartItem &item) const {
         item.chart->Paint(painter_, OnDevice(item.square), item.lineWidth * dots_);

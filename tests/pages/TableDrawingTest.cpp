@@ -1,14 +1,17 @@
 #include "drawing/TableDrawing.h"
 
+#include "drawing/ChartColours.h"
 #include "drawing/HouseFonts.h"
 #include "drawing/PointRuler.h"
 #include "tests/pages/PaintedText.h"
 
 #include <QFontInfo>
+#include <QImage>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace kelvaro;
 
@@ -132,6 +135,32 @@ TEST(TableDrawing, PartsRepeatTheTitles) {
     EXPECT_EQ(LettersOf(texts).toStdString(), "LordFromSubLordAgeMars31/Jul/1977Ketu");
     ExpectInside(texts, {table.Width(), table.HeightOf(4, 5)});
     EXPECT_LT(table.HeightOf(0, 2) + table.HeightOf(2, 5), table.Size().height() + table.HeightOf(0, 0));
+}
+
+TEST(TableDrawing, NoRuleIsLostBetweenTheDotsOfAScreen) {
+    const TableDrawing table = DrawingOfGrid(Periods(), QStringLiteral("lrlr"));
+    for (int step = 0; step < 60; ++step) {
+        const double zoom = 0.25 + step * 0.0131;
+        QImage image(600, 200, QImage::Format_RGB32);
+        image.fill(Qt::white);
+        QPainter painter(&image);
+        painter.scale(zoom, zoom);
+        table.PaintRows(painter, {4, 4}, 0, table.RowCount());
+        painter.end();
+        const int left = static_cast<int>(std::ceil(4 * zoom));
+        const auto isRule = [&](int y) {
+            int x = left;
+            while (x < image.width() && image.pixelColor(x, y) == lineColour) {
+                ++x;
+            }
+            return x > left + table.Width() * zoom / 2; // no letter is so wide
+        };
+        int rules = 0;
+        for (int y = 1; y < image.height(); ++y) {
+            rules += isRule(y) && !isRule(y - 1) ? 1 : 0;
+        }
+        EXPECT_EQ(rules, 3) << zoom;
+    }
 }
 
 TEST(TableDrawing, ATableWithoutRowsIsItsTitles) {
