@@ -6,6 +6,7 @@
 #include <QTextLayout>
 
 #include <algorithm>
+#include <array>
 
 namespace kelvaro {
 
@@ -18,6 +19,12 @@ bool IsDoubtful(QChar each) {
     return each.unicode() >= firstDoubtful;
 }
 
+/// Whether the font has drawings of its letters, not only pictures made of dots.
+bool HasOutlines(const QRawFont &font) {
+    return std::ranges::any_of(std::array{"glyf", "CFF ", "CFF2"},
+                               [&font](const char *table) { return !font.fontTable(table).isEmpty(); });
+}
+
 /// Whether a font of the machine has the letter. Letters of a script without a font are set in one that has
 /// no table of letters, single letters that are missing as the first glyph of another font.
 bool HasGlyph(const QString &letter, const QFont &font) {
@@ -27,7 +34,8 @@ bool HasGlyph(const QString &letter, const QFont &font) {
     layout.endLayout();
     const QList<QGlyphRun> runs = layout.glyphRuns();
     return std::ranges::all_of(runs, [](const QGlyphRun &run) {
-        return !run.rawFont().fontTable("cmap").isEmpty() && !run.glyphIndexes().contains(0U);
+        const QRawFont used = run.rawFont();
+        return !used.fontTable("cmap").isEmpty() && HasOutlines(used) && !run.glyphIndexes().contains(0U);
     });
 }
 
