@@ -54,7 +54,9 @@ HoroscopePages ComposePages(const HoroscopeState &state, const HoroscopeForms &f
     const QString author = letterhead.name.empty() ? QStringLiteral("Kelvaro Basic")
                                                    : OneLine(TextOf(letterhead.name)).simplified();
     const QString name = OneLine(TextOf(state.birth.ChartName)).simplified();
-    return {QPageSize(options.paper).size(QPageSize::Point), QStringLiteral("Horoscope of ") + name, author,
+    const QString title =
+        name.isEmpty() ? QStringLiteral("Horoscope") : QStringLiteral("Horoscope of ") + name;
+    return {QPageSize(options.paper).size(QPageSize::Point), title, author,
             PagesOf(state, forms, letterhead, options)};
 }
 

@@ -16,7 +16,11 @@ constexpr double aboveNote = 4;
 constexpr std::size_t leastRows = 3; // of a table at the foot of a page
 
 /// The text of a footer with as many letters of the name as fit into a line.
-QString FooterText(const QString &name, const QString &rest, double width) {
+QString FooterText(const QString &name, const QString &page, double width) {
+    if (name.trimmed().isEmpty()) {
+        return page;
+    }
+    const QString rest = QStringLiteral(" \u00b7 ") + page;
     constexpr qsizetype longest = 60;
     constexpr double step = 0.9;
     const QFont font = FooterStyle().font;
@@ -99,9 +103,8 @@ std::vector<Page> PageSetter::Finish(const QString &name) && {
     const TextStyle style = FooterStyle();
     const QString drawable = WithStandIns(OneLine(name), style.font);
     for (std::size_t page = 0; page < pages_.size(); ++page) {
-        const QString text =
-            FooterText(drawable, QStringLiteral(" \u00b7 page %1 of %2").arg(page + 1).arg(pages_.size()),
-                       area_.width());
+        const QString text = FooterText(
+            drawable, QStringLiteral("page %1 of %2").arg(page + 1).arg(pages_.size()), area_.width());
         const double left = area_.center().x() - WidthOf(text, style.font) / 2;
         pages_[page].emplace_back(
             TextItem{text, style.font, style.colour, {left, paper_.height() - footerBaseline}});

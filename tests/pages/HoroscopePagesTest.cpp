@@ -110,6 +110,9 @@ TEST_F(HoroscopePagesTest, HaveTheOrderOfTheReport) {
     EXPECT_EQ(pages.Author().toStdString(), "Kelvaro Basic");
     SetLetterhead("Raghunatha Sharma");
     EXPECT_EQ(Composed().Author().toStdString(), "Raghunatha Sharma");
+    horoscope.state.birth.ChartName = " ";
+    EXPECT_EQ(Composed().Title().toStdString(), "Horoscope");
+    EXPECT_EQ(PaintedPages(Composed()).front().back().text.toStdString(), "page 1 of 6");
 }
 
 TEST_F(HoroscopePagesTest, StayInsideTheMarginsAndAreLegible) {
