@@ -327,7 +327,7 @@ void DasaView::ShowAntraSection(int section) {
     LayOut();
 }
 
-/// A picture of a list says which section it is of.
+/// A list that leaves the program says which section it is of.
 void DasaView::SetHeading(TextGridView &list, const QString &section) {
     ChartHeading heading = headingOfLists_;
     heading.title = list.accessibleName();
@@ -335,6 +335,7 @@ void DasaView::SetHeading(TextGridView &list, const QString &section) {
         heading.title += QStringLiteral(": ") + section;
     }
     list.SetHeading(heading);
+    list.SetCopiedTitle(section);
 }
 
 void DasaView::resizeEvent(QResizeEvent *event) {

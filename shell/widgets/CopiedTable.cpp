@@ -20,9 +20,12 @@ QString AlignmentIn(const QAbstractItemModel &table, int column) {
                                                  : QStringLiteral("left");
 }
 
-QString HtmlOf(const QList<Line> &lines, const QStringList &alignments) {
-    QString html =
-        QStringLiteral("<meta charset=\"utf-8\"><table border=\"1\" cellspacing=\"0\" cellpadding=\"3\">\n");
+QString HtmlOf(const QString &title, const QList<Line> &lines, const QStringList &alignments) {
+    QString html = QStringLiteral("<meta charset=\"utf-8\">");
+    if (!title.isEmpty()) {
+        html += QStringLiteral("<p>%1</p>\n").arg(title.toHtmlEscaped());
+    }
+    html += QStringLiteral("<table border=\"1\" cellspacing=\"0\" cellpadding=\"3\">\n");
     for (const Line &line : lines) {
         html += QStringLiteral("<tr>");
         for (qsizetype column = 0; column < line.texts.size(); ++column) {
@@ -37,7 +40,8 @@ QString HtmlOf(const QList<Line> &lines, const QStringList &alignments) {
 
 } // namespace
 
-std::unique_ptr<QMimeData> TableOf(const QAbstractItemModel &table, const QModelIndexList &cells) {
+std::unique_ptr<QMimeData> TableOf(const QAbstractItemModel &table, const QModelIndexList &cells,
+                                   const QString &title) {
     const std::set<QModelIndex> wanted(cells.begin(), cells.end());
     std::set<int> rows;
     std::set<int> columns{0};
@@ -61,12 +65,15 @@ std::unique_ptr<QMimeData> TableOf(const QAbstractItemModel &table, const QModel
         lines << line;
     }
     QStringList texts;
+    if (!title.isEmpty()) {
+        texts << title;
+    }
     for (const Line &line : lines) {
         texts << line.texts.join(u'\t');
     }
     auto mime = std::make_unique<QMimeData>();
     mime->setText(texts.join(u'\n'));
-    mime->setHtml(HtmlOf(lines, alignments));
+    mime->setHtml(HtmlOf(title, lines, alignments));
     return mime;
 }
 

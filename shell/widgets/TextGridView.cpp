@@ -190,8 +190,7 @@ TextGridView::TextGridView(const QString &name, const QString &alignments, QWidg
     colours.setColor(QPalette::ButtonText, lineColour);
     setPalette(colours);
     OfferMenu(this);
-    AddToMenu(this, "copyTable", tr("Copy as &Table"),
-              [this] { QApplication::clipboard()->setMimeData(TableOf(*model_, CellsToCopy()).release()); });
+    AddToMenu(this, "copyTable", tr("Copy as &Table"), [this] { Copy(CellsToCopy()); });
 }
 
 void TextGridView::Show(const TextGrid &grid) {
@@ -284,8 +283,7 @@ void TextGridView::LayOut(double points, int width, int rowHeight) {
 void TextGridView::keyPressEvent(QKeyEvent *event) {
     if (event->matches(QKeySequence::Copy)) {
         if (selectionModel()->hasSelection()) {
-            QApplication::clipboard()->setMimeData(
-                TableOf(*model_, selectionModel()->selectedIndexes()).release());
+            Copy(selectionModel()->selectedIndexes());
         }
     } else if (event->matches(QKeySequence::Cancel) && HasChosenCells()) {
         clearSelection();
@@ -303,6 +301,10 @@ void TextGridView::mousePressEvent(QMouseEvent *event) {
 /// In a list of single rows one of them is always selected, and nobody has chosen it to be copied.
 bool TextGridView::HasChosenCells() const {
     return selectionMode() != SingleSelection && selectionModel()->hasSelection();
+}
+
+void TextGridView::Copy(const QModelIndexList &cells) const {
+    QApplication::clipboard()->setMimeData(TableOf(*model_, cells, copiedTitle_).release());
 }
 
 /// What the table copies: the cells that are selected, or all.

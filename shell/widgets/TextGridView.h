@@ -65,6 +65,9 @@ public:
     /// from now on.
     void SetHeading(const ChartHeading &heading, const QString &note = {});
 
+    /// What stands above the titles of its columns where it is copied as a table; nothing at first.
+    void SetCopiedTitle(const QString &title) { copiedTitle_ = title; }
+
     /// Keeps the columns wide enough for all rows of a grid, whichever of them are shown.
     void MakeRoomFor(const TextGrid &grid);
 
@@ -88,10 +91,12 @@ private:
     std::vector<int> ColumnWidths(const QFont &boldFont) const;
     bool HasChosenCells() const;
     QModelIndexList CellsToCopy() const;
+    void Copy(const QModelIndexList &cells) const;
 
     TextGridModel *model_;
     std::optional<ChartHeading> heading_;
     QString note_;
+    QString copiedTitle_;
     QStringList widest_; ///< texts of the columns of a grid, of which only some rows may be shown
 };
 

@@ -9,6 +9,9 @@
 #include "runtime/Now.h"
 #include "store/database/Connection.h"
 
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QHeaderView>
 #include <QTest>
 #include <QTextLayout>
@@ -142,6 +145,10 @@ void DasaViewTest::ABirthLongAgoStartsAtItsFirstDasa() {
     QCOMPARE(Find("mshDasa")->currentIndex().row(), 0);
     QCOMPARE(Find<QComboBox>("bhuktiSections")->currentIndex(), 0);
     QVERIFY(Find<QComboBox>("antraSections")->currentText().startsWith(QStringLiteral("Ketu Dasa, ")));
+    // A list that is copied says which section it is of.
+    Find("mshAntra")->findChild<QAction *>(QStringLiteral("copyTable"))->trigger();
+    QCOMPARE(QApplication::clipboard()->text().section(u'\n', 0, 1),
+             Find<QComboBox>("antraSections")->currentText() + QStringLiteral("\nAntra\tFrom\tTo\tAge"));
     QVERIFY(Find<QLabel>("todaysPeriods")->text().contains(QStringLiteral("outside")));
 }
 
