@@ -5,9 +5,10 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QKeySequence>
+#include <QShortcut>
 #include <QVBoxLayout>
 
-#include <optional>
 #include <utility>
 
 namespace kelvaro {
@@ -24,22 +25,8 @@ QLabel *NewState(const char *name) {
     return label;
 }
 
-/// What a key of the preview does: 1 and -1 for a step of the zoom, 0 for the size on paper.
-std::optional<int> ZoomOfKey(const QKeyEvent &event) {
-    if (!event.modifiers().testFlag(Qt::ControlModifier)) {
-        return std::nullopt;
-    }
-    switch (event.key()) {
-    case Qt::Key_Plus:
-    case Qt::Key_Equal: // the same key without Shift
-        return 1;
-    case Qt::Key_Minus:
-        return -1;
-    case Qt::Key_0:
-        return 0;
-    default:
-        return std::nullopt;
-    }
+bool IsSizeOnPaper(const QKeyEvent &event) {
+    return event.modifiers().testFlag(Qt::ControlModifier) && event.key() == Qt::Key_0;
 }
 
 } // namespace
@@ -82,7 +69,20 @@ PagePreview::PagePreview(QWidget *parent)
     connect(pageDown_, &QPushButton::clicked, area_, [this] { area_->GoTo(area_->CurrentPage() + 1); });
     connect(print_, &QPushButton::clicked, this, &PagePreview::PrintWanted);
     connect(area_, &PagesArea::Changed, this, &PagePreview::ShowState);
+    AddKeys();
     ShowState();
+}
+
+/// Who has just chosen an option turns the pages without going to them first.
+void PagePreview::AddKeys() {
+    const auto add = [this](Qt::Key key, auto work) {
+        connect(new QShortcut(Qt::CTRL | key, this), &QShortcut::activated, area_, work);
+    };
+    add(Qt::Key_Plus, &PagesArea::ZoomIn);
+    add(Qt::Key_Equal, &PagesArea::ZoomIn); // the same key without Shift
+    add(Qt::Key_Minus, &PagesArea::ZoomOut);
+    add(Qt::Key_PageUp, [this] { area_->GoTo(area_->CurrentPage() - 1); });
+    add(Qt::Key_PageDown, [this] { area_->GoTo(area_->CurrentPage() + 1); });
 }
 
 QPushButton *PagePreview::NewButton(const char *name, const char *icon, const QString &text,
@@ -93,7 +93,9 @@ QPushButton *PagePreview::NewButton(const char *name, const char *icon, const QS
     button->setProperty(wordsProperty, text);
     const QString words = QString(text).remove(u'&');
     button->setAccessibleName(words);
-    button->setToolTip(keys.isEmpty() ? words : QStringLiteral("%1 (%2)").arg(words, keys));
+    const QString keysShown =
+        keys.isEmpty() ? QKeySequence::mnemonic(text).toString(QKeySequence::NativeText) : keys;
+    button->setToolTip(QStringLiteral("%1 (%2)").arg(words, keysShown));
     return button;
 }
 
@@ -140,13 +142,15 @@ void PagePreview::FitBar() {
 
 void PagePreview::ShowWords(const std::vector<QPushButton *> &buttons, bool areShown) {
     for (QPushButton *button : buttons) {
-        button->setText(areShown ? button->property(wordsProperty).toString() : QString());
+        const QString words = button->property(wordsProperty).toString();
+        button->setText(areShown ? words : QString());
+        button->setShortcut(QKeySequence::mnemonic(words)); // which goes with the words otherwise
     }
 }
 
 /// The tenth view has the key of the usual size for its own, which is this one.
 bool PagePreview::event(QEvent *event) {
-    if (event->type() == QEvent::ShortcutOverride && ZoomOfKey(static_cast<QKeyEvent &>(*event))) {
+    if (event->type() == QEvent::ShortcutOverride && IsSizeOnPaper(static_cast<QKeyEvent &>(*event))) {
         event->accept();
         return true;
     }
@@ -166,15 +170,10 @@ void PagePreview::resizeEvent(QResizeEvent *event) {
 }
 
 void PagePreview::keyPressEvent(QKeyEvent *event) {
-    const auto zoom = ZoomOfKey(*event);
-    if (!zoom) {
-        QWidget::keyPressEvent(event);
-    } else if (*zoom == 0) {
+    if (IsSizeOnPaper(*event)) {
         area_->SetZoom(1);
-    } else if (*zoom > 0) {
-        area_->ZoomIn();
     } else {
-        area_->ZoomOut();
+        QWidget::keyPressEvent(event);
     }
 }
 

@@ -11,7 +11,9 @@
 
 namespace kelvaro {
 
-/// The preview of drawn pages, with its buttons above them. Ctrl with plus, minus and 0 zoom.
+/// The preview of drawn pages, with its buttons above them. In all of its window, Ctrl with plus and minus
+/// zooms and Ctrl with Page Up and Page Down turns the pages; with the focus in it, Ctrl+0 shows the size on
+/// paper.
 class PagePreview : public QWidget {
     Q_OBJECT
 
@@ -34,6 +36,7 @@ protected:
 
 private:
     QPushButton *NewButton(const char *name, const char *icon, const QString &text, const QString &keys);
+    void AddKeys();
     void ShowState();
     void FitBar();
     void ShowWords(const std::vector<QPushButton *> &buttons, bool areShown);

@@ -3,6 +3,7 @@
 #include "drawing/ChartColours.h"
 #include "shell/widgets/ParchmentPalette.h"
 
+#include <QFocusEvent>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
@@ -187,15 +188,10 @@ void PagesArea::wheelEvent(QWheelEvent *event) {
 }
 
 void PagesArea::keyPressEvent(QKeyEvent *event) {
-    const bool hasControl = event->modifiers().testFlag(Qt::ControlModifier);
     if (event->key() == Qt::Key_Home) {
         GoTo(0);
     } else if (event->key() == Qt::Key_End) {
         GoTo(PageCount() - 1);
-    } else if (hasControl && event->key() == Qt::Key_PageDown) {
-        GoTo(current_ + 1);
-    } else if (hasControl && event->key() == Qt::Key_PageUp) {
-        GoTo(current_ - 1);
     } else {
         QAbstractScrollArea::keyPressEvent(event);
     }
@@ -219,6 +215,24 @@ void PagesArea::paintEvent(QPaintEvent *event) {
         pages_->Paint(page, painter);
         painter.restore();
     }
+    if (cameByKeyboard_ && hasFocus()) {
+        painter.setPen(QPen(figureColour, 1, Qt::DotLine));
+        painter.drawRect(viewport()->rect().adjusted(1, 1, -2, -2));
+    }
+}
+
+/// A return to the window leaves it as it was.
+void PagesArea::focusInEvent(QFocusEvent *event) {
+    QAbstractScrollArea::focusInEvent(event);
+    if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason) {
+        cameByKeyboard_ = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    }
+    viewport()->update();
+}
+
+void PagesArea::focusOutEvent(QFocusEvent *event) {
+    QAbstractScrollArea::focusOutEvent(event);
+    viewport()->update();
 }
 
 } // namespace kelvaro

@@ -11,8 +11,8 @@ namespace kelvaro {
 /// Drawn pages as sheets of paper, one below the other, at any size. Only what is seen is painted, at the
 /// resolution of the screen.
 ///
-/// Ctrl with the wheel zooms at the mouse. Page Up, Page Down and the arrows scroll; with Ctrl, the first two
-/// go from page to page. Home and End go to the first page and to the last.
+/// Ctrl with the wheel zooms at the mouse. Page Up, Page Down and the arrows scroll. Home and End go to the
+/// first page and to the last.
 class PagesArea : public QAbstractScrollArea {
     Q_OBJECT
 
@@ -53,6 +53,8 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     QSizeF SizeAt(double zoom) const; ///< of a page, in pixels
@@ -70,6 +72,7 @@ private:
     int current_ = 0;
     int wheelAngle_ = 0;   ///< turned, but less than a step
     bool isGoing_ = false; ///< to a page that was asked for
+    bool cameByKeyboard_ = false;
 };
 
 } // namespace kelvaro

@@ -48,6 +48,7 @@ private slots:
     void PagesFollowTheOptionsAndTheHoroscope();
     void ThePaintedPageIsTheComposedOne();
     void PagesAreTurnedByKeysAndButtons();
+    void KeysWorkFromTheOptionsAndWithoutRoomForWords();
     void ZoomKeepsItsPlaceAndItsBounds();
     void ThePdfFileIsWritten();
     void WhatFailsIsToldAndLeavesNothing();
@@ -214,6 +215,33 @@ void PagePreviewTest::PagesAreTurnedByKeysAndButtons() {
     QTest::keyClick(&Area(), Qt::Key_PageDown);
     QCOMPARE(Area().CurrentPage(), 1);
     QVERIFY(QRectF(Area().viewport()->rect()).contains(Area().PlaceOf(1)));
+}
+
+void PagePreviewTest::KeysWorkFromTheOptionsAndWithoutRoomForWords() {
+    view_->resize(760, 560);
+    ShowPages();
+    auto *option = Find<QRadioButton>("Op6");
+    option->setFocus();
+    QTRY_VERIFY(option->hasFocus());
+    QTest::keyClick(option, Qt::Key_PageDown, Qt::ControlModifier);
+    QCOMPARE(Area().CurrentPage(), 1);
+    QTest::keyClick(option, Qt::Key_PageUp, Qt::ControlModifier);
+    QCOMPARE(Area().CurrentPage(), 0);
+    const double fitted = Area().Zoom();
+    QTest::keyClick(option, Qt::Key_Plus, Qt::ControlModifier);
+    QVERIFY(Area().Zoom() > fitted);
+    // The icons keep the keys of the words that they stand for.
+    QVERIFY(Find<QPushButton>("wholePage")->text().isEmpty());
+    QTest::keyClick(option, Qt::Key_H, Qt::AltModifier);
+    QTRY_VERIFY(Area().Fitting() == PagesArea::Fit::WholePage);
+    QTest::keyClick(option, Qt::Key_W, Qt::AltModifier);
+    QTRY_VERIFY(Area().Fitting() == PagesArea::Fit::Width);
+    QCOMPARE(Find("wholePage")->toolTip(), QStringLiteral("Whole Page (Alt+H)"));
+    // Where the pages are not seen their keys do nothing.
+    Choose("Op4");
+    const double zoom = Area().Zoom();
+    QTest::keyClick(option, Qt::Key_Plus, Qt::ControlModifier);
+    QCOMPARE(Area().Zoom(), zoom);
 }
 
 void PagePreviewTest::ZoomKeepsItsPlaceAndItsBounds() {
