@@ -1,31 +1,26 @@
 #include "runtime/FloatingPointGuard.h"
 
 #include "runtime/RuntimeError.h"
+#include "system/System.h"
 
 #include <cfenv>
 #include <string>
 
 namespace kelvaro {
 
-namespace {
-
-constexpr int faults = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
-
-} // namespace
-
 FloatingPointGuard::FloatingPointGuard() noexcept {
     // Clearing costs much more than looking, and there is seldom anything to clear.
-    if (std::fetestexcept(faults) != 0) {
-        std::feclearexcept(faults);
+    if (FloatingPointFaults() != 0) {
+        ClearFloatingPointFaults();
     }
 }
 
 void FloatingPointGuard::Check(const char *step) const {
-    const int raised = std::fetestexcept(faults);
+    const int raised = FloatingPointFaults();
     if (raised == 0) {
         return;
     }
-    std::feclearexcept(faults);
+    ClearFloatingPointFaults();
     const char *fault = (raised & FE_DIVBYZERO) != 0  ? "Division by zero in "
                         : (raised & FE_OVERFLOW) != 0 ? "Overflow in "
                                                       : "Invalid floating-point operation in ";

@@ -1,11 +1,22 @@
 #include "system/System.h"
 
+#include <fcntl.h>
+#include <io.h>
 #include <windows.h>
+#include <xmmintrin.h>
 
+#include <cfenv>
+#include <cstdint>
+#include <cstdio>
 #include <string>
-#include <system_error>
 
 namespace kelvaro {
+
+namespace {
+
+constexpr int floatingPointFaults = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
+
+} // namespace
 
 std::optional<std::tm> LocalTime(std::time_t seconds) {
     std::tm local{};
@@ -22,6 +33,37 @@ std::filesystem::path ProgramFile() {
     }
     name.resize(length);
     return name;
+}
+
+std::filesystem::path ZoneRecordsFolder() {
+    return ProgramFile().parent_path() / "zoneinfo";
+}
+
+bool TellsOfNoRoom(const std::error_code &error) {
+    constexpr int diskQuotaExceeded = 1295; // older headers do not name it
+    return error == std::errc::no_space_on_device || error == std::errc::file_too_large ||
+           (error.category() == std::system_category() &&
+            (error.value() == ERROR_DISK_FULL || error.value() == ERROR_HANDLE_DISK_FULL ||
+             error.value() == diskQuotaExceeded));
+}
+
+// The C library finds out at each call whether the processor has the flags of both units, as every one with
+// 64 bits has. A virtual machine takes more time for that question than for all of the arithmetic watched.
+
+int FloatingPointFaults() {
+    std::uint16_t flagsOfOldUnit = 0;
+    asm volatile("fnstsw %0" : "=m"(flagsOfOldUnit));
+    return static_cast<int>(flagsOfOldUnit | _mm_getcsr()) & floatingPointFaults;
+}
+
+void ClearFloatingPointFaults() {
+    std::feclearexcept(floatingPointFaults);
+}
+
+void PassBytesAsTheyAre() {
+    for (std::FILE *const stream : {stdin, stdout}) {
+        _setmode(_fileno(stream), _O_BINARY);
+    }
 }
 
 } // namespace kelvaro
