@@ -1,68 +1,63 @@
 #include "clock/ZoneClock.h"
 
-#include <date/tz.h>
+#include "clock/ZoneRecords.h"
+#include "system/System.h"
 
 #include <fstream>
-#include <stdexcept>
 
 namespace kelvaro {
 
 namespace {
 
-/// The library does not tell the release of a compiled database. The same package carries its source in one
-/// file, whose first line does.
-constexpr const char *sourceOfRecords = "/usr/share/zoneinfo/tzdata.zi";
+/// The source of the records in one file. The records themselves do not tell their release, its first line
+/// does.
+constexpr const char *sourceOfRecords = "tzdata.zi";
 constexpr std::string_view releaseMark = "# version ";
 
-/// Nothing where the machine has no database or the database has no such zone.
-const date::time_zone *FindZone(const std::string &name) {
-    try {
-        return date::locate_zone(name);
-    } catch (const std::runtime_error &) {
-        return nullptr;
-    }
+std::chrono::local_seconds LocalTime(const CivilMoment &shown) {
+    const std::chrono::year_month_day day{std::chrono::year{shown.date.year},
+                                          std::chrono::month{static_cast<unsigned>(shown.date.month)},
+                                          std::chrono::day{static_cast<unsigned>(shown.date.day)}};
+    return std::chrono::local_days{day} + std::chrono::hours{shown.clock.hour} +
+           std::chrono::minutes{shown.clock.minute} + std::chrono::seconds{shown.clock.second};
 }
 
-date::local_seconds LocalTime(const CivilMoment &shown) {
-    const date::year_month_day day{date::year{shown.date.year},
-                                   date::month{static_cast<unsigned>(shown.date.month)},
-                                   date::day{static_cast<unsigned>(shown.date.day)}};
-    return date::local_days{day} + std::chrono::hours{shown.clock.hour} +
-           std::chrono::minutes{shown.clock.minute} + std::chrono::seconds{shown.clock.second};
+/// A period with its neighbours. The first and the last have themselves beside them.
+struct Neighbours {
+    const ZonePeriod &before, &period, &after;
+};
+
+Neighbours NeighboursOf(const ZonePeriods &periods, std::size_t at) {
+    return {periods[at == 0 ? at : at - 1], periods[at], periods[at + 1 == periods.size() ? at : at + 1]};
 }
 
 /// Whether a period lies between two others whose time the law calls put back: the summer between two
 /// winters. The records mark the winters then. A period of eleven months between two months of Ramadan is no
 /// summer.
-bool IsBetweenWinters(const date::time_zone &zone, const date::sys_info &period) {
-    constexpr date::days longestSummer{9 * 31};
-    if (period.end - period.begin > longestSummer) {
+bool IsBetweenWinters(const Neighbours &each) {
+    constexpr std::chrono::days longestSummer{9 * 31};
+    if (each.period.end - each.period.begin > longestSummer) {
         return false;
     }
-    const auto isWinter = [&period](const date::sys_info &other) {
-        return other.save != std::chrono::minutes{0} && other.offset < period.offset;
+    const auto isWinter = [&each](const ZonePeriod &other) {
+        return other.isMarked && other.fromGreenwich < each.period.fromGreenwich;
     };
-    return isWinter(zone.get_info(period.begin - std::chrono::seconds{1})) &&
-           isWinter(zone.get_info(period.end));
+    return isWinter(each.before) && isWinter(each.after);
 }
 
 /// Whether a marked period is put back and not forward: it lies between two that are ahead of it, of which
 /// the records mark one at most. Clocks that came from another standard or went to one are ahead on one side
 /// only.
-bool IsPutBack(const date::time_zone &zone, const date::sys_info &period) {
-    const date::sys_info before = zone.get_info(period.begin - std::chrono::seconds{1});
-    const date::sys_info after = zone.get_info(period.end);
-    const bool isStandardBeside =
-        before.save == std::chrono::minutes{0} || after.save == std::chrono::minutes{0};
-    return isStandardBeside && before.offset > period.offset && after.offset > period.offset;
+bool IsPutBack(const Neighbours &each) {
+    const bool isStandardBeside = !each.before.isMarked || !each.after.isMarked;
+    return isStandardBeside && each.before.fromGreenwich > each.period.fromGreenwich &&
+           each.after.fromGreenwich > each.period.fromGreenwich;
 }
 
-bool IsSummer(const date::time_zone &zone, const date::sys_info &period) {
-    return period.save == std::chrono::minutes{0} ? IsBetweenWinters(zone, period) : !IsPutBack(zone, period);
-}
-
-ClockOffset OffsetIn(const date::time_zone &zone, const date::sys_info &period) {
-    return {period.offset, IsSummer(zone, period), period.abbrev == "LMT"};
+ClockOffset OffsetIn(const ZonePeriods &periods, std::size_t at) {
+    const Neighbours each = NeighboursOf(periods, at);
+    return {each.period.fromGreenwich, each.period.isMarked ? !IsPutBack(each) : IsBetweenWinters(each),
+            each.period.abbreviation == "LMT"};
 }
 
 } // namespace
@@ -71,30 +66,29 @@ std::optional<ClockReading> ReadClock(const std::string &zone, const CivilMoment
     if (shown.date.year > lastYearOfClocks) {
         return std::nullopt;
     }
-    const date::time_zone *const found = FindZone(zone);
-    if (found == nullptr) {
+    const auto periods = ReadZonePeriods(ZoneRecordsFolder(), zone);
+    if (!periods) {
         return std::nullopt;
     }
-    const date::local_info info = found->get_info(LocalTime(shown));
+    const PeriodsOfTime found = FindPeriods(*periods, LocalTime(shown));
     ClockReading reading;
-    reading.offset = OffsetIn(*found, info.first);
-    if (info.result != date::local_info::unique) {
-        reading.shown = info.result == date::local_info::ambiguous ? ClockReading::Shown::Twice
-                                                                   : ClockReading::Shown::Never;
-        reading.afterChange = OffsetIn(*found, info.second);
+    reading.offset = OffsetIn(*periods, found.first);
+    if (found.first != found.last) {
+        reading.shown = found.isShown ? ClockReading::Shown::Twice : ClockReading::Shown::Never;
+        reading.afterChange = OffsetIn(*periods, found.last);
     }
     return reading;
 }
 
 std::string ZoneRecordsRelease() {
-    std::ifstream source(sourceOfRecords);
+    std::ifstream source(ZoneRecordsFolder() / sourceOfRecords);
     std::string line;
     std::getline(source, line);
     return line.starts_with(releaseMark) ? line.substr(releaseMark.size()) : std::string();
 }
 
 bool HasZoneRecords() {
-    return FindZone("UTC") != nullptr;
+    return ReadZonePeriods(ZoneRecordsFolder(), "UTC").has_value();
 }
 
 } // namespace kelvaro

@@ -38,7 +38,7 @@ inline constexpr int lastYearOfClocks = 2037;
 
 /// What the machine's tz database records of a zone ("America/Chicago") for a date and time of its clocks.
 /// Nothing where the machine has no such database, for a zone that it does not know, and after
-/// `lastYearOfClocks`. The first call reads the names of all zones, the first one for a zone its records.
+/// `lastYearOfClocks`. Each call reads the file of the zone.
 std::optional<ClockReading> ReadClock(const std::string &zone, const CivilMoment &shown);
 
 /// The release of the machine's tz database, "2025b"; empty where it has none or does not tell.

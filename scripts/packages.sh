@@ -2,7 +2,7 @@
 build_packages=(
     g++ cmake ninja-build
     sqlite3 libsqlitecpp-dev libsqlite3-dev libutf8proc-dev
-    libhowardhinnant-date-dev tzdata
+    tzdata
 )
 desktop_packages=(
     qt6-base-dev libgl-dev
