@@ -6,6 +6,7 @@
 #include "horoscope/CalculateHoroscope.h"
 #include "horoscope/entry/LastChart.h"
 #include "horoscope/entry/PreferencesEntry.h"
+#include "runtime/Paths.h"
 #include "shell/views/ServerPane.h"
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/ParchmentPalette.h"
@@ -109,7 +110,7 @@ void MDILight::Start(const std::filesystem::path &programFolder, const std::file
     try {
         connection_.Open(store::FindDatabaseFile(programFolder, userFolder));
         store::OnLoadClass preferences;
-        preferences.ClsPath = programFolder.string();
+        preferences.ClsPath = TextOfPath(programFolder);
         preferences.FnPreferences(connection_);
         PutPreferencesInForce(preferences, horoscope_.state);
         ReadLetterhead();

@@ -1,10 +1,13 @@
 #include "drawing/IconDrawing.h"
+#include "runtime/Paths.h"
 #include "shell/window/MDILight.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QStandardPaths>
 #include <QTimer>
+
+#include <filesystem>
 
 namespace {
 
@@ -17,6 +20,10 @@ QIcon ProgramIcon() {
         icon.addPixmap((size > 32 ? large : small).At({size, size}));
     }
     return icon;
+}
+
+std::filesystem::path PathOf(const QString &name) {
+    return kelvaro::PathOfText(name.toStdString());
 }
 
 } // namespace
@@ -35,8 +42,8 @@ int main(int argc, char **argv) {
     QTimer begin;
     begin.setSingleShot(true);
     QObject::connect(&begin, &QTimer::timeout, &window, [&window] {
-        window.Start(QApplication::applicationDirPath().toStdString(),
-                     QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString());
+        window.Start(PathOf(QApplication::applicationDirPath()),
+                     PathOf(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
         // The drawing of the icon would keep the first view waiting.
         QApplication::setWindowIcon(ProgramIcon());
     });

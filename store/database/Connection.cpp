@@ -1,5 +1,6 @@
 #include "store/database/Connection.h"
 
+#include "runtime/Paths.h"
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
 #include "store/database/FaultTexts.h"
@@ -29,7 +30,7 @@ constexpr std::array<std::string_view, 11> neededTables = {
 std::filesystem::path ExistingFile(const std::filesystem::path &file) {
     std::error_code unreadable;
     if (!std::filesystem::exists(file, unreadable) && !unreadable) {
-        throw StoreError("The database file " + file.string() +
+        throw StoreError("The database file " + TextOfPath(file) +
                          " is missing. Put a backup copy of it in its place.");
     }
     return std::filesystem::absolute(file);
@@ -45,7 +46,7 @@ void CheckTables(SQLite::Database &database, const std::filesystem::path &file) 
     for (const std::string_view needed : neededTables) {
         if (std::ranges::none_of(
                 found, [needed](const std::string &name) { return SameIgnoringCase(name, needed); })) {
-            throw StoreError("The file " + file.string() +
+            throw StoreError("The file " + TextOfPath(file) +
                              " is no database of this program: it has no table " + std::string(needed) + ".");
         }
     }
@@ -67,7 +68,7 @@ void Connection::Open(const std::filesystem::path &file) {
     file_ = ExistingFile(file);
     try {
         auto database =
-            std::make_unique<SQLite::Database>(file_.string(), SQLite::OPEN_READWRITE, longestWait_);
+            std::make_unique<SQLite::Database>(TextOfPath(file_), SQLite::OPEN_READWRITE, longestWait_);
         CheckTables(*database, file_);
         // A rollback journal (SQLite's default) that is flushed to the disk at each commit: a power cut costs
         // the change under way at most. A write-ahead log would be quicker, but keeps saved charts in a

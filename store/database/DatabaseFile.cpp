@@ -1,16 +1,16 @@
 #include "store/database/DatabaseFile.h"
 
+#include "runtime/Paths.h"
 #include "store/database/Connection.h"
 #include "store/database/FaultTexts.h"
+#include "store/database/FolderAccess.h"
+#include "system/System.h"
 
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
 
-#include <cerrno>
-#include <fstream>
-#include <random>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -24,42 +24,11 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view copiedMark = "DBMirvaneBasic.copied";
 constexpr std::string_view originalMark = "DBMirvaneBasic.original";
-/// A file name that no other start of the program uses.
-std::string PassingName() {
-    return ".DBMirvaneBasic-" + std::to_string(std::random_device()());
-}
 
 /// The super-user could write into the folder of an installed program, but the charts would go with it.
 bool IsInstalled(const fs::path &programFolder) {
     std::error_code unreadable;
     return fs::exists(programFolder / originalMark, unreadable);
-}
-
-/// Writes a new file; what the system says where that fails.
-std::error_code WriteTo(const fs::path &file, std::string_view text) {
-    errno = 0;
-    std::ofstream stream(file);
-    stream << text;
-    stream.flush();
-    if (stream) {
-        return {};
-    }
-    return {errno == 0 ? EIO : errno, std::generic_category()};
-}
-
-bool IsFull(const std::error_code &error) {
-    return error == std::errc::no_space_on_device || error == std::errc::file_too_large ||
-           error.value() == EDQUOT;
-}
-
-/// Only trying tells: permissions, access lists and write-protected media all have a say. A folder on a full
-/// disk is one that can be written, or the charts in it would be missed.
-bool CanWriteInto(const fs::path &folder) {
-    const fs::path probe = folder / PassingName();
-    const std::error_code failure = WriteTo(probe, "");
-    std::error_code ignored;
-    fs::remove(probe, ignored);
-    return !failure || IsFull(failure);
 }
 
 void LeaveMark(const fs::path &userFolder) {
@@ -77,16 +46,16 @@ void CopyDatabase(const fs::path &from, const fs::path &to) {
     const fs::path unfinished = to.parent_path() / PassingName();
     try {
         constexpr int longestWait = static_cast<int>(Connection::patience.count());
-        SQLite::Database source(from.string(), SQLite::OPEN_READONLY, longestWait);
-        SQLite::Database copy(unfinished.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        SQLite::Database source(TextOfPath(from), SQLite::OPEN_READONLY, longestWait);
+        SQLite::Database copy(TextOfPath(unfinished), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         if (SQLite::Backup(copy, source).executeStep() != SQLITE_DONE) {
-            throw StoreError("The database file " + from.string() + " is locked by another program.");
+            throw StoreError("The database file " + TextOfPath(from) + " is locked by another program.");
         }
     } catch (...) {
         // A disk too full to undo a change leaves its journal beside the file.
         for (const char *ending : {"", "-journal"}) {
             std::error_code ignored;
-            fs::remove(unfinished.string() + ending, ignored);
+            fs::remove(fs::path(unfinished) += ending, ignored);
         }
         throw;
     }
@@ -95,15 +64,16 @@ void CopyDatabase(const fs::path &from, const fs::path &to) {
 
 /// Why the copy cannot be made, and what to do.
 StoreError NotCopied(const fs::path &userFolder, const std::string &cause, const std::string &advice) {
-    StoreError error("The database cannot be copied into the folder " + userFolder.string() + ": " + cause +
-                     ". " + advice + ", then start the program again.");
+    StoreError error("The database cannot be copied into the folder " + TextOfPath(userFolder) + ": " +
+                     cause + ". " + advice + ", then start the program again.");
     return error;
 }
 
 StoreError NotCopied(const fs::path &userFolder, const std::error_code &error) {
-    return IsFull(error)
+    return TellsOfNoRoom(error)
                ? NotCopied(userFolder, "there is no room left on the disk of that folder", "Make room")
-               : NotCopied(userFolder, error.message(), "Let that folder be written");
+               : NotCopied(userFolder, error.default_error_condition().message(),
+                           "Let that folder be written");
 }
 
 StoreError NotCopied(const fs::path &userFolder, const SQLite::Exception &error,

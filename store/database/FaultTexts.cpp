@@ -1,7 +1,9 @@
 #include "store/database/FaultTexts.h"
 
+#include "runtime/Paths.h"
 #include "runtime/Texts.h"
 #include "store/database/Dialect.h"
+#include "store/database/FolderAccess.h"
 
 #include <SQLiteCpp/Exception.h>
 #include <sqlite3.h>
@@ -52,11 +54,11 @@ std::string WithDetails(std::string text, std::string_view details) {
 }
 
 std::string Advice(const std::filesystem::path &file) {
-    return "Put a backup copy of the database file " + file.string() + " in its place. ";
+    return "Put a backup copy of the database file " + TextOfPath(file) + " in its place. ";
 }
 
 std::string FileIsDamaged(const std::filesystem::path &file, std::string_view how) {
-    std::string text = "The database file " + file.string();
+    std::string text = "The database file " + TextOfPath(file);
     return text.append(how).append(" Put a backup copy of it in its place.");
 }
 
@@ -64,22 +66,27 @@ std::string FileIsDamaged(const std::filesystem::path &file, std::string_view ho
 
 std::string InWords(const SQLite::Exception &error, const std::filesystem::path &file,
                     std::string_view statement) {
-    const std::string theFile = "The database file " + file.string();
+    constexpr const char *writeProtected = " or its folder is write-protected: nothing can be stored.";
+    const std::string theFile = "The database file " + TextOfPath(file);
     constexpr int primaryCode = 0xff;
     switch (error.getErrorCode() & primaryCode) {
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
         return theFile + " is locked by another program. Try again when that program is done with it.";
     case SQLITE_READONLY:
-        return theFile + " or its folder is write-protected: nothing can be stored.";
+        return theFile + writeProtected;
     case SQLITE_NOTADB:
         return FileIsDamaged(file, " is damaged or no database.");
     case SQLITE_CORRUPT:
         return WithDetails(FileIsDamaged(file, " is damaged.") + " ", error.what());
     case SQLITE_CANTOPEN:
+        // Not every system tells SQLite why it cannot make the journal of a change beside the file.
+        if (!statement.empty() && !CanWriteInto(file.parent_path())) {
+            return theFile + writeProtected;
+        }
         return WithDetails(theFile + " cannot be opened. ", error.what());
     case SQLITE_FULL:
-        return "There is no room left on the disk of " + file.string() +
+        return "There is no room left on the disk of " + TextOfPath(file) +
                ": nothing was stored. Make room and try again.";
     case SQLITE_IOERR:
         return WithDetails(theFile + " cannot be read or written. Look whether its disk is full or gone. ",
@@ -105,7 +112,7 @@ std::string RowIsDamaged(std::string_view statement, const std::filesystem::path
     }
     std::string text = "One of ";
     text.append(subject.rows).append(" in the database is damaged. The others can still be used. ");
-    text.append("Enter it anew; a backup copy of the database file ").append(file.string());
+    text.append("Enter it anew; a backup copy of the database file ").append(TextOfPath(file));
     return WithDetails(text.append(" may have it as it was. "), details);
 }
 

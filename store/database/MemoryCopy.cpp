@@ -1,5 +1,6 @@
 #include "store/database/MemoryCopy.h"
 
+#include "runtime/Paths.h"
 #include "runtime/Texts.h"
 
 #include <SQLiteCpp/Database.h>
@@ -45,7 +46,7 @@ std::unique_ptr<SQLite::Database> CopyInMemory(const std::filesystem::path &file
     // Without the flag for creating, a file that is attached must exist too.
     auto database = std::make_unique<SQLite::Database>(":memory:", SQLite::OPEN_READWRITE, busyMilliseconds);
     SQLite::Statement attach(*database, "attach ? as source");
-    attach.bind(1, file.string());
+    attach.bind(1, TextOfPath(file));
     attach.exec();
 
     // One transaction, so that the rows of all tables are those of one moment.

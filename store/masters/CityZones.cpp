@@ -1,5 +1,6 @@
 #include "store/masters/CityZones.h"
 
+#include "runtime/Paths.h"
 #include "runtime/Trigonometry.h"
 #include "store/database/Dialect.h"
 #include "store/database/NameCollation.h"
@@ -45,11 +46,20 @@ bool HasTable(std::string_view schema, Connection &connection) {
     return !tables.IsEndOfFile();
 }
 
+/// A path in a statement; unlike the texts that are typed it may have quotes.
+std::string Literal(const std::filesystem::path &file) {
+    std::string literal = "'";
+    for (const char sign : TextOfPath(file)) {
+        literal.append(sign == '\'' ? 2 : 1, sign);
+    }
+    return literal.append("'");
+}
+
 /// Another database beside the one of the connection, for as long as the object lives.
 class Attached {
 public:
     Attached(const std::filesystem::path &file, Connection &connection) : connection_(connection) {
-        connection_.Execute("attach database " + Quoted(file.string()) + " as program");
+        connection_.Execute("attach database " + Literal(file) + " as program");
     }
     Attached(const Attached &) = delete;
     Attached &operator=(const Attached &) = delete;

@@ -95,7 +95,7 @@ protected:
     }
 
     // On a disk nearly all of a save is waiting for the disk, and few kills would fall between two writes.
-    store::TemporaryFolder quick_{store::QuickFolder()};
+    TemporaryFolder quick_{QuickFolder()};
     std::filesystem::path killedFile_ = quick_ / store::databaseFileName;
     BirthFields entered_ = Entered();
     Progress &progress_ = *new (

@@ -1,8 +1,8 @@
 #include "drawing/WholeFile.h"
 
 #include "drawing/TextOf.h"
-#include "tests/store/OrdinaryUser.h"
 #include "tests/store/StoreFixture.h"
+#include "tests/system/System.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -52,7 +52,7 @@ protected:
 
     /// What the error says that writing raises; empty when it raises none.
     static std::string ErrorOfWriting(const fs::path &file, std::string_view content) {
-        const store::OrdinaryUser user;
+        const OrdinaryUser user;
         try {
             WriteWholeFile(TextOf(file.string()),
                            QByteArray(content.data(), static_cast<qsizetype>(content.size())));
@@ -72,11 +72,11 @@ protected:
     }
 
     void MakeOlder() {
-        const store::OrdinaryUser user;
+        const OrdinaryUser user;
         WriteFile(older_, "older");
     }
 
-    store::TemporaryFolder folder_;
+    TemporaryFolder folder_;
     fs::path inner_ = (fs::create_directory(folder_ / "inner"), folder_ / "inner");
     fs::path older_ = inner_ / "older.txt";
 };

@@ -3,6 +3,7 @@
 
 #include "horoscope/CalculateHoroscope.h"
 #include "report/HoroscopeReport.h"
+#include "runtime/Paths.h"
 #include "runtime/RuntimeError.h"
 #include "store/charts/ChartStore.h"
 #include "store/masters/CityMaster.h"
@@ -88,7 +89,7 @@ constexpr std::array<Use, 9> uses{{
 class DamagedDatabaseTest : public testing::Test {
 protected:
     static void SetUpTestSuite() {
-        folder_ = std::make_unique<store::TemporaryFolder>(store::QuickFolder());
+        folder_ = std::make_unique<TemporaryFolder>(QuickFolder());
         std::filesystem::copy_file(KELVARO_SEED_DATABASE, Sound());
         Damage(Sound(), "delete from City_Master where CityID % 600 <> 0 and CityName <> 'Hyderabad (A.P)'; "
                         "insert into GChartSave (ChartName) values ('Uma and Anil'); "
@@ -104,7 +105,7 @@ protected:
     static std::filesystem::path Damaged() { return *folder_ / "damaged.mdb"; }
 
     static void Damage(const std::filesystem::path &file, const std::string &statements) {
-        SQLite::Database(file.string(), SQLite::OPEN_READWRITE).exec(statements);
+        SQLite::Database(TextOfPath(file), SQLite::OPEN_READWRITE).exec(statements);
     }
 
     static std::vector<std::pair<std::string, std::string>> ColumnsOf(const std::filesystem::path &file) {
@@ -162,15 +163,16 @@ protected:
 
     std::set<std::string> RefusedAfter(const std::string &statements) {
         SCOPED_TRACE(statements);
-        std::filesystem::copy_file(Sound(), Damaged(), std::filesystem::copy_options::overwrite_existing);
+        std::filesystem::remove(Damaged());
+        std::filesystem::copy_file(Sound(), Damaged());
         Damage(Damaged(), statements);
         return Refused();
     }
 
-    static std::unique_ptr<store::TemporaryFolder> folder_;
+    static std::unique_ptr<TemporaryFolder> folder_;
 };
 
-std::unique_ptr<store::TemporaryFolder> DamagedDatabaseTest::folder_;
+std::unique_ptr<TemporaryFolder> DamagedDatabaseTest::folder_;
 
 TEST_F(DamagedDatabaseTest, NoneIsOpenedWithoutAllItsTables) {
     EXPECT_EQ(RefusedAfter(""), std::set<std::string>{}) << "the sound one";

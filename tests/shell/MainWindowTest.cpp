@@ -3,7 +3,7 @@
 #include "tests/shell/Heartbeat.h"
 #include "tests/shell/MainWindowCase.h"
 #include "tests/shell/MessageBoxAnswer.h"
-#include "tests/store/OrdinaryUser.h"
+#include "tests/system/System.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -153,7 +153,7 @@ void MainWindowTest::FaultyDatabaseIsReportedAndTheWindowStays() {
     const auto startTelling = [&](QStringView cause) {
         Open();
         {
-            const store::OrdinaryUser user;
+            const OrdinaryUser user;
             Start();
         }
         QCOMPARE(answer.Count(), ++starts);

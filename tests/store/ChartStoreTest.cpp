@@ -1,5 +1,6 @@
 #include "store/charts/ChartStore.h"
 
+#include "runtime/Paths.h"
 #include "tests/store/StoreFixture.h"
 
 #include <utility>
@@ -74,7 +75,7 @@ TEST_F(ChartStoreTest, ABadRowSpoilsItselfOnly) {
         ErrorOf([&] { charts_.Read(1); }),
         "One of the saved charts in the database is damaged. The others can still be used. Enter it anew; a "
         "backup copy of the database file " +
-            file_.string() + " may have it as it was. Details: ChartDay is empty in row 1.");
+            TextOfPath(file_) + " may have it as it was. Details: ChartDay is empty in row 1.");
     charts_.Delete(1);
     EXPECT_EQ(ErrorOf([&] { charts_.Read(1); }),
               "What is asked for is no longer among the saved charts in the database. Choose it anew.");

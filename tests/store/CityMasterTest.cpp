@@ -1,5 +1,6 @@
 #include "store/masters/CityMaster.h"
 
+#include "runtime/Paths.h"
 #include "runtime/Texts.h"
 #include "store/masters/PlaceLists.h"
 #include "tests/RuleOrder.h"
@@ -133,7 +134,7 @@ TEST_F(CityMasterTest, NamesHaveNoCaseInAnyScript) {
     EXPECT_TRUE(CityMaster::Find(master_.Cities(3).rows, "öZ").row);
 
     // Other programs do not know our way to compare, and find the file and its indices sound.
-    const SQLite::Database other(file_.string());
+    const SQLite::Database other(TextOfPath(file_));
     SQLite::Statement sound(other, "pragma integrity_check");
     sound.executeStep();
     EXPECT_EQ(sound.getColumn(0).getString(), "ok");

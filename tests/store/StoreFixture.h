@@ -3,10 +3,10 @@
 #include "store/database/Connection.h"
 #include "store/database/DatabaseFile.h"
 #include "store/database/Recordset.h"
-#include "tests/store/OrdinaryUser.h"
+#include "tests/system/System.h"
+#include "tests/system/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <chrono>
 #include <filesystem>
@@ -16,34 +16,6 @@
 #include <string_view>
 
 namespace kelvaro::store {
-
-/// A folder of one test, gone with it.
-class TemporaryFolder {
-public:
-    explicit TemporaryFolder(const std::filesystem::path &parent = std::filesystem::temp_directory_path()) {
-        std::string name = (parent / "kelvaro-store-XXXXXX").string();
-        if (mkdtemp(name.data()) == nullptr) {
-            throw std::runtime_error("There is no place for a temporary folder");
-        }
-        path_ = name;
-        std::filesystem::permissions(path_, std::filesystem::perms::all);
-    }
-    TemporaryFolder(const TemporaryFolder &) = delete;
-    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
-    ~TemporaryFolder() { std::filesystem::remove_all(path_); }
-
-    std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
-    const std::filesystem::path &Path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
-
-/// The folder in memory where the machine has one, for tests that write many files.
-inline std::filesystem::path QuickFolder() {
-    const std::filesystem::path memory = "/dev/shm";
-    return std::filesystem::exists(memory) ? memory : std::filesystem::temp_directory_path();
-}
 
 inline std::string BytesOf(const std::filesystem::path &file) {
     std::ifstream stream(file, std::ios::binary);

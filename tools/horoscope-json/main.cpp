@@ -96,10 +96,11 @@ void AnswerStream(const std::filesystem::path &database, Wanted wanted, std::ist
 int main(int argc, char **argv) {
     const auto wanted = WantedBy(argc, argv);
     if (!wanted) {
-        std::cerr << "usage: " << argv[0] << " [--report | --check-zones] < births.jsonl > answers.jsonl\n";
+        std::cerr << "usage: horoscope-json [--report | --check-zones] < births.jsonl > answers.jsonl\n";
         return EXIT_FAILURE;
     }
     try {
+        kelvaro::PassBytesAsTheyAre();
         std::ios::sync_with_stdio(false);
         AnswerStream(kelvaro::ProgramFile().parent_path() / kelvaro::store::databaseFileName, *wanted,
                      std::cin, std::cout);

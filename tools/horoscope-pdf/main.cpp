@@ -11,8 +11,10 @@
 #include "horoscope/Horoscope.h"
 #include "pages/HoroscopePages.h"
 #include "pages/PdfFile.h"
+#include "runtime/Paths.h"
 #include "runtime/RuntimeError.h"
 #include "store/database/DatabaseFile.h"
+#include "system/System.h"
 #include "tools/births/BirthStream.h"
 
 #include <QDir>
@@ -21,7 +23,6 @@
 
 #include <cstdlib>
 #include <exception>
-#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -122,7 +123,7 @@ bool WriteAll(const Wanted &wanted, std::istream &births) {
         }
         return true;
     };
-    const std::filesystem::path program = QCoreApplication::applicationDirPath().toStdString();
+    const auto program = kelvaro::PathOfText(QCoreApplication::applicationDirPath().toStdString());
     kelvaro::ForEachBirth(program / kelvaro::store::databaseFileName, births, answer);
     return isComplete;
 }
@@ -143,6 +144,7 @@ int main(int argc, char **argv) {
         std::cerr << "horoscope-pdf: the folder " << wanted->folder.toStdString() << " cannot be made\n";
         return EXIT_FAILURE;
     }
+    kelvaro::PassBytesAsTheyAre();
     try {
         return WriteAll(*wanted, std::cin) ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (const std::ios_base::failure &error) {

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "tests/system/System.h"
+
+#include <filesystem>
+#include <random>
+#include <string>
+#include <string_view>
+
+namespace kelvaro {
+
+/// A folder of one test, gone with it. Its name has letters of four scripts and a blank: users have such
+/// names.
+class TemporaryFolder {
+public:
+    explicit TemporaryFolder(const std::filesystem::path &parent = std::filesystem::temp_directory_path()) {
+        std::random_device random;
+        do {
+            path_ = parent / (u8"kelvaro Łódź தமிழ் 漢-" + TextOf(random()));
+        } while (!std::filesystem::create_directory(path_));
+        OpenFolder(path_);
+    }
+    TemporaryFolder(const TemporaryFolder &) = delete;
+    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
+    ~TemporaryFolder() {
+        // On some systems a write-protected file cannot be removed.
+        for (const auto &entry : std::filesystem::recursive_directory_iterator(path_)) {
+            std::filesystem::permissions(entry, std::filesystem::perms::owner_write,
+                                         std::filesystem::perm_options::add);
+        }
+        std::filesystem::remove_all(path_);
+    }
+
+    std::filesystem::path operator/(std::string_view name) const { return path_ / name; }
+    const std::filesystem::path &Path() const { return path_; }
+
+private:
+    static std::u8string TextOf(unsigned number) {
+        const std::string text = std::to_string(number);
+        return {text.begin(), text.end()};
+    }
+
+    std::filesystem::path path_;
+};
+
+} // namespace kelvaro
