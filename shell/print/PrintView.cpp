@@ -294,8 +294,13 @@ void PrintView::SavePdf() {
     ComposeAllPages();
     const auto pages = pages_;
     const QString name = AskFile(this, {pdfFile}, FileNameOf(ChartName()));
-    if (!name.isEmpty() && WritePdfFile(this, *pages, name)) {
+    if (name.isEmpty()) {
+        return;
+    }
+    if (WritePdfFile(this, *pages, name)) {
         TellFile(name);
+    } else {
+        outcome_->setText(tr("The writing was cancelled. No file was changed."));
     }
 }
 
