@@ -4,6 +4,7 @@
 #include "system/System.h"
 
 #include <fstream>
+#include <map>
 
 namespace kelvaro {
 
@@ -13,6 +14,16 @@ namespace {
 /// does.
 constexpr const char *sourceOfRecords = "tzdata.zi";
 constexpr std::string_view releaseMark = "# version ";
+
+/// The periods of a zone, nothing where there is no such zone. What was read once is kept, as a survey of
+/// saved charts asks for the same zones thousands of times.
+const std::optional<ZonePeriods> &PeriodsOf(const std::string &zone) {
+    thread_local std::map<std::string, std::optional<ZonePeriods>> known;
+    const auto found = known.find(zone);
+    return found != known.end()
+               ? found->second
+               : known.emplace(zone, ReadZonePeriods(ZoneRecordsFolder(), zone)).first->second;
+}
 
 std::chrono::local_seconds LocalTime(const CivilMoment &shown) {
     const std::chrono::year_month_day day{std::chrono::year{shown.date.year},
@@ -66,7 +77,7 @@ std::optional<ClockReading> ReadClock(const std::string &zone, const CivilMoment
     if (shown.date.year > lastYearOfClocks) {
         return std::nullopt;
     }
-    const auto periods = ReadZonePeriods(ZoneRecordsFolder(), zone);
+    const std::optional<ZonePeriods> &periods = PeriodsOf(zone);
     if (!periods) {
         return std::nullopt;
     }
@@ -88,7 +99,7 @@ std::string ZoneRecordsRelease() {
 }
 
 bool HasZoneRecords() {
-    return ReadZonePeriods(ZoneRecordsFolder(), "UTC").has_value();
+    return PeriodsOf("UTC").has_value();
 }
 
 } // namespace kelvaro
