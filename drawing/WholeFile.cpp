@@ -1,5 +1,6 @@
 #include "drawing/WholeFile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -9,7 +10,7 @@ namespace kelvaro {
 namespace {
 
 [[noreturn]] void Refuse(const QString &name, const QString &cause) {
-    throw FileError(QStringLiteral("The file %1 cannot be written: %2.").arg(name, cause).toStdString());
+    throw FileError(QStringLiteral("The file %1 cannot be written: %2.").arg(QDir::toNativeSeparators(name), cause).toStdString());
 }
 
 /// A full disk first takes a part, and only then says why it takes no more.

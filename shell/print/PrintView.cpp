@@ -19,6 +19,7 @@
 #include "shell/widgets/MessageBoxes.h"
 #include "shell/widgets/SpokenNames.h"
 
+#include <QDir>
 #include <QFile>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -247,10 +248,11 @@ void PrintView::TellNothing() {
 void PrintView::TellFile(const QString &name) {
     NoteFolderOf(name, this);
     // Lines may break behind the folders of a long path.
-    QString path = name;
-    path.replace(u'/', QStringLiteral("/\u200b"));
-    outcome_->setText(tr("The report is in the file %1.").arg(path));
-    outcome_->setToolTip(ToolTipText(name));
+    const QString path = QDir::toNativeSeparators(name);
+    QString breakable = path;
+    breakable.replace(QDir::separator(), QDir::separator() + QStringLiteral("\u200b"));
+    outcome_->setText(tr("The report is in the file %1.").arg(breakable));
+    outcome_->setToolTip(ToolTipText(path));
 }
 
 void PrintView::Tell(const std::optional<PrintOutcome> &outcome) {

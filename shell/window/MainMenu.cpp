@@ -106,7 +106,7 @@ void MainMenu::BuildMenu() {
             {{"mnuHelp", "&Help", "help", [this] { help_.Show(); }, QKeySequence::HelpContents},
              {},
              {"mnuAboutus", "&About Us", "about", [this] { AboutBox(&window_).exec(); }},
-             {"mnuExit", "E&xit", "exit", [this] { window_.close(); }, QKeySequence::Quit}});
+             {"mnuExit", "E&xit", "exit", [this] { window_.close(); }, QKeySequence(Qt::CTRL | Qt::Key_Q)}});
 }
 
 /// The keys that users of desktop programs expect; the menus have no entries for them.

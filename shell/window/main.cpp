@@ -43,7 +43,7 @@ int main(int argc, char **argv) {
     begin.setSingleShot(true);
     QObject::connect(&begin, &QTimer::timeout, &window, [&window] {
         window.Start(PathOf(QApplication::applicationDirPath()),
-                     PathOf(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
+                     PathOf(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation)));
         // The drawing of the icon would keep the first view waiting.
         QApplication::setWindowIcon(ProgramIcon());
     });
