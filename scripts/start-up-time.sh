@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Starts programs in turns under a virtual display, each time with a new home, and prints for each of them the median of
 # the milliseconds from its start to the first picture of the screen that does not change any more.
+# OBSERVED, in milliseconds, is how long each start is watched.
 # usage: start-up-time.sh PROGRAM...
 set -euo pipefail
 rounds=11
-observed=2000 # milliseconds after a start
+observed=${OBSERVED:-2000} # milliseconds after a start
 
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
