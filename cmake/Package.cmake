@@ -45,5 +45,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Not seen by the look at the libraries: strict tables, and the records of time zones.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "libsqlite3-0 (>= 3.37), tzdata")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, hicolor-icon-theme, qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, fonts-lohit-deva, hicolor-icon-theme, qt6-wayland")
+# For names in the scripts of the world.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-noto-core")
 include(CPack)
