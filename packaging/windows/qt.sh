@@ -12,7 +12,7 @@ qt_options=(
     -DFEATURE_system_zlib=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_freetype=OFF
     -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_png=OFF -DFEATURE_system_doubleconversion=OFF
     -DFEATURE_freetype=ON -DFEATURE_harfbuzz=ON -DFEATURE_schannel=ON
-    -DFEATURE_tabletevent=OFF -DFEATURE_direct2d=OFF -DFEATURE_direct2d1_1=OFF
+    -DFEATURE_tabletevent=OFF -DFEATURE_direct2d1_1=OFF
     -DFEATURE_dynamicgl=OFF -DFEATURE_opengl=OFF -DFEATURE_vulkan=OFF
     -DFEATURE_sql=OFF -DFEATURE_dbus=OFF -DFEATURE_xml=OFF -DFEATURE_concurrent=OFF -DFEATURE_testlib=OFF
     -DFEATURE_openssl=OFF -DFEATURE_icu=OFF -DFEATURE_glib=OFF -DFEATURE_brotli=OFF -DFEATURE_zstd=OFF
