@@ -29,3 +29,10 @@ check_packages=(
 package_packages=(
     file dpkg-dev mmdebstrap
 )
+windows_packages=(
+    g++-mingw-w64-x86-64-posix nsis dpkg-dev make tcl xz-utils
+    qt6-base-dev qt6-base-dev-tools mingw-w64-common
+)
+wine_packages=(
+    wine wine64 fonts-wine
+)

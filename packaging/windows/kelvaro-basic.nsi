@@ -7,7 +7,8 @@
 ; The user's charts and settings are not among the files: the program keeps them in the user's local application data and
 ; in the registry. So neither a later version nor the removal touches them.
 
-Unicode true
+; As the program, for 64 bits only.
+Target amd64-unicode
 SetCompressor /SOLID lzma
 ManifestDPIAware true
 RequestExecutionLevel user

@@ -14,7 +14,7 @@ packaging/windows/qt.sh
 
 echo "== Program, tool and tests"
 CMAKE_PREFIX_PATH=$windows_root cmake --preset windows >/dev/null
-cmake --build --preset windows
+cmake --build --preset windows --target kelvaro horoscope-json kelvaro_core_tests kelvaro_tool_tests
 
 echo "== Installer"
 packing=$PWD/build/windows-installer

@@ -30,7 +30,11 @@ wait_for() {
     done
     fail "$what"
 }
-windows_path() { winepath -w "$1" 2>/dev/null; }
+# Of a file on the drive C.
+windows_path() {
+    local path=${1#"$drive"}
+    printf 'C:%s' "${path//\//\\}"
+}
 
 shows() { xdotool search --onlyvisible --name "$1"; }
 shows_not() { ! shows "$1"; }
@@ -57,7 +61,11 @@ end_program() {
 }
 charts() { sqlite3 "$database" "select group_concat(ChartName) from ChartSave"; }
 require_chart() { [ "$(charts)" = "$chart" ] || fail "$1: the charts are \"$(charts)\""; }
-install_silently() { wine "$installer" /S "/D=$(windows_path "$program")" 2>/dev/null || fail "the installer ended with $?"; }
+install_silently() {
+    # The folder stands at the end without quotation marks, so its words are words of the command.
+    # shellcheck disable=SC2046
+    wine "$installer" /S $(printf '/D=%s' "$(windows_path "$program")") 2>/dev/null || fail "the installer ended with $?"
+}
 
 # The folders of a user whose name has such letters.
 set_folder() {
@@ -92,7 +100,7 @@ keys ctrl+s
 wait_for 10 "the chart is not saved" test "$(charts)" = "$chart"
 keys Return
 keys alt+o
-sleep 3
+sleep 8
 picture typed-birth
 end_program
 
@@ -103,22 +111,31 @@ picture next-start
 echo "== Reports"
 keys ctrl+p
 sleep 1
-# save_report NAME: the dialog of the system asks for the file.
+# save_report NAME: the dialog of the system suggests that name in the folder of the user's documents.
 save_report() {
     keys alt+p
-    sleep 2
-    text "$(windows_path "$documents")\\$1"
+    sleep 3
     keys Return
     wait_for 20 "there is no report $1" test -s "$documents/$1"
-    sleep 1
+    sleep 2
     picture "report-${1##*.}"
 }
 save_report Kalidasa.Txt
-keys shift+Tab Down
-save_report Kalidasa.HTML
-keys shift+Tab Down Down
-sleep 2
+# A view that is opened anew gives the keys to its button.
+open_print() {
+    keys ctrl+1
+    sleep 1
+    keys ctrl+p
+    sleep 1
+}
+# Back from the button the keys come to the last of the options, and then to the chosen one.
+open_print
+keys shift+Tab space
+sleep 3
 save_report Kalidasa.pdf
+open_print
+keys shift+Tab Up Up
+save_report Kalidasa.HTML
 for report in "$documents"/Kalidasa.{Txt,HTML}; do
     grep -q Kalidasa "$report" || fail "$report is not of Kalidasa"
 done

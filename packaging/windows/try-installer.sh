@@ -7,7 +7,7 @@ set -euo pipefail
 cd "$(dirname "$0")/../.."
 . scripts/packages.sh
 
-scripts/install-packages.sh "${windows_packages[@]}" "${display_packages[@]}" "${picture_packages[@]}" sqlite3 \
+scripts/install-packages.sh "${wine_packages[@]}" "${display_packages[@]}" "${picture_packages[@]}" sqlite3 \
     poppler-utils
 installer=$(realpath "${1:-$(echo build/kelvaro-basic-*-setup.exe)}")
 [ -f "$installer" ] || { echo "There is no installer; packaging/windows/make-installer.sh makes it" >&2; exit 1; }
