@@ -136,10 +136,11 @@ save_report Kalidasa.pdf
 open_print
 keys shift+Tab Up Up
 save_report Kalidasa.HTML
+cp "$documents"/Kalidasa.* "$pictures"
 for report in "$documents"/Kalidasa.{Txt,HTML}; do
     grep -q Kalidasa "$report" || fail "$report is not of Kalidasa"
 done
-pdftotext "$documents/Kalidasa.pdf" - | grep -q "Kalidasa · page 1 of 6" || fail "the PDF file is not of Kalidasa"
+pdftotext "$documents/Kalidasa.pdf" - | grep "^Kalidasa · page 1 of 6$" >/dev/null || fail "the PDF file is not of Kalidasa"
 end_program
 
 echo "== A second installation over the first"

@@ -22,13 +22,13 @@ constexpr qsizetype longestRelease = 20; // characters
 QString RecordsOfClocks() {
     if (!HasZoneRecords()) {
         return QObject::tr(
-            "This machine has no tz database, so the form cannot say what the clocks of a birthplace "
-            "stood at. The package tzdata brings it.");
+            "The tz database is missing, so the form cannot say what the clocks of a birthplace stood at. "
+            "The package tzdata brings it, on Windows the installer of this program.");
     }
     const QString release = OneLine(TextOf(ZoneRecordsRelease()), longestRelease);
-    return release.isEmpty() ? QObject::tr("the tz database of this machine, public domain.")
-                             : QObject::tr("the tz database of this machine, release %1, public domain.")
-                                   .arg(release.toHtmlEscaped());
+    return release.isEmpty()
+               ? QObject::tr("the tz database, public domain.")
+               : QObject::tr("the tz database, release %1, public domain.").arg(release.toHtmlEscaped());
 }
 
 } // namespace

@@ -134,6 +134,14 @@ TEST_F(HoroscopePdfTest, SaysWhatItCannotWrite) {
     EXPECT_NE(WritePdf(LinesOf({Birth()})), 0);
     EXPECT_NE(ContentOf(Err()).find("line 1: "), std::string::npos);
     EXPECT_NE(Run("'" HOROSCOPE_PDF "' --unknown", ""), 0);
+    const std::string run = "'" HOROSCOPE_PDF "' '" + (folder_ / "others").string() + "'";
+    EXPECT_NE(std::system((run + " < / 2> '" + Err() + "'").c_str()), 0);
+    EXPECT_NE(ContentOf(Err()).find("could not be read"), std::string::npos);
+    std::ofstream(folder_ / "births") << LinesOf({Birth({{"ChartStyle", "South Indian"}})});
+    const std::string births = (folder_ / "births").string();
+    EXPECT_NE(std::system((run + " < '" + births + "' > /dev/full 2> '" + Err() + "'").c_str()), 0);
+    EXPECT_NE(ContentOf(Err()).find("could not be told"), std::string::npos);
+    EXPECT_NE(ContentOf(Err()).find("line 1: there is no chart style \"South Indian\""), std::string::npos);
 }
 
 TEST_F(HoroscopePdfTest, SquaresStandForLettersWithoutAFont) {

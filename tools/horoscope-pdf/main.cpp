@@ -11,6 +11,7 @@
 #include "horoscope/Horoscope.h"
 #include "pages/HoroscopePages.h"
 #include "pages/PdfFile.h"
+#include "presentation/ChartStyles.h"
 #include "runtime/Paths.h"
 #include "runtime/RuntimeError.h"
 #include "store/database/DatabaseFile.h"
@@ -21,12 +22,14 @@
 #include <QGuiApplication>
 #include <QStringList>
 
+#include <algorithm>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -73,17 +76,22 @@ void TellWarning(QtMsgType /*type*/, const QMessageLogContext & /*where*/, const
     }
 }
 
-/// Those of the person's texts that have letters without a font.
-QStringList TextsWithStandIns(const kelvaro::BirthDetails &birth) {
+/// What the pages of a horoscope do not show as it was stated.
+std::vector<std::string> NotesOn(const kelvaro::HoroscopeState &state) {
     constexpr double anySize = 10;
-    QStringList texts;
-    for (const std::string &text : {birth.ChartName, birth.BirthCity, birth.BirthCountry}) {
+    std::vector<std::string> notes;
+    if (kelvaro::ChartStyleOf(state.preferences.ChartStyle) == kelvaro::ChartStyle::Unknown) {
+        notes.push_back("there is no chart style \"" + state.preferences.ChartStyle +
+                        "\"; the charts are left out");
+    }
+    for (const std::string &text : {state.birth.ChartName, state.birth.BirthCity, state.birth.BirthCountry}) {
         const QString line = kelvaro::OneLine(kelvaro::TextOf(text));
         if (kelvaro::WithStandIns(line, kelvaro::SerifFont(anySize)) != line) {
-            texts << line;
+            notes.push_back("no font of this machine has all letters of \"" + line.toStdString() +
+                            "\"; white squares stand for those missing");
         }
     }
-    return texts;
+    return notes;
 }
 
 /// Writes the pages of the horoscope and gives the name of their file.
@@ -111,10 +119,7 @@ bool WriteAll(const Wanted &wanted, std::istream &births) {
             isComplete = false;
             return true;
         }
-        for (const QString &text : TextsWithStandIns(horoscope.state.birth)) {
-            tell("no font of this machine has all letters of \"" + text.toStdString() +
-                 "\"; white squares stand for those missing");
-        }
+        std::ranges::for_each(NotesOn(horoscope.state), tell);
         try {
             std::cout << WritePages(number, horoscope, wanted).toStdString() << '\n' << std::flush;
         } catch (const kelvaro::RuntimeError &error) {
@@ -125,7 +130,10 @@ bool WriteAll(const Wanted &wanted, std::istream &births) {
     };
     const auto program = kelvaro::PathOfText(QCoreApplication::applicationDirPath().toStdString());
     kelvaro::ForEachBirth(program / kelvaro::store::databaseFileName, births, answer);
-    return isComplete;
+    if (!std::cout) {
+        std::cerr << "horoscope-pdf: the names of the files could not be told\n";
+    }
+    return isComplete && std::cout;
 }
 
 } // namespace
@@ -134,6 +142,8 @@ int main(int argc, char **argv) {
     // Pages are drawn without a display; one that is there is left alone.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(TellWarning);
+    kelvaro::PassBytesAsTheyAre();
+    std::ios::sync_with_stdio(false);
     const QGuiApplication application(argc, argv);
     const auto wanted = WantedBy(QCoreApplication::arguments().mid(1));
     if (!wanted) {
@@ -144,7 +154,6 @@ int main(int argc, char **argv) {
         std::cerr << "horoscope-pdf: the folder " << wanted->folder.toStdString() << " cannot be made\n";
         return EXIT_FAILURE;
     }
-    kelvaro::PassBytesAsTheyAre();
     try {
         return WriteAll(*wanted, std::cin) ? EXIT_SUCCESS : EXIT_FAILURE;
     } catch (const std::ios_base::failure &error) {
