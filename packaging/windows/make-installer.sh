@@ -22,10 +22,9 @@ files=$packing/files
 rm -rf "$packing"
 cmake --install build/windows --prefix "$files" >/dev/null
 
-# Loaded when the program runs: the platform, its looks, the encryption of the server's pages, the formats of pictures.
-mkdir -p "$files"/{platforms,styles,tls}
+# Loaded when the program runs: the platform, and the encryption of the server's pages.
+mkdir -p "$files"/{platforms,tls}
 cp "$windows_root/plugins/platforms/qwindows.dll" "$files/platforms"
-cp "$windows_root/plugins/styles/qwindowsvistastyle.dll" "$files/styles"
 cp "$windows_root/plugins/tls/qschannelbackend.dll" "$files/tls"
 
 # The libraries that a file in the installer names and that the cache folder holds; all others are parts of Windows.

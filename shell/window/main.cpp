@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QTimer>
 
 #include <filesystem>
@@ -36,6 +37,11 @@ int main(int argc, char **argv) {
     // So long may the letters be apart that are typed to find a name in a list.
     constexpr int betweenLetters = 1000; // milliseconds
     QApplication::setKeyboardInputInterval(betweenLetters);
+    // The styles of Windows paint headings and selections in colours of their own, which go ill with
+    // parchment.
+    if (QApplication::style()->name().startsWith(QLatin1String("windows"))) {
+        QApplication::setStyle(QStringLiteral("Fusion"));
+    }
     kelvaro::MDILight window;
     window.show();
     // From within the event loop, where a window closed in the middle of the run ends the program.
