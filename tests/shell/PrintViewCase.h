@@ -39,6 +39,8 @@ protected:
         view_.reset();
         horoscope_.reset();
         folder_ = std::make_unique<QTemporaryDir>();
+        // The dialogs start in a home without the files of whoever runs the tests.
+        qputenv("HOME", home_.path().toLocal8Bit());
         connection_ = std::make_unique<store::Connection>();
         connection_->OpenCopyInMemory(KELVARO_SEED_DATABASE);
         horoscope_ = std::make_unique<Horoscope>(*connection_, display_);
@@ -103,6 +105,7 @@ protected:
     static void Cancel(QDialog &dialog) { dialog.reject(); }
 
     NoDisplay display_;
+    QTemporaryDir home_;
     std::unique_ptr<QTemporaryDir> folder_;
     std::unique_ptr<store::Connection> connection_;
     std::unique_ptr<Horoscope> horoscope_;

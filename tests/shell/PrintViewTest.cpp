@@ -178,7 +178,7 @@ void PrintViewTest::ExistingFileIsReplacedAfterAQuestionOnly() {
     timer.callOnTimeout([&] {
         if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
             ++questions;
-            QVERIFY(box->text().startsWith(QStringLiteral("chart.Txt already exists.")));
+            QVERIFY2(box->text().startsWith(QStringLiteral("chart.Txt already exists.")), qPrintable(box->text()));
             box->button(answer)->click();
         }
     });
