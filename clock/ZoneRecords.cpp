@@ -55,6 +55,7 @@ public:
     }
 
     bool IsComplete() const { return isComplete_; }
+    std::string_view Rest() const { return bytes_; }
 
 private:
     std::string_view bytes_;
@@ -153,11 +154,23 @@ ZonePeriods PeriodsIn(const Content &content) {
     return periods;
 }
 
+/// Whether a file lists all changes of the years that clocks are told of. One of the slim form leaves them to
+/// the rule in its last line, which has commas and is not read.
+bool ListsAllChanges(const Content &content, std::string_view lastLine) {
+    constexpr sys_seconds lastYear = std::chrono::sys_days{std::chrono::year{2037} / 1 / 1};
+    return lastLine.find(',') == std::string_view::npos ||
+           (!content.changes.empty() && content.changes.back() >= lastYear);
+}
+
 } // namespace
 
 std::optional<ZonePeriods> ZonePeriodsIn(std::string_view content) {
     constexpr std::size_t widthOfKind = 6;
     constexpr std::size_t widthOfCorrection = 4;
+    const auto marksOf = [](const Header &header, std::size_t width) {
+        return header.leapSeconds * (width + widthOfCorrection) + header.standardMarks +
+               header.greenwichMarks;
+    };
     Reader reader(content);
     // The times of 32 bits come first, for programs that know no others.
     const auto old = ReadHeader(reader);
@@ -165,14 +178,15 @@ std::optional<ZonePeriods> ZonePeriodsIn(std::string_view content) {
         return std::nullopt;
     }
     reader.Take(old->changes * (widthOfOldTime + 1) + old->kinds * widthOfKind + old->letters +
-                old->leapSeconds * (widthOfOldTime + widthOfCorrection) + old->standardMarks +
-                old->greenwichMarks);
+                marksOf(*old, widthOfOldTime));
     const auto header = ReadHeader(reader);
     if (!header) {
         return std::nullopt;
     }
     const Content found = ReadContent(*header, reader);
-    return reader.IsComplete() && found.IsSound() ? std::optional(PeriodsIn(found)) : std::nullopt;
+    const bool isSound = reader.IsComplete() && found.IsSound();
+    reader.Take(marksOf(*header, widthOfTime));
+    return isSound && ListsAllChanges(found, reader.Rest()) ? std::optional(PeriodsIn(found)) : std::nullopt;
 }
 
 std::optional<ZonePeriods> ReadZonePeriods(const std::filesystem::path &folder, std::string_view zone) {

@@ -20,7 +20,11 @@ if(NOT CMAKE_HOST_WIN32)
   find_program(CMAKE_CXX_COMPILER NAMES ${target}-g++-posix ${target}-g++ REQUIRED)
   find_program(CMAKE_RC_COMPILER NAMES ${target}-windres REQUIRED)
 
-  cmake_path(CONVERT "$ENV{CMAKE_PREFIX_PATH}" TO_CMAKE_PATH_LIST CMAKE_FIND_ROOT_PATH)
+  # Kept for a build that finds it has to configure anew, in another environment.
+  if(NOT "$ENV{CMAKE_PREFIX_PATH}" STREQUAL "")
+    set(WINDOWS_LIBRARIES "$ENV{CMAKE_PREFIX_PATH}" CACHE STRING "Where libraries for Windows are looked for" FORCE)
+  endif()
+  cmake_path(CONVERT "${WINDOWS_LIBRARIES}" TO_CMAKE_PATH_LIST CMAKE_FIND_ROOT_PATH)
   list(APPEND CMAKE_FIND_ROOT_PATH /usr/${target})
   set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
   set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -97,7 +97,9 @@ private:
         };
         QPainterPath outline;
         if (element == u"path") {
-            return PathOf(attributes.take(QStringLiteral("d")).toLatin1());
+            outline = PathOf(attributes.take(QStringLiteral("d")).toLatin1());
+            outline.setFillRule(Qt::WindingFill); // as SVG fills where nothing is said
+            return outline;
         }
         if (element == u"circle") {
             const double radius = number("r");

@@ -170,7 +170,7 @@ void AddArc(QPainterPath &path, const Arc &arc, QPointF to) {
     if (arc.isClockwise != (sweep > 0)) {
         sweep += arc.isClockwise ? 2 * M_PI : -2 * M_PI;
     }
-    const int curves = qCeil(std::abs(sweep) / M_PI_2 - 1e-6);
+    const int curves = std::max(1, qCeil(std::abs(sweep) / M_PI_2 - 1e-6));
     const double step = sweep / curves;
     const double handle = 4.0 / 3 * std::tan(step / 4);
     const auto at = [&](double where, double along) {
@@ -191,7 +191,7 @@ public:
     QPainterPath Read() {
         SkipBlanks();
         while (rest_ != end_) {
-            if (std::strchr("0123456789+-.", *rest_) == nullptr) {
+            if (std::strchr("0123456789-.", *rest_) == nullptr) {
                 command_ = *rest_++;
             } else if (command_ == 0 || command_ == 'Z') {
                 Refuse();

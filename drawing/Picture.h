@@ -30,7 +30,8 @@ QImage ImageOf(const Picture &picture);
 /// The same as the bytes of a PNG file.
 QByteArray PngOf(const Picture &picture);
 
-/// The picture in lines and outlines of letters, as the bytes of an SVG file.
+/// The picture in lines and outlines of letters, as the bytes of an SVG file. Raises RuntimeError for what
+/// such a file cannot hold: images, gradients, clipped drawings.
 QByteArray SvgOf(const Picture &picture);
 
 } // namespace kelvaro

@@ -10,7 +10,9 @@ namespace kelvaro {
 namespace {
 
 [[noreturn]] void Refuse(const QString &name, const QString &cause) {
-    throw FileError(QStringLiteral("The file %1 cannot be written: %2.").arg(QDir::toNativeSeparators(name), cause).toStdString());
+    throw FileError(QStringLiteral("The file %1 cannot be written: %2.")
+                        .arg(QDir::toNativeSeparators(name), cause)
+                        .toStdString());
 }
 
 /// A full disk first takes a part, and only then says why it takes no more.

@@ -18,7 +18,7 @@ std::optional<std::tm> LocalTime(std::time_t seconds);
 std::filesystem::path ProgramFile();
 
 /// Where the compiled files of the tz database lie: among the system's own, or beside the program on a system
-/// that has none. It need not be there.
+/// that has none. It need not be there. Raises what ProgramFile raises.
 std::filesystem::path ZoneRecordsFolder();
 
 /// Whether an error says that a disk is full, or the part of it that the user may fill, or that a file has

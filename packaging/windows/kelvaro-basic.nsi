@@ -1,5 +1,6 @@
 ; The installer for one user, without administrator's rights. Needs these definitions:
-;   LISTS    the folder with install.nsh, delete.nsh and folders.nsh, which name the files one by one
+;   FILES    the folder with all that is installed
+;   LISTS    the folder with install.nsh, delete.nsh and folders.nsh, which name the files but the database one by one
 ;   VERSION  "2.4"
 ;   SIZE     what the files need on the disk, in KB
 ;   OUTPUT   the installer's file
@@ -62,10 +63,18 @@ VIAddVersionKey LegalCopyright "Copyright (C) 2026 Kelvaro Technologies Pvt Ltd"
 Section
   !insertmacro RequireEnded install
   ; What an earlier version had and this one has not goes with it.
-  IfFileExists "$INSTDIR\uninstall.exe" 0 +2
+  IfFileExists "$INSTDIR\kelvaro.exe" 0 no_earlier
+  IfFileExists "$INSTDIR\uninstall.exe" 0 no_earlier
     ExecWait '"$INSTDIR\uninstall.exe" /S _?=$INSTDIR'
+  no_earlier:
   ClearErrors
   !include "${LISTS}\install.nsh"
+  ; A database without the mark of an original has the charts of somebody.
+  IfFileExists "$INSTDIR\DBMirvaneBasic.mdb" in_use
+    SetOutPath "$INSTDIR"
+    File "${FILES}\DBMirvaneBasic.mdb"
+    File "${FILES}\DBMirvaneBasic.original"
+  in_use:
   SetOutPath "$INSTDIR"
   WriteUninstaller "$INSTDIR\uninstall.exe"
   IfErrors 0 +4
@@ -90,6 +99,10 @@ SectionEnd
 Section Uninstall
   !insertmacro RequireEnded uninstall
   !include "${LISTS}\delete.nsh"
+  IfFileExists "$INSTDIR\DBMirvaneBasic.original" 0 no_original
+    Delete "$INSTDIR\DBMirvaneBasic.mdb"
+    Delete "$INSTDIR\DBMirvaneBasic.original"
+  no_original:
   Delete "$INSTDIR\uninstall.exe"
   !include "${LISTS}\folders.nsh"
   RMDir "$INSTDIR"

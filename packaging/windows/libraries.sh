@@ -51,5 +51,5 @@ once sqlitecpp install_sqlitecpp
 once utf8proc configure_and_install utf8proc
 once nlohmann-json3 configure_and_install nlohmann-json3 -DJSON_BuildTests=OFF
 once googletest configure_and_install googletest
-once tzdata install_zone_records
+once "tzdata-$(dpkg-query -W -f='${Version}' tzdata)" install_zone_records
 echo "The libraries for Windows stand in $windows_root"

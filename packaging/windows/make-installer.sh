@@ -8,7 +8,7 @@ cd "$(dirname "$0")/../.."
 . scripts/packages.sh
 . packaging/windows/sources.sh
 
-scripts/install-packages.sh "${build_packages[@]}" "${windows_packages[@]}"
+scripts/install-packages.sh "${build_packages[@]}" "${windows_packages[@]}" "${wine_packages[@]}"
 packaging/windows/libraries.sh
 packaging/windows/qt.sh
 
@@ -30,8 +30,9 @@ cp "$windows_root/plugins/tls/qschannelbackend.dll" "$files/tls"
 # The libraries that a file in the installer names and that the cache folder holds; all others are parts of Windows.
 needed_by() { x86_64-w64-mingw32-objdump -p "$1" | sed -n 's/^\tDLL Name: //p'; }
 add_libraries_of() {
-    local name
-    for name in $(needed_by "$1"); do
+    local name needed
+    needed=$(needed_by "$1")
+    for name in $needed; do
         if [ -f "$windows_root/bin/$name" ] && [ ! -f "$files/$name" ]; then
             cp "$windows_root/bin/$name" "$files"
             add_libraries_of "$files/$name"
@@ -55,11 +56,11 @@ while read -r folder; do
     while read -r file; do
         printf 'File "%s"\n' "$files/${folder:+$folder/}$file" >>"$lists/install.nsh"
         printf 'Delete "$INSTDIR\\%s"\n' "$(windows_path "${folder:+$folder/}$file")" >>"$lists/delete.nsh"
-    done < <(find "$files/$folder" -maxdepth 1 -type f -printf '%f\n' | sort)
+    done < <(find "$files/$folder" -maxdepth 1 -type f ! -name 'DBMirvaneBasic.*' -printf '%f\n' | sort)
 done < <(find "$files" -depth -type d -printf '%P\n')
 
 version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' build/windows/CMakeCache.txt)
 installer=$PWD/build/kelvaro-basic-$version-setup.exe
-makensis -V2 -DLISTS="$lists" -DVERSION="$version" -DSIZE="$(du -sk "$files" | cut -f1)" \
+makensis -V2 -DFILES="$files" -DLISTS="$lists" -DVERSION="$version" -DSIZE="$(du -sk "$files" | cut -f1)" \
     -DOUTPUT="$installer" packaging/windows/kelvaro-basic.nsi
 echo "The installer: $installer ($(du -h "$installer" | cut -f1))"

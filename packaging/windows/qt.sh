@@ -28,9 +28,7 @@ install_qt() {
         -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$host" "${qt_options[@]}"
     cmake --build "$source/out"
     cmake --install "$source/out"
-    # As whoever gives the libraries away has to.
-    mkdir -p "$windows_root/share/licenses/qt6-base"
-    cp "$source/LICENSES/"*.txt "$source/debian/copyright" "$windows_root/share/licenses/qt6-base"
+    cp "$source"/LICENSES/{LGPL,GPL}-3.0-only.txt "$windows_root/share/licenses"
 }
 
 once qt6-base install_qt

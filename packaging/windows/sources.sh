@@ -41,6 +41,8 @@ END
     touch "$apt/ready"
 }
 
+newest_source() { printf '%s\n' "$windows_cache/source/$1"_*.dsc | sort -V | tail -n 1; }
+
 # unpack_source PACKAGE: fetches a source package and unpacks it anew, patches of the package included, into build/PACKAGE
 # of the cache folder. apt looks at the signature of the lists and at the sums of the files.
 unpack_source() {
@@ -51,8 +53,10 @@ unpack_source() {
     fi
     rm -rf "$windows_cache/build/$package"
     mkdir -p "$windows_cache/build"
-    dpkg-source --no-check -x "$(printf '%s\n' "$windows_cache/source/${package}"_*.dsc | sort -V | tail -n 1)" \
-        "$windows_cache/build/$package"
+    dpkg-source --no-check -x "$(newest_source "$package")" "$windows_cache/build/$package"
+    # For whoever gives the library away.
+    mkdir -p "$windows_root/share/licenses"
+    cp "$windows_cache/build/$package/debian/copyright" "$windows_root/share/licenses/$package.txt"
 }
 
 # once NAME COMMAND...: runs what has not yet run to its end in this cache folder.

@@ -5,7 +5,7 @@ set -euo pipefail
 installer=$1
 pictures=$2
 
-# Letters of three scripts, none of them in one code page with another.
+# Letters of three code pages.
 user='Jörg Śarmā देवी'
 drive=$WINEPREFIX/drive_c
 program="$drive/Programme für $user/Kelvaro Basic"
@@ -51,16 +51,18 @@ picture() { import -window root "$pictures/$1.png"; }
 
 start_program() {
     wine "$program/kelvaro.exe" 2>/dev/null &
+    started=$!
     wait_for 60 "no window" shows "$title"
     sleep 3
 }
 end_program() {
     keys ctrl+q
     wait_for 20 "the program does not end" shows_not "$title"
-    wait
+    wait "$started" || fail "the program ended with $?"
 }
 charts() { sqlite3 "$database" "select group_concat(ChartName) from ChartSave"; }
-require_chart() { [ "$(charts)" = "$chart" ] || fail "$1: the charts are \"$(charts)\""; }
+has_chart() { [ "$(charts)" = "$chart" ]; }
+require_chart() { has_chart || fail "$1: the charts are \"$(charts)\""; }
 install_silently() {
     # The folder stands at the end without quotation marks, so its words are words of the command.
     # shellcheck disable=SC2046
@@ -80,6 +82,8 @@ set_folder "Local AppData" "$local_data"
 set_folder Personal "$documents"
 install_silently
 [ -f "$program/kelvaro.exe" ] || fail "the program is not there"
+names_program() { find "$drive" -name 'Kelvaro Basic.lnk' | grep . >/dev/null; }
+names_program || fail "the Start menu does not name the program"
 original=$(sha256sum <"$program/DBMirvaneBasic.mdb")
 
 echo "== First start"
@@ -97,7 +101,7 @@ for field in Kalidasa Male 14 7 1965 2 15 "" India "Hyderabad (A.P)"; do
 done
 picture birth-form
 keys ctrl+s
-wait_for 10 "the chart is not saved" test "$(charts)" = "$chart"
+wait_for 10 "the chart is not saved" has_chart
 keys Return
 keys alt+o
 sleep 8
@@ -161,5 +165,5 @@ echo "== Removal"
 wine "$program/uninstall.exe" /S 2>/dev/null
 wait_for 20 "the removal leaves the program" test ! -e "$program"
 require_chart "after the removal"
-find "$drive" -iname '*kelvaro*' -newer "$HOME/start" -name '*.lnk' | grep . && fail "the Start menu still names the program"
+! names_program || fail "the Start menu still names the program"
 echo "The charts are still there: $(charts)"

@@ -28,8 +28,8 @@ bool UserSettings::LooksReadable() const {
 
 void UserSettings::RequireReadable() {
     if (!isReadable_) {
-        throw RuntimeError("The settings file " + Open()->fileName().toStdString() +
-                           " is damaged or must not be read.");
+        throw RuntimeError("The settings in " + Open()->fileName().toStdString() +
+                           " are damaged or must not be read.");
     }
 }
 

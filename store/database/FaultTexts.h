@@ -15,7 +15,8 @@ namespace kelvaro::store {
 // end, shortened, what only helps someone who mends the file. The file is the database at work; a statement
 // tells which of its tables is meant.
 
-/// A fault that SQLite reports.
+/// A fault that SQLite reports. Whether a file that cannot be opened lies in a folder that cannot be written
+/// is tried.
 std::string InWords(const SQLite::Exception &error, const std::filesystem::path &file,
                     std::string_view statement = {});
 

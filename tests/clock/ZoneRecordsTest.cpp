@@ -56,6 +56,28 @@ TEST(ZoneRecords, FindTimesThatWereShownOnceTwiceAndNever) {
     EXPECT_EQ(first.first, first.last);
 }
 
+/// The content of a file with the first of its changes only, as those of the slim form are.
+std::string WithFirstChanges(std::string content, std::size_t kept) {
+    const std::size_t header = content.find("TZif", 4);
+    const std::size_t times = header + 44;
+    const auto byte = [&](std::size_t place) {
+        return std::size_t{static_cast<unsigned char>(content[header + place])};
+    };
+    const std::size_t changes = byte(34) << 8U | byte(35);
+    content.erase(times + 8 * changes + kept, changes - kept);
+    content.erase(times + 8 * kept, 8 * (changes - kept));
+    content[header + 34] = '\0';
+    content[header + 35] = static_cast<char>(kept);
+    return content;
+}
+
+TEST(ZoneRecords, AreNoneInAFileThatLeavesYearsToARule) {
+    EXPECT_FALSE(ZonePeriodsIn(WithFirstChanges(ContentOf("America/Chicago"), 180)));
+    const auto kolkata = ZonePeriodsIn(WithFirstChanges(ContentOf("Asia/Kolkata"), 3));
+    ASSERT_TRUE(kolkata) << "no rule follows";
+    EXPECT_TRUE(AreInOrder(*kolkata));
+}
+
 TEST(ZoneRecords, AreNoneInADamagedFile) {
     const std::string sound = ContentOf("America/Chicago");
     ASSERT_TRUE(ZonePeriodsIn(sound));

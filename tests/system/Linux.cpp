@@ -48,4 +48,8 @@ int Run(const std::string &program, const std::string &options, const Streams &s
     return std::system(command.c_str());
 }
 
+bool TakesFoldersAsInput() {
+    return true;
+}
+
 } // namespace kelvaro

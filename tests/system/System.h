@@ -30,6 +30,9 @@ void OpenFolder(const std::filesystem::path &folder);
 /// The folder in memory where the machine has one, for tests that write many files.
 std::filesystem::path QuickFolder();
 
+/// Whether a program can be given a folder for its standard input.
+bool TakesFoldersAsInput();
+
 /// Files for the standard streams of a program. Without a name for it the error stream is that of the test.
 struct Streams {
     std::filesystem::path in, out, err;

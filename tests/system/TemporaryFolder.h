@@ -6,10 +6,11 @@
 #include <random>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace kelvaro {
 
-/// A folder of one test, gone with it. Its name has letters of four scripts and a blank: users have such
+/// A folder of one test, gone with it. Its name has letters of four code pages and a blank: users have such
 /// names.
 class TemporaryFolder {
 public:
@@ -24,11 +25,13 @@ public:
     TemporaryFolder &operator=(const TemporaryFolder &) = delete;
     ~TemporaryFolder() {
         // On some systems a write-protected file cannot be removed.
-        for (const auto &entry : std::filesystem::recursive_directory_iterator(path_)) {
-            std::filesystem::permissions(entry, std::filesystem::perms::owner_write,
-                                         std::filesystem::perm_options::add);
+        std::error_code ignored;
+        for (std::filesystem::recursive_directory_iterator entry(path_, ignored), end; entry != end;
+             entry.increment(ignored)) {
+            std::filesystem::permissions(*entry, std::filesystem::perms::owner_write,
+                                         std::filesystem::perm_options::add, ignored);
         }
-        std::filesystem::remove_all(path_);
+        std::filesystem::remove_all(path_, ignored);
     }
 
     std::filesystem::path operator/(std::string_view name) const { return path_ / name; }

@@ -81,4 +81,8 @@ int Run(const std::string &program, const std::string &options, const Streams &s
     return _wsystem((command + L"\"").c_str());
 }
 
+bool TakesFoldersAsInput() {
+    return false;
+}
+
 } // namespace kelvaro

@@ -201,8 +201,10 @@ TEST(HoroscopeJson, AnswersNothingToAnEmptyStream) {
     EXPECT_EQ(AnswerLines(Sample().dump() + "\r\n\n").size(), 2U);
 }
 
-#ifndef _WIN32 // whose shell hands no folder on as a file
 TEST(HoroscopeJson, SaysThatItsInputCannotBeRead) {
+    if (!kelvaro::TakesFoldersAsInput()) {
+        GTEST_SKIP() << "no folder is handed on as a file here";
+    }
     const kelvaro::TemporaryFolder folder;
     EXPECT_NE(kelvaro::Run(HOROSCOPE_JSON, "", {"/", folder / "answers", folder / "words"}), 0);
     std::ifstream file(folder / "words");
@@ -210,7 +212,6 @@ TEST(HoroscopeJson, SaysThatItsInputCannotBeRead) {
     std::getline(file, words);
     EXPECT_EQ(words, "horoscope-json: the births could not be read: Is a directory");
 }
-#endif
 
 TEST(HoroscopeJson, WritesTheReportWhenAsked) {
     const auto plain = json::parse(AnswerLines(Sample().dump()).at(0));

@@ -1,6 +1,6 @@
 // Reads births as JSON lines and writes the drawn horoscope of each as a PDF file into a folder. The name of
-// each file is told on standard output, a birth without a horoscope on standard error; the rest goes on. So
-// is a name in letters that the machine has no font for.
+// each file is told on standard output, a birth without a horoscope on standard error, and what the pages do
+// not show as it was stated; the rest goes on.
 
 #include "drawing/FileName.h"
 #include "drawing/HouseFonts.h"
