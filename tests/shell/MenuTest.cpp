@@ -301,7 +301,7 @@ void MenuTest::LastChartComesBack() {
     damaged.close();
     MDILight window(file);
     window.Start(Folder(), Folder() / "user");
-    QVERIFY(window.statusBar()->currentMessage().contains(QStringLiteral("is damaged")));
+    QVERIFY(window.statusBar()->currentMessage().contains(QStringLiteral("are damaged")));
 }
 
 void MenuTest::ExitUnloadsTheWindowsInOrder() {
