@@ -29,6 +29,7 @@ echo "== Tests of the core and of the tool"
 for tests in kelvaro_core_tests kelvaro_tool_tests; do
     wine "build/windows/$tests.exe" --gtest_brief=1
 done
+wineserver -k || true # it ran without a display, and would keep the size of its desktop
 
 xvfb-run -a -s "-screen 0 1280x800x24" packaging/windows/trial.sh "$installer" "$pictures" | tee "$pictures/trial.log"
 start=$(sed -n 's/^First view after \([0-9]*\) ms$/\1/p' "$pictures/trial.log")
