@@ -178,7 +178,8 @@ void PrintViewTest::ExistingFileIsReplacedAfterAQuestionOnly() {
     timer.callOnTimeout([&] {
         if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
             ++questions;
-            QVERIFY2(box->text().startsWith(QStringLiteral("chart.Txt already exists.")), qPrintable(box->text()));
+            QVERIFY2(box->text().startsWith(QStringLiteral("chart.Txt already exists.")),
+                     qPrintable(box->text()));
             box->button(answer)->click();
         }
     });
