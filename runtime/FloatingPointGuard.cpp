@@ -8,19 +8,25 @@
 
 namespace kelvaro {
 
+namespace {
+
+constexpr int watched = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
+
+} // namespace
+
 FloatingPointGuard::FloatingPointGuard() noexcept {
     // Clearing costs much more than looking, and there is seldom anything to clear.
-    if (FloatingPointFaults() != 0) {
-        ClearFloatingPointFaults();
+    if (FloatingPointFaults(watched) != 0) {
+        std::feclearexcept(watched);
     }
 }
 
 void FloatingPointGuard::Check(const char *step) const {
-    const int raised = FloatingPointFaults();
+    const int raised = FloatingPointFaults(watched);
     if (raised == 0) {
         return;
     }
-    ClearFloatingPointFaults();
+    std::feclearexcept(watched);
     const char *fault = (raised & FE_DIVBYZERO) != 0  ? "Division by zero in "
                         : (raised & FE_OVERFLOW) != 0 ? "Overflow in "
                                                       : "Invalid floating-point operation in ";

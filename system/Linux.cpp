@@ -5,12 +5,6 @@
 
 namespace kelvaro {
 
-namespace {
-
-constexpr int floatingPointFaults = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
-
-} // namespace
-
 std::optional<std::tm> LocalTime(std::time_t seconds) {
     std::tm local{};
     return localtime_r(&seconds, &local) != nullptr ? std::optional(local) : std::nullopt;
@@ -29,12 +23,8 @@ bool TellsOfNoRoom(const std::error_code &error) {
            error.value() == EDQUOT;
 }
 
-int FloatingPointFaults() {
-    return std::fetestexcept(floatingPointFaults);
-}
-
-void ClearFloatingPointFaults() {
-    std::feclearexcept(floatingPointFaults);
+int FloatingPointFaults(int wanted) {
+    return std::fetestexcept(wanted);
 }
 
 void PassBytesAsTheyAre() {

@@ -25,9 +25,8 @@ std::filesystem::path ZoneRecordsFolder();
 /// reached the size that its disk can keep.
 bool TellsOfNoRoom(const std::error_code &error);
 
-/// Which of FE_INVALID, FE_DIVBYZERO and FE_OVERFLOW the processor has noted since they were cleared.
-int FloatingPointFaults();
-void ClearFloatingPointFaults();
+/// Which of the wanted exceptions of <cfenv> the processor has noted since they were cleared.
+int FloatingPointFaults(int wanted);
 
 /// Lets the standard input and output of the program pass bytes as they are, line ends and all. To be called
 /// before their first use.

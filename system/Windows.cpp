@@ -5,18 +5,11 @@
 #include <windows.h>
 #include <xmmintrin.h>
 
-#include <cfenv>
 #include <cstdint>
 #include <cstdio>
 #include <string>
 
 namespace kelvaro {
-
-namespace {
-
-constexpr int floatingPointFaults = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW;
-
-} // namespace
 
 std::optional<std::tm> LocalTime(std::time_t seconds) {
     std::tm local{};
@@ -49,15 +42,10 @@ bool TellsOfNoRoom(const std::error_code &error) {
 
 // The C library finds out at each call whether the processor has the flags of both units, as every one with
 // 64 bits has. A virtual machine takes more time for that question than for all of the arithmetic watched.
-
-int FloatingPointFaults() {
+int FloatingPointFaults(int wanted) {
     std::uint16_t flagsOfOldUnit = 0;
     asm volatile("fnstsw %0" : "=m"(flagsOfOldUnit));
-    return static_cast<int>(flagsOfOldUnit | _mm_getcsr()) & floatingPointFaults;
-}
-
-void ClearFloatingPointFaults() {
-    std::feclearexcept(floatingPointFaults);
+    return static_cast<int>(flagsOfOldUnit | _mm_getcsr()) & wanted;
 }
 
 void PassBytesAsTheyAre() {
