@@ -12,7 +12,6 @@
 #include "pages/HoroscopePages.h"
 #include "pages/PdfFile.h"
 #include "presentation/ChartStyles.h"
-#include "runtime/Paths.h"
 #include "runtime/RuntimeError.h"
 #include "store/database/DatabaseFile.h"
 #include "system/System.h"
@@ -128,8 +127,8 @@ bool WriteAll(const Wanted &wanted, std::istream &births) {
         }
         return true;
     };
-    const auto program = kelvaro::PathOfText(QCoreApplication::applicationDirPath().toStdString());
-    kelvaro::ForEachBirth(program / kelvaro::store::databaseFileName, births, answer);
+    const auto database = kelvaro::ProgramFile().parent_path() / kelvaro::store::databaseFileName;
+    kelvaro::ForEachBirth(database, births, answer);
     if (!std::cout) {
         std::cerr << "horoscope-pdf: the names of the files could not be told\n";
     }
