@@ -215,37 +215,29 @@ private:
         if (path_.elementCount() == 0 && command_ != 'M' && command_ != 'm') {
             Refuse();
         }
-        switch (command_) {
-        case 'M':
+        switch (isRelative_ ? command_ : static_cast<char>(command_ + ('a' - 'A'))) {
         case 'm':
             path_.moveTo(Point());
             command_ = isRelative_ ? 'l' : 'L'; // further points are lines
             break;
-        case 'L':
         case 'l':
             path_.lineTo(Point());
             break;
-        case 'H':
         case 'h':
             path_.lineTo(Number() + (isRelative_ ? before.x() : 0), before.y());
             break;
-        case 'V':
         case 'v':
             path_.lineTo(before.x(), Number() + (isRelative_ ? before.y() : 0));
             break;
-        case 'C':
         case 'c':
             CurveFrom(Point());
             break;
-        case 'S':
         case 's':
             CurveFrom(2 * before - handle);
             break;
-        case 'A':
         case 'a':
             DrawArc();
             break;
-        case 'Z':
         case 'z':
             path_.closeSubpath();
             command_ = 'Z';
