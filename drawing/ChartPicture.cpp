@@ -23,7 +23,7 @@ Picture PictureOf(const ChartContent &content) {
     return {NameAndTitle(content.heading),
             {pictureWidth, corner.y() + (1 + outerMargin) * side},
             [drawing, side, corner](QPainter &painter) {
-                const double point = DotsPerPoint(painter);
+                const double point = DotsPerPoint(*painter.device());
                 drawing->Paint(painter, QRectF(corner * point, QSizeF(side, side) * point),
                                lineWidth * side * point);
             }};

@@ -1,5 +1,6 @@
 #include "drawing/Picture.h"
 
+#include "drawing/PointRuler.h"
 #include "drawing/SvgCanvas.h"
 
 #include <QBuffer>
@@ -11,8 +12,6 @@ namespace kelvaro {
 
 namespace {
 
-constexpr double pointsPerInch = 72;
-constexpr double inchesPerMetre = 1 / 0.0254;
 constexpr int printDotsPerInch = 300;
 constexpr int svgUnitsPerInch = 720; // whole units are fine enough for the size of the picture
 

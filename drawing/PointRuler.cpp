@@ -7,8 +7,6 @@ namespace kelvaro {
 
 namespace {
 
-constexpr double pointsPerInch = 72;
-constexpr double inchesPerMetre = 1 / 0.0254;
 constexpr double finest = 16; // units of the ruler in a point
 
 /// A device on which a point is many dots, so that no width is rounded by much.
@@ -25,8 +23,8 @@ const QImage &Ruler() {
 
 } // namespace
 
-double DotsPerPoint(const QPainter &painter) {
-    return painter.device()->logicalDpiY() / pointsPerInch;
+double DotsPerPoint(const QPaintDevice &device) {
+    return device.logicalDpiY() / pointsPerInch;
 }
 
 double WidthOf(const QString &text, const QFont &font) {

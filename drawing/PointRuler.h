@@ -3,7 +3,7 @@
 #include "drawing/TextLines.h"
 
 #include <QFont>
-#include <QPainter>
+#include <QPaintDevice>
 #include <QString>
 
 #include <vector>
@@ -13,8 +13,11 @@ namespace kelvaro {
 // Measures in points, of text that is painted later, on whatever device. They hold for fonts without hinting,
 // which are set in points.
 
-/// The units of a painter that make a point.
-double DotsPerPoint(const QPainter &painter);
+constexpr double pointsPerInch = 72;
+constexpr double inchesPerMetre = 1 / 0.0254;
+
+/// The units of a device that make a point.
+double DotsPerPoint(const QPaintDevice &device);
 
 double WidthOf(const QString &text, const QFont &font);
 

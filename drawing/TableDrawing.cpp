@@ -174,12 +174,12 @@ double TableDrawing::HeightOf(std::size_t first, std::size_t last) const {
 
 /// Below a point.
 void TableDrawing::PaintRule(QPainter &painter, QPointF left, double thickness) const {
-    PutRule(painter, QRectF(left, QSizeF(width_, thickness) * DotsPerPoint(painter)), lineColour);
+    PutRule(painter, QRectF(left, QSizeF(width_, thickness) * DotsPerPoint(*painter.device())), lineColour);
 }
 
 /// Returns the height of what it has painted.
 double TableDrawing::PaintTitles(QPainter &painter, QPointF topLeft) const {
-    const double dots = DotsPerPoint(painter);
+    const double dots = DotsPerPoint(*painter.device());
     const double padding = titlePadding * points_;
     PaintRule(painter, topLeft, thickRule);
     painter.setPen(lineColour);
@@ -189,7 +189,7 @@ double TableDrawing::PaintTitles(QPainter &painter, QPointF topLeft) const {
 }
 
 void TableDrawing::PaintRows(QPainter &painter, QPointF topLeft, std::size_t first, std::size_t last) const {
-    const double dots = DotsPerPoint(painter);
+    const double dots = DotsPerPoint(*painter.device());
     double y = PaintTitles(painter, topLeft);
     const auto corner = [&] { return topLeft + QPointF(0, y * dots); };
     for (std::size_t index = first; index < last; ++index) {

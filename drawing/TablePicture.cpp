@@ -62,7 +62,7 @@ Picture PictureOf(const TableContent &content, const ChartHeading &heading, cons
     return {NameAndTitle(heading),
             {width + 2 * margin, bottom + 2 * margin},
             [table, width, top, lines = std::move(lines)](QPainter &painter) {
-                const double point = DotsPerPoint(painter);
+                const double point = DotsPerPoint(*painter.device());
                 for (const TextPiece &line : lines) {
                     painter.setPen(line.colour);
                     PutText(painter, QPointF(margin + line.left, margin + line.baseline) * point, line.text,

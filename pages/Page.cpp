@@ -11,7 +11,7 @@ namespace {
 
 class ItemPainter {
 public:
-    explicit ItemPainter(QPainter &painter) : painter_(painter), dots_(DotsPerPoint(painter)) {}
+    explicit ItemPainter(QPainter &painter) : painter_(painter), dots_(DotsPerPoint(*painter.device())) {}
 
     void operator()(const TextItem &item) const {
         painter_.setPen(item.colour);

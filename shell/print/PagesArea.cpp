@@ -1,6 +1,7 @@
 #include "shell/print/PagesArea.h"
 
 #include "drawing/ChartColours.h"
+#include "drawing/PointRuler.h"
 #include "shell/widgets/ParchmentPalette.h"
 
 #include <QFocusEvent>
@@ -20,8 +21,7 @@ namespace kelvaro {
 
 namespace {
 
-constexpr int gap = 12; // pixels around a sheet
-constexpr double pointsPerInch = 72;
+constexpr int gap = 12;        // pixels around a sheet
 constexpr int wheelStep = 120; // eighths of a degree
 constexpr int linesPerPage = 20;
 constexpr std::array zoomSteps{PagesArea::leastZoom, 0.33, 0.5, 0.67, 0.75, 0.9, 1.0, 1.25, 1.5, 2.0, 3.0,
@@ -90,7 +90,7 @@ QRectF PagesArea::PlaceOf(int page) const {
 }
 
 QSizeF PagesArea::SizeAt(double zoom) const {
-    return pages_ ? pages_->Paper() * (zoom * logicalDpiY() / pointsPerInch) : QSizeF();
+    return pages_ ? pages_->Paper() * (zoom * DotsPerPoint(*this)) : QSizeF();
 }
 
 QSize PagesArea::Content() const {

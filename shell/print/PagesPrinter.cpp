@@ -1,5 +1,7 @@
 #include "shell/print/PagesPrinter.h"
 
+#include "drawing/PointRuler.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -7,7 +9,6 @@ namespace kelvaro {
 
 namespace {
 
-constexpr double pointsPerInch = 72;
 constexpr double blankBorder = 36; // of a page, in points; nothing stands in it
 
 /// The first place of a length that keeps it within bounds, as near to the middle as they let it be.
@@ -37,7 +38,7 @@ PrintJob JobOf(std::shared_ptr<const HoroscopePages> pages) {
                 const QRectF place = PlaceOnSheet(pages->Paper(), device.pageLayout());
                 const double scale = place.width() / pages->Paper().width();
                 painter.save();
-                painter.translate(place.topLeft() * device.logicalDpiY() / pointsPerInch);
+                painter.translate(place.topLeft() * DotsPerPoint(device));
                 painter.scale(scale, scale);
                 pages->Paint(static_cast<int>(sheet), painter);
                 painter.restore();
