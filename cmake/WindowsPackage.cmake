@@ -7,5 +7,4 @@ set_target_properties(kelvaro PROPERTIES WIN32_EXECUTABLE ON)
 
 install(TARGETS kelvaro RUNTIME DESTINATION .)
 install(FILES ${KELVARO_SEED_DATABASE} DESTINATION . RENAME DBMirvaneBasic.mdb)
-install(FILES packaging/DBMirvaneBasic.original DESTINATION .)
 install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/zoneinfo DESTINATION .)

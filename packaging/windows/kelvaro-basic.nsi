@@ -5,8 +5,8 @@
 ;   SIZE     what the files need on the disk, in KB
 ;   OUTPUT   the installer's file
 ;
-; The user's charts and settings are not among the files: the program keeps them in the user's local application data and
-; in the registry. So neither a later version nor the removal touches them.
+; The program keeps the user's charts in the database beside itself, and settings in the registry. Neither a later version
+; nor the removal touches them.
 
 ; As the program, for 64 bits only.
 Target amd64-unicode
@@ -40,6 +40,8 @@ VIAddVersionKey LegalCopyright "Copyright (C) 2026 Kelvaro Technologies Pvt Ltd"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "${NAME} will be removed. Your charts stay, in the file DBMirvaneBasic.mdb of this \
+  folder; a later installation into it finds them again."
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
@@ -69,13 +71,11 @@ Section
   no_earlier:
   ClearErrors
   !include "${LISTS}\install.nsh"
-  ; A database without the mark of an original has the charts of somebody.
-  IfFileExists "$INSTDIR\DBMirvaneBasic.mdb" in_use
-    SetOutPath "$INSTDIR"
-    File "${FILES}\DBMirvaneBasic.mdb"
-    File "${FILES}\DBMirvaneBasic.original"
-  in_use:
   SetOutPath "$INSTDIR"
+  ; One that is there has the user's charts.
+  IfFileExists "$INSTDIR\DBMirvaneBasic.mdb" has_charts
+    File "${FILES}\DBMirvaneBasic.mdb"
+  has_charts:
   WriteUninstaller "$INSTDIR\uninstall.exe"
   IfErrors 0 +4
     MessageBox MB_OK|MB_ICONSTOP "The files cannot be written into $INSTDIR." /SD IDOK
@@ -95,14 +95,10 @@ Section
   WriteRegDWORD HKCU "${UNINSTALL_KEY}" "NoRepair" 1
 SectionEnd
 
-; Takes away what was installed, file by file: the folder may hold what somebody else has put there.
+; Takes away what was installed, file by file, but for the database: the folder may hold what somebody else has put there.
 Section Uninstall
   !insertmacro RequireEnded uninstall
   !include "${LISTS}\delete.nsh"
-  IfFileExists "$INSTDIR\DBMirvaneBasic.original" 0 no_original
-    Delete "$INSTDIR\DBMirvaneBasic.mdb"
-    Delete "$INSTDIR\DBMirvaneBasic.original"
-  no_original:
   Delete "$INSTDIR\uninstall.exe"
   !include "${LISTS}\folders.nsh"
   RMDir "$INSTDIR"

@@ -26,7 +26,7 @@ constexpr std::string_view copiedMark = "DBMirvaneBasic.copied";
 constexpr std::string_view originalMark = "DBMirvaneBasic.original";
 
 /// The super-user could write into the folder of an installed program, but the charts would go with it.
-bool IsInstalled(const fs::path &programFolder) {
+bool IsShared(const fs::path &programFolder) {
     std::error_code unreadable;
     return fs::exists(programFolder / originalMark, unreadable);
 }
@@ -155,7 +155,7 @@ void SetUp(const fs::path &userFolder, const fs::path &programFile) {
 
 fs::path FindDatabaseFile(const fs::path &programFolder, const fs::path &userFolder) {
     fs::path programFile = programFolder / databaseFileName;
-    if (!IsInstalled(programFolder) && CanWriteInto(programFolder)) {
+    if (!IsShared(programFolder) && CanWriteInto(programFolder)) {
         return programFile;
     }
     fs::path userFile = userFolder / databaseFileName;
