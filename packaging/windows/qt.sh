@@ -19,17 +19,18 @@ qt_options=(
     -DFEATURE_jpeg=OFF -DFEATURE_gif=OFF
 )
 
+# install_qt OPTION...
 install_qt() {
     local source=$windows_cache/build/qt6-base host
     host=/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/cmake
     unpack_source qt6-base
     cmake -G Ninja -S "$source" -B "$source/out" --toolchain "$windows_toolchain" \
         -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$windows_root" -DBUILD_SHARED_LIBS=ON \
-        -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$host" "${qt_options[@]}"
+        -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="$host" "$@"
     cmake --build "$source/out"
     cmake --install "$source/out"
     cp "$source"/LICENSES/{LGPL,GPL}-3.0-only.txt "$windows_root/share/licenses"
 }
 
-once qt6-base install_qt
+once qt6-base install_qt "${qt_options[@]}"
 echo "Qt for Windows stands in $windows_root"

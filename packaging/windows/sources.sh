@@ -59,12 +59,14 @@ unpack_source() {
     cp "$windows_cache/build/$package/debian/copyright" "$windows_root/share/licenses/$package.txt"
 }
 
-# once NAME COMMAND...: runs what has not yet run to its end in this cache folder.
+# once NAME FUNCTION ARGUMENT...: runs what has not yet run to its end in this cache folder as it now stands.
 once() {
-    local done=$windows_cache/done/$1
+    local done=$windows_cache/done/$1 step
     shift
-    [ ! -f "$done" ] || return 0
-    "$@"
-    mkdir -p "$(dirname "$done")"
-    touch "$done"
+    step="$* $(declare -f "$1")"
+    if [ ! -f "$done" ] || [ "$(<"$done")" != "$step" ]; then
+        "$@"
+        mkdir -p "$(dirname "$done")"
+        printf '%s\n' "$step" >"$done"
+    fi
 }
