@@ -1,6 +1,7 @@
 #pragma once
 
 #include "horoscope/entry/BirthStorage.h"
+#include "tests/horoscope/EnteredBirth.h"
 #include "tests/horoscope/HoroscopeFixture.h"
 #include "tests/horoscope/MemorySettings.h"
 #include "tests/store/StoreFixture.h"
@@ -12,16 +13,8 @@ constexpr std::int32_t indianZone = 181;
 /// Fields and a horoscope on a database file of their own.
 class BirthEntryTest : public store::StoreTest {
 protected:
-    /// A birth at Hyderabad, entered by the choices of the lists.
     BirthFields Entered(const std::string &hour = "02", bool isPm = true) {
-        BirthFields fields = FieldsAtLoad(MomentOf({1965, 7, 4}, {0, 15, 0}));
-        fields.Txt_VC_ChartName = "Velnesh";
-        fields.cbHour = hour;
-        fields.Opt_PM = isPm;
-        ChooseCountry(fields, {"India", 101}, lists_, horoscope_.state);
-        fields.txt_VC_City = "Hyderabad (A.P)";
-        ChooseCity(fields, lists_);
-        return fields;
+        return EnteredBirth(lists_, horoscope_.state, hour, isPm);
     }
 
     Notice Save(BirthFields &fields) { return SaveBirth(fields, connection_, settings_).notice; }

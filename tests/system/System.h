@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace kelvaro {
 
@@ -41,5 +43,23 @@ struct Streams {
 /// Runs a program to its end; its exit status, 0 where all went well. One that hangs is ended after two
 /// minutes where the system has a means for it.
 int Run(const std::string &program, const std::string &options, const Streams &streams);
+
+/// A program at work in a folder. What still runs is ended with the object.
+class StartedProgram {
+public:
+    StartedProgram(const std::filesystem::path &program, const std::vector<std::string> &arguments,
+                   const std::filesystem::path &folder);
+    StartedProgram(const StartedProgram &) = delete;
+    StartedProgram &operator=(const StartedProgram &) = delete;
+    ~StartedProgram();
+
+    /// Waits for its end; its exit status, 0 where all went well.
+    int Wait();
+    /// Ends it in the midst of what it does; whether it was still running.
+    bool Kill();
+
+private:
+    std::intptr_t process_ = 0; ///< 0 when it has ended
+};
 
 } // namespace kelvaro

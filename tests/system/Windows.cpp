@@ -7,6 +7,7 @@
 #include <fstream>
 #include <string>
 #include <system_error>
+#include <utility>
 
 namespace kelvaro {
 
@@ -83,6 +84,46 @@ int Run(const std::string &program, const std::string &options, const Streams &s
 
 bool TakesFoldersAsInput() {
     return false;
+}
+
+StartedProgram::StartedProgram(const fs::path &program, const std::vector<std::string> &arguments,
+                               const fs::path &folder) {
+    const fs::path file = fs::absolute(program);
+    std::wstring command = L"\"" + file.wstring() + L"\"";
+    for (const std::string &argument : arguments) {
+        command.append(L" ").append(argument.begin(), argument.end());
+    }
+    STARTUPINFOW start{};
+    start.cb = sizeof start;
+    PROCESS_INFORMATION started{};
+    if (CreateProcessW(file.c_str(), command.data(), nullptr, nullptr, TRUE, 0, nullptr, folder.c_str(),
+                       &start, &started) == 0) {
+        throw fs::filesystem_error("a program cannot be started", file,
+                                   {static_cast<int>(GetLastError()), std::system_category()});
+    }
+    CloseHandle(started.hThread);
+    process_ = reinterpret_cast<std::intptr_t>(started.hProcess);
+}
+
+StartedProgram::~StartedProgram() {
+    if (process_ != 0) {
+        Kill();
+    }
+}
+
+int StartedProgram::Wait() {
+    const auto process = reinterpret_cast<HANDLE>(std::exchange(process_, 0));
+    DWORD status = EXIT_FAILURE;
+    WaitForSingleObject(process, INFINITE);
+    GetExitCodeProcess(process, &status);
+    CloseHandle(process);
+    return static_cast<int>(status);
+}
+
+bool StartedProgram::Kill() {
+    constexpr UINT killed = 1000;
+    TerminateProcess(reinterpret_cast<HANDLE>(process_), killed);
+    return Wait() == static_cast<int>(killed);
 }
 
 } // namespace kelvaro
