@@ -54,23 +54,11 @@ std::string TimeUnderstood(const BirthFields &fields) {
     return clock.empty() ? "no such time" : clock;
 }
 
-/// The beginning of a text that is longer than so many bytes, so that the words around it can be seen.
-std::string Beginning(std::string_view text, std::size_t most = 48) {
-    if (text.size() <= most) {
-        return std::string(text);
-    }
-    std::size_t end = most;
-    const auto continuesLetter = [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-    };
-    while (end > 0 && continuesLetter(text[end])) {
-        --end;
-    }
-    return std::string(text.substr(0, end)) + "\u2026";
-}
+/// Of a text that the user knows, so that the words around it can be seen.
+constexpr std::size_t shownLetters = 48;
 
 std::string PlaceText(std::string_view city, const store::Place &place) {
-    return Beginning(city) + " " + NumberText(place.latDeg) + " " + place.latNS + " " +
+    return OneLine(city, shownLetters) + " " + NumberText(place.latDeg) + " " + place.latNS + " " +
            NumberText(place.latMin) + " " + NumberText(place.lonDeg) + " " + place.lonEW + " " +
            NumberText(place.lonMin);
 }
@@ -111,7 +99,7 @@ std::string GenderUnderstood(const BirthFields &fields) {
 std::string SavedName(const BirthFields &fields) {
     const std::string person = store::PersonOf(fields.savedAs);
     const std::string_view date = std::string_view(fields.savedAs).substr(person.size());
-    return Beginning(person) + (date.empty() ? "" : ", " + Beginning(date.substr(1)));
+    return OneLine(person, shownLetters) + (date.empty() ? "" : ", " + OneLine(date.substr(1), shownLetters));
 }
 
 } // namespace
@@ -146,11 +134,11 @@ std::string BirthAsUnderstood(const BirthFields &fields, const UnlistedPlaces &u
 
 std::string NameOfBirth(const BirthFields &fields) {
     const std::string_view person = Trimmed(fields.Txt_VC_ChartName);
-    std::string name = person.empty() ? "no name" : Beginning(person, 24);
+    std::string name = person.empty() ? "no name" : OneLine(person, 24);
     const char *between = ", ";
     for (const std::string *part : {&fields.txt_Date, &fields.txt_Month, &fields.txt_Year}) {
         if (!IsBlank(*part)) {
-            name.append(between).append(Beginning(*part, 4));
+            name.append(between).append(OneLine(*part, 5));
             between = " ";
         }
     }
