@@ -33,12 +33,9 @@ struct ClockReading {
     friend bool operator==(const ClockReading &, const ClockReading &) = default;
 };
 
-/// The last year for which the records of the machine tell how clocks are put.
-inline constexpr int lastYearOfClocks = 2037;
-
 /// What the machine's tz database records of a zone ("America/Chicago") for a date and time of its clocks.
 /// Nothing where the machine has no such database, for a zone that it does not know, and after
-/// `lastYearOfClocks`. The first call for a zone reads its file.
+/// `lastYearOfClocks` (2037). The first call for a zone reads its file.
 std::optional<ClockReading> ReadClock(const std::string &zone, const CivilMoment &shown);
 
 /// The release of the machine's tz database, "2025b"; empty where it has none or does not tell.

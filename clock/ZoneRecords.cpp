@@ -157,7 +157,7 @@ ZonePeriods PeriodsIn(const Content &content) {
 /// Whether a file lists all changes of the years that clocks are told of. One of the slim form leaves them to
 /// the rule in its last line, which has commas and is not read.
 bool ListsAllChanges(const Content &content, std::string_view lastLine) {
-    constexpr sys_seconds lastYear = std::chrono::sys_days{std::chrono::year{2037} / 1 / 1};
+    constexpr sys_seconds lastYear = std::chrono::sys_days{std::chrono::year{lastYearOfClocks} / 1 / 1};
     return lastLine.find(',') == std::string_view::npos ||
            (!content.changes.empty() && content.changes.back() >= lastYear);
 }

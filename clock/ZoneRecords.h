@@ -24,9 +24,13 @@ struct ZonePeriod {
 /// All periods of a zone in their order, each beginning where the one before ends; never empty.
 using ZonePeriods = std::vector<ZonePeriod>;
 
+/// The last year for which the lists of changes tell how clocks are put.
+inline constexpr int lastYearOfClocks = 2037;
+
 /// The periods in the content of a compiled file of the tz database (RFC 8536), with the times of 64 bits.
 /// What its last line says of the years beyond its list of changes is not read. Nothing where the content is
-/// no such file, and where the list ends before 2037 and leaves the years after it to that line.
+/// no such file, and where the list ends before `lastYearOfClocks` and leaves the years after it to that
+/// line.
 std::optional<ZonePeriods> ZonePeriodsIn(std::string_view content);
 
 /// The periods of a zone ("America/Chicago") in a folder of such files. Nothing where there is no such zone.
