@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Runs the tests for Windows under Wine and tries the installer there, as its users would: installs it, starts the program, types a birth and saves it, starts
-# again, makes the reports, installs over it and removes it. Everything lies in a folder for the trial. Leaves pictures in
-# build/windows-installer and the time of the start in docs/benchmarks.md.
+# Runs the tests for Windows under Wine and tries the installer there, as its users would: installs it, starts the
+# program, types a birth and saves it, starts again, makes the reports, installs over it, removes it and installs it
+# again. Everything lies in a folder for the trial. Leaves pictures in build/windows-installer and the time of the start in
+# docs/benchmarks.md.
 # usage: try-installer.sh [INSTALLER]
 set -euo pipefail
 [ $# -eq 0 ] || set -- "$(realpath "$1")"

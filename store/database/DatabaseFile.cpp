@@ -25,7 +25,8 @@ namespace fs = std::filesystem;
 constexpr std::string_view copiedMark = "DBMirvaneBasic.copied";
 constexpr std::string_view originalMark = "DBMirvaneBasic.original";
 
-/// The super-user could write into the folder of an installed program, but the charts would go with it.
+/// The super-user could write into the folder of a program that is installed for all, but the charts would go
+/// with it.
 bool IsShared(const fs::path &programFolder) {
     std::error_code unreadable;
     return fs::exists(programFolder / originalMark, unreadable);

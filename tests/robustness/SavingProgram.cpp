@@ -1,10 +1,9 @@
 // A copy of the program that saves charts in the database of the folder that it is started in.
-// usage: kelvaro_saving_program pairs NUMBER    saves pairs of charts from that number on until it is killed,
-// and
-//                                               adds a byte to the file "saved" for each new chart
-//        kelvaro_saving_program charts NAME N   saves N charts of that name and changes each at once,
-//        computing a
-//                                               horoscope now and then
+// usage: kelvaro_saving_program pairs NUMBER
+//            saves pairs of charts from that number on until it is killed, and adds a byte to the file
+//            "saved" for each new chart
+//        kelvaro_saving_program charts NAME COUNT
+//            saves so many charts of that name and changes each at once, computing a horoscope now and then
 
 #include "horoscope/Horoscope.h"
 #include "horoscope/entry/BirthStorage.h"
